@@ -1,0 +1,47 @@
+// Runs every benchmark, then prints, for each pair named "<case>/ours" and "<case>/peer...",
+// the time of ours divided by the time of each peer (below 1: ours is faster).
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
+      const std::string name = run.benchmark_name();
+      const auto slash = name.find('/');
+      if (slash == std::string::npos) continue;
+      m_Times[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedRealTime();
+    }
+  }
+  void Finalize() override {
+    ConsoleReporter::Finalize();
+    std::printf("\n%-44s %-22s %12s\n", "case", "peer", "ours/peer");
+    for (const auto& [name, sides] : m_Times) {
+      const auto ours = sides.find("ours");
+      if (ours == sides.end()) continue;
+      for (const auto& [side, time] : sides) {
+        if (side == "ours" || time <= 0) continue;
+        std::printf("%-44s %-22s %12.3f\n", name.c_str(), side.c_str(), ours->second / time);
+      }
+    }
+  }
+
+private:
+  std::map<std::string, std::map<std::string, double>> m_Times;
+};
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  benchmark::Shutdown();
+}

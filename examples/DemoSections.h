@@ -1,0 +1,3 @@
+#pragma once
+// Each section of the demo shows one part of the library end to end.
+void DemoFoundation();

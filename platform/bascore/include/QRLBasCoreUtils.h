@@ -1,0 +1,6 @@
+#pragma once
+// Counted start-up and finalise of the BasCoreUtils library.
+#include <BASCORE_Export.h>
+
+BASCORE_EXPORT void QRLBasCoreUtils_initialize(int& count);
+BASCORE_EXPORT void QRLBasCoreUtils_finalize(int& count);

@@ -1,0 +1,31 @@
+#pragma once
+// The application's text output streams. aio_cerr is the error stream; tests and hosts
+// may point it elsewhere with Redirect.
+#include <BASCORE_Export.h>
+
+#include <iosfwd>
+#include <string_view>
+
+class atr_StringBase;
+
+class BASCORE_EXPORT aio_ostream {
+public:
+  explicit aio_ostream(std::ostream* target) noexcept : m_Target(target) {}
+
+  aio_ostream& operator<<(std::string_view text);
+  aio_ostream& operator<<(const char* text);
+  aio_ostream& operator<<(const atr_StringBase& text);
+  aio_ostream& operator<<(char c);
+  aio_ostream& operator<<(int value);
+  aio_ostream& operator<<(unsigned int value);
+  aio_ostream& operator<<(double value);
+  aio_ostream& Flush();
+
+  // Points the stream at another target and answers the previous one.
+  std::ostream* Redirect(std::ostream* target) noexcept;
+
+private:
+  std::ostream* m_Target;
+};
+
+BASCORE_EXPORT aio_ostream& aio_cerr();

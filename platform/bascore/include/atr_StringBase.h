@@ -1,0 +1,99 @@
+#pragma once
+// Reference-counted text: copies share one buffer until one of them is written.
+#include <BASCORE_Export.h>
+
+#include <atomic>
+#include <compare>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+class BASCORE_EXPORT atr_StringBase {
+public:
+  atr_StringBase() noexcept = default;
+  atr_StringBase(const char* text);
+  atr_StringBase(const char* text, int length);
+  atr_StringBase(std::string_view text);
+  atr_StringBase(const std::string& text) : atr_StringBase(std::string_view(text)) {}
+  // Numbers as decimal text; a double takes its shortest form that reads back exactly.
+  explicit atr_StringBase(int value);
+  explicit atr_StringBase(unsigned int value);
+  explicit atr_StringBase(long long value);
+  explicit atr_StringBase(double value);
+
+  atr_StringBase(const atr_StringBase& other) noexcept;
+  atr_StringBase(atr_StringBase&& other) noexcept : m_Rep(other.m_Rep) { other.m_Rep = nullptr; }
+  atr_StringBase& operator=(const atr_StringBase& other) noexcept;
+  atr_StringBase& operator=(atr_StringBase&& other) noexcept;
+  ~atr_StringBase();
+
+  // printf-style formatting into a new text.
+  static atr_StringBase Format(const char* format, ...)
+#if defined(__GNUC__)
+      __attribute__((format(printf, 1, 2)))
+#endif
+      ;
+
+  const char* CStr() const noexcept { return m_Rep ? m_Rep->text.c_str() : ""; }
+  operator std::string_view() const noexcept { return View(); }
+  std::string_view View() const noexcept {
+    return m_Rep ? std::string_view(m_Rep->text) : std::string_view();
+  }
+  std::string StdString() const { return std::string(View()); }
+  int Length() const noexcept { return m_Rep ? static_cast<int>(m_Rep->text.size()) : 0; }
+  bool IsEmpty() const noexcept { return Length() == 0; }
+  char operator[](int index) const noexcept { return View()[static_cast<std::size_t>(index)]; }
+  bool IsShared() const noexcept { return m_Rep && m_Rep->refs.load(std::memory_order_acquire) > 1; }
+
+  // Searches answer Length() when the text does not occur, like an end position.
+  int Find(std::string_view what, int start = 0) const noexcept;
+  int Find(char what, int start = 0) const noexcept;
+  bool Contains(std::string_view what) const noexcept { return Find(what) < Length(); }
+  bool Contains(char what) const noexcept { return Find(what) < Length(); }
+  atr_StringBase Substr(int start, int count = 0x7FFFFFFF) const;
+
+  atr_StringBase& Append(std::string_view text);
+  atr_StringBase& Append(char c);
+  atr_StringBase& operator+=(std::string_view text) { return Append(text); }
+  atr_StringBase& operator+=(const atr_StringBase& text) { return Append(text.View()); }
+  atr_StringBase& operator+=(const char* text) { return Append(std::string_view(text)); }
+  atr_StringBase& operator+=(char c) { return Append(c); }
+  // Counts beyond the end are clipped; a start beyond the end does nothing.
+  atr_StringBase& Erase(int start, int count = 0x7FFFFFFF);
+  atr_StringBase& Insert(int position, std::string_view text);
+  atr_StringBase& Replace(int start, int count, std::string_view text);
+  atr_StringBase& ReplaceAll(std::string_view from, std::string_view to);
+
+  friend bool operator==(const atr_StringBase& a, const atr_StringBase& b) noexcept {
+    return a.m_Rep == b.m_Rep || a.View() == b.View();
+  }
+  friend bool operator==(const atr_StringBase& a, const char* b) noexcept { return a.View() == b; }
+  friend bool operator==(const atr_StringBase& a, std::string_view b) noexcept {
+    return a.View() == b;
+  }
+  // Byte-wise order, so "OFF" comes before "ON".
+  friend std::strong_ordering operator<=>(const atr_StringBase& a,
+                                          const atr_StringBase& b) noexcept {
+    return a.View().compare(b.View()) <=> 0;
+  }
+
+private:
+  struct Rep {
+    std::atomic<int> refs{1};
+    std::string text;
+  };
+  std::string& Mutable();
+  void Release() noexcept;
+
+  Rep* m_Rep = nullptr;  // null is the empty text
+};
+
+BASCORE_EXPORT atr_StringBase operator+(const atr_StringBase& a, std::string_view b);
+
+template <>
+struct std::hash<atr_StringBase> {
+  std::size_t operator()(const atr_StringBase& s) const noexcept {
+    return std::hash<std::string_view>()(s.View());
+  }
+};

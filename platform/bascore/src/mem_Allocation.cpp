@@ -1,0 +1,11 @@
+#include <mem_Allocation.h>
+
+#include <cstdlib>
+#include <new>
+
+void* mem_Malloc(std::size_t size) {
+  if (void* block = std::malloc(size == 0 ? 1 : size)) return block;
+  throw std::bad_alloc();
+}
+
+void mem_Free(void* block) noexcept { std::free(block); }

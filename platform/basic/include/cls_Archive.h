@@ -1,0 +1,63 @@
+#pragma once
+// A set of persisted records, written through cls_WriteVisitor and read through
+// cls_ReadVisitor, kept in memory or in an archive file. The file is versioned and
+// checksummed; Save writes a temporary file and renames it into place, so a failed save
+// leaves the old file intact. A truncated, corrupt or foreign file raises nex_TextException
+// saying what is wrong and where.
+#include <BASIC_Export.h>
+#include <cls_ReadVisitor.h>
+#include <cls_WriteVisitor.h>
+
+#include <filesystem>
+#include <iosfwd>
+#include <map>
+#include <string>
+#include <string_view>
+
+class BASIC_EXPORT cls_Archive {
+public:
+  static constexpr std::uint32_t Version = 1;
+  static constexpr int MaxDepth = 200;  // nesting of records and lists
+
+  cls_Archive() = default;
+  cls_Archive(cls_Archive&&) noexcept = default;
+  cls_Archive& operator=(cls_Archive&&) noexcept = default;
+  cls_Archive(const cls_Archive&) = delete;
+  cls_Archive& operator=(const cls_Archive&) = delete;
+
+  // Writing: one top-level record per writer.
+  cls_WriteVisitor NewRoot();
+  template <class T>
+  void Add(const T& object) {
+    object.DBWrite(NewRoot());
+  }
+
+  // Reading.
+  int RootCount() const noexcept { return static_cast<int>(m_Roots.size()); }
+  const cls_Value& RootValue(int index) const;
+  cls_ReadVisitor Root(int index) const;
+  template <class T>
+  std::unique_ptr<T> Read(int index) const {
+    return Root(index).ReadObject<T>(RootValue(index));
+  }
+  // The first record written with a uid, or null.
+  const cls_Record* FindUid(cls_Uid uid) const noexcept;
+
+  // The file form.
+  std::string ToBytes() const;
+  static cls_Archive FromBytes(std::string_view bytes, std::string_view origin = "memory");
+  void Save(const std::filesystem::path& path) const;
+  static cls_Archive Load(const std::filesystem::path& path);
+  // A readable listing of every record, for people.
+  void Dump(std::ostream& out) const;
+
+private:
+  friend class cls_WriteVisitor;
+  friend class cls_ArchiveCodec;
+  friend class cls_ReadVisitor;
+  bool Claim(const cls_Uid& uid, cls_Record* record);
+
+  std::vector<std::unique_ptr<cls_Value>> m_Roots;  // stable addresses for writers' slots
+  std::map<cls_Uid, cls_Record*> m_ByUid;
+  mutable int m_ReadDepth = 0;  // guards cyclic references while reading
+};

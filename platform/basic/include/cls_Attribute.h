@@ -1,0 +1,34 @@
+#pragma once
+// One persisted attribute of a class: ordinal and name, kind code, type argument, flags.
+#include <cow_String.h>
+
+struct cls_AttributeName {
+  int ordinal;
+  cow_String name;
+};
+
+struct cls_Attribute {
+  int ordinal;
+  cow_String name;
+  int kind;
+  unsigned int typeArgument;
+  unsigned int flags;
+
+  friend bool operator==(const cls_Attribute&, const cls_Attribute&) = default;
+};
+
+// Attribute kind codes.
+enum cls_AttributeKind : int {
+  cls_KIND_CHAR = 1,
+  cls_KIND_INT = 5,
+  cls_KIND_UINT = 7,
+  cls_KIND_DOUBLE = 10,
+  cls_KIND_STRING = 11,
+  cls_KIND_TRANSLATABLE = 12,
+  cls_KIND_BOOL = 13,
+  cls_KIND_ENUM = 14,
+  cls_KIND_REFERENCE = 15,
+  cls_KIND_LIST = 16,
+  cls_KIND_ARRAY = 17,
+  cls_KIND_FLOAT = 18,
+};

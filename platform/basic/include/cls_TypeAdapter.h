@@ -1,0 +1,15 @@
+#pragma once
+// Metadata of a concrete class T: adds the factory (from a read visitor) and the copy.
+#include <cls_AbsTypeAdapter.h>
+
+template <class T>
+class cls_TypeAdapter : public cls_AbsTypeAdapter<T> {
+public:
+  using cls_AbsTypeAdapter<T>::cls_AbsTypeAdapter;
+
+  bool IsAbstract() const noexcept override { return false; }
+  void* Construct(const cls_ReadVisitor& reader) const override { return new T(reader); }
+  void* Clone(const void* object) const override {
+    return new T(*static_cast<const T*>(object));
+  }
+};

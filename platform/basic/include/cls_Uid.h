@@ -1,0 +1,21 @@
+#pragma once
+// Persistence identity: 64 bits; default-constructed is null, AllocateUid() gives a fresh one.
+#include <BASIC_Export.h>
+
+#include <compare>
+#include <cstdint>
+
+class BASIC_EXPORT cls_Uid {
+public:
+  constexpr cls_Uid() noexcept = default;
+  constexpr explicit cls_Uid(std::uint64_t value) noexcept : m_Value(value) {}
+
+  static cls_Uid AllocateUid() noexcept;
+
+  constexpr bool IsNull() const noexcept { return m_Value == 0; }
+  constexpr std::uint64_t Value() const noexcept { return m_Value; }
+  friend constexpr auto operator<=>(const cls_Uid&, const cls_Uid&) noexcept = default;
+
+private:
+  std::uint64_t m_Value = 0;
+};

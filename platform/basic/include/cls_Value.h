@@ -1,0 +1,72 @@
+#pragma once
+// One field value of a persisted record: a scalar, a text, an enumerator name, a list, a
+// two-dimensional array, a nested record, or a reference (by uid) to a record written earlier.
+#include <cls_Uid.h>
+#include <cow_String.h>
+
+#include <cstdint>
+#include <memory>
+#include <variant>
+#include <vector>
+
+class cls_Value;
+struct cls_Record;
+
+struct cls_EnumName {
+  cow_String name;
+  friend bool operator==(const cls_EnumName&, const cls_EnumName&) = default;
+};
+
+struct cls_Ref {
+  cls_Uid uid;
+  friend bool operator==(const cls_Ref&, const cls_Ref&) = default;
+};
+
+struct cls_Matrix {
+  int rows = 0;
+  int columns = 0;
+  std::vector<cls_Value> cells;  // row-major
+};
+
+class cls_Value {
+public:
+  enum Kind : std::uint8_t {
+    NONE, BOOL, CHAR, INT, UINT, DOUBLE, TEXT, ENUM, LIST, MATRIX, RECORD, REF, FLOAT, INT64
+  };
+  using List = std::vector<cls_Value>;
+  using Data = std::variant<std::monostate, bool, char, std::int32_t, std::uint32_t, double,
+                            cow_String, cls_EnumName, List, cls_Matrix,
+                            std::shared_ptr<cls_Record>, cls_Ref, float, std::int64_t>;
+
+  cls_Value() noexcept = default;
+  template <class T>
+    requires std::is_constructible_v<Data, T&&>
+  cls_Value(T&& value) : m_Data(std::forward<T>(value)) {}
+
+  Kind GetKind() const noexcept { return static_cast<Kind>(m_Data.index()); }
+  template <class T>
+  const T* As() const noexcept {
+    return std::get_if<T>(&m_Data);
+  }
+  const Data& GetData() const noexcept { return m_Data; }
+  Data& GetData() noexcept { return m_Data; }
+
+  static const char* KindName(Kind kind) noexcept;
+
+private:
+  Data m_Data;
+};
+
+struct cls_Record {
+  unsigned int typeId = 0;
+  cls_Uid uid;
+  cls_Value parent;  // the parent class level: a record, a reference, or none
+  std::vector<std::pair<cow_String, cls_Value>> fields;
+
+  const cls_Value* Find(std::string_view name) const noexcept {
+    for (const auto& field : fields) {
+      if (field.first == name) return &field.second;
+    }
+    return nullptr;
+  }
+};

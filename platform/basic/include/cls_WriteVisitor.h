@@ -1,0 +1,63 @@
+#pragma once
+// Writes objects into an archive's record tree. A class level writes itself as
+//   if (!writer.StartLevel<Parent>(TypeId(), m_Uid, *this)) return;   // or StartWrite at a root
+//   writer.Write("name", value); ...
+// StartWrite answers false when the uid was already written in this pass (the slot then
+// holds a reference to the earlier record); a null uid is always written.
+#include <BASIC_Export.h>
+#include <cls_Value.h>
+
+#include <vector>
+
+class cls_Archive;
+
+class BASIC_EXPORT cls_WriteVisitor {
+public:
+  // A writer for one more top-level record of the archive.
+  explicit cls_WriteVisitor(cls_Archive& archive);
+  // A writer for the parent class level of the record that outer is writing.
+  cls_WriteVisitor(const cls_WriteVisitor& outer, unsigned int parentTypeId);
+
+  bool StartWrite(unsigned int typeId, const cls_Uid& uid) const;
+  template <class Parent, class Self>
+  bool StartLevel(unsigned int typeId, const cls_Uid& uid, const Self& self) const {
+    if (!StartWrite(typeId, uid)) return false;
+    self.Parent::DBWrite(cls_WriteVisitor(*this, Parent::TypeId()));
+    return true;
+  }
+
+  void Write(const char* name, cls_Value value) const;
+  void Write(const char* name, const atr_StringBase& text) const;
+  void Write(const char* name, const char* text) const;
+  void WriteEnum(const char* name, const cow_String& enumeratorName) const;
+
+  // A nested object written by its own DBWrite (a record, or a reference to one).
+  template <class T>
+  void WriteObject(const char* name, const T& object) const {
+    object.DBWrite(Field(name));
+  }
+  // A nested object of a registered class known only by its type identifier; null
+  // writes an empty value.
+  void WriteObject(const char* name, unsigned int typeId, const void* object) const;
+  // A list of nested objects: write(i, writer) writes item i through writer.
+  template <class WriteItem>
+  void WriteObjects(const char* name, int count, WriteItem&& writeItem) const {
+    cls_Value::List& items = BeginList(name, count);
+    for (int i = 0; i < count; ++i) writeItem(i, Item(items));
+  }
+
+  unsigned int CurrentTypeId() const noexcept;
+
+private:
+  cls_WriteVisitor(cls_Archive* archive, cls_Value* slot, unsigned int expectedTypeId) noexcept
+      : m_Archive(archive), m_Slot(slot), m_ExpectedTypeId(expectedTypeId) {}
+  cls_WriteVisitor Field(const char* name) const;
+  cls_WriteVisitor Item(cls_Value::List& items) const;
+  cls_Value::List& BeginList(const char* name, int count) const;
+  cls_Record& Current() const;
+
+  cls_Archive* m_Archive;
+  cls_Value* m_Slot;                // where StartWrite puts the record or the reference
+  unsigned int m_ExpectedTypeId;    // 0: any class
+  mutable cls_Record* m_Current = nullptr;
+};

@@ -1,0 +1,9 @@
+#pragma once
+// The BasicUtils B-tree: an ordered copy-on-write map with the same interface as cow_Map.
+#include <cow_Map.h>
+
+template <class K, class V>
+class cow_Btree : public cow_Map<K, V> {
+public:
+  using cow_Map<K, V>::cow_Map;
+};

@@ -1,0 +1,6 @@
+#pragma once
+// Clone policy of cow_COW for plain values: the copy constructor.
+template <class T>
+struct cow_Copy {
+  static T* Clone(const T& object) { return new T(object); }
+};

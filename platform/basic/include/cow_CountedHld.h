@@ -1,0 +1,21 @@
+#pragma once
+// A counted handle that shares one object among its copies without ever copying it
+// (views on the same numbers share one buffer).
+#include <memory>
+
+template <class T>
+class cow_CountedHld {
+public:
+  cow_CountedHld() noexcept = default;
+  explicit cow_CountedHld(T* owned) : m_Object(owned) {}
+  explicit cow_CountedHld(std::unique_ptr<T> owned) : m_Object(std::move(owned)) {}
+
+  T* Get() const noexcept { return m_Object.get(); }
+  T* operator->() const noexcept { return m_Object.get(); }
+  T& operator*() const noexcept { return *m_Object; }
+  explicit operator bool() const noexcept { return m_Object != nullptr; }
+  long Count() const noexcept { return m_Object.use_count(); }
+
+private:
+  std::shared_ptr<T> m_Object;
+};

@@ -1,0 +1,50 @@
+#pragma once
+// A copy-on-write map ordered by key (text keys byte-wise, so "OFF" comes before "ON").
+#include <cow_List.h>
+
+#include <map>
+
+template <class K, class V>
+class cow_Map {
+public:
+  using const_iterator = typename std::map<K, V>::const_iterator;
+
+  cow_Map() noexcept = default;
+  cow_Map(std::initializer_list<std::pair<const K, V>> entries)
+      : m_Entries(std::map<K, V>(entries)) {}
+
+  int Length() const noexcept { return static_cast<int>(Entries().size()); }
+  bool IsEmpty() const noexcept { return Entries().empty(); }
+  bool Contains(const K& key) const { return Entries().count(key) != 0; }
+  // The value under key, or null.
+  const V* Find(const K& key) const {
+    const auto at = Entries().find(key);
+    return at == Entries().end() ? nullptr : &at->second;
+  }
+  V* FindForWrite(const K& key) {
+    if (!Contains(key)) return nullptr;
+    return &m_Entries.Write().find(key)->second;
+  }
+  void Insert(const K& key, const V& value) { m_Entries.Write().insert_or_assign(key, value); }
+  void Insert(const K& key, V&& value) { m_Entries.Write().insert_or_assign(key, std::move(value)); }
+  bool Remove(const K& key) { return Contains(key) && m_Entries.Write().erase(key) != 0; }
+  void Clear() { m_Entries = cow_Shared<std::map<K, V>>(); }
+  cow_List<K> Keys() const {
+    std::vector<K> keys;
+    keys.reserve(Entries().size());
+    for (const auto& entry : Entries()) keys.push_back(entry.first);
+    return cow_List<K>(std::move(keys));
+  }
+  const_iterator begin() const noexcept { return Entries().begin(); }
+  const_iterator end() const noexcept { return Entries().end(); }
+  bool IsShared() const noexcept { return m_Entries.IsShared(); }
+
+  friend bool operator==(const cow_Map& a, const cow_Map& b) {
+    return a.m_Entries.SharesWith(b.m_Entries) || a.Entries() == b.Entries();
+  }
+
+private:
+  const std::map<K, V>& Entries() const noexcept { return m_Entries.Read(); }
+
+  cow_Shared<std::map<K, V>> m_Entries;
+};

@@ -1,0 +1,65 @@
+#pragma once
+// The counted body behind the copy-on-write containers: copies share one body, Read never
+// copies, Write un-shares first. An empty handle reads as a default-constructed value.
+#include <atomic>
+#include <utility>
+
+template <class T>
+class cow_Shared {
+public:
+  cow_Shared() noexcept = default;
+  explicit cow_Shared(T value) : m_Body(new Body{std::move(value)}) {}
+  cow_Shared(const cow_Shared& other) noexcept : m_Body(other.m_Body) { Retain(); }
+  cow_Shared(cow_Shared&& other) noexcept : m_Body(std::exchange(other.m_Body, nullptr)) {}
+  cow_Shared& operator=(const cow_Shared& other) noexcept {
+    other.Retain();
+    Release();
+    m_Body = other.m_Body;
+    return *this;
+  }
+  cow_Shared& operator=(cow_Shared&& other) noexcept {
+    if (this != &other) {
+      Release();
+      m_Body = std::exchange(other.m_Body, nullptr);
+    }
+    return *this;
+  }
+  ~cow_Shared() { Release(); }
+
+  const T& Read() const noexcept { return m_Body ? m_Body->value : Empty(); }
+  T& Write() {
+    if (!m_Body) {
+      m_Body = new Body{T{}};
+    } else if (m_Body->refs.load(std::memory_order_acquire) != 1) {
+      Body* own = new Body{m_Body->value};
+      Release();
+      m_Body = own;
+    }
+    return m_Body->value;
+  }
+  bool IsShared() const noexcept {
+    return m_Body && m_Body->refs.load(std::memory_order_acquire) > 1;
+  }
+  bool SharesWith(const cow_Shared& other) const noexcept { return m_Body == other.m_Body; }
+
+private:
+  struct Body {
+    explicit Body(const T& v) : value(v) {}
+    explicit Body(T&& v) : value(std::move(v)) {}
+    std::atomic<int> refs{1};
+    T value;
+  };
+  static const T& Empty() noexcept {
+    static const T empty{};
+    return empty;
+  }
+  void Retain() const noexcept {
+    if (m_Body) m_Body->refs.fetch_add(1, std::memory_order_relaxed);
+  }
+  void Release() noexcept {
+    if (m_Body && m_Body->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) delete m_Body;
+    m_Body = nullptr;
+  }
+
+  Body* m_Body = nullptr;
+};

@@ -1,0 +1,14 @@
+#pragma once
+// The BasicUtils text: the same counted, copy-on-write text as atr_StringBase.
+#include <atr_String.h>
+
+class cow_String : public atr_StringBase {
+public:
+  using atr_StringBase::atr_StringBase;
+  cow_String() noexcept = default;
+  cow_String(const atr_StringBase& text) noexcept : atr_StringBase(text) {}
+  cow_String(atr_StringBase&& text) noexcept : atr_StringBase(std::move(text)) {}
+};
+
+template <>
+struct std::hash<cow_String> : std::hash<atr_StringBase> {};

@@ -1,0 +1,321 @@
+#include "cls_ArchiveCodec.h"
+
+#include <cls_MetadataRegistrar.h>
+#include <nex_TextException.h>
+
+#include <array>
+#include <bit>
+#include <cstring>
+#include <ostream>
+
+namespace {
+constexpr const char* kSource = "cls/impl/cls_ArchiveCodec";
+
+std::uint32_t Crc32(std::string_view bytes) {
+  static const auto table = [] {
+    std::array<std::uint32_t, 256> t{};
+    for (std::uint32_t i = 0; i < 256; ++i) {
+      std::uint32_t c = i;
+      for (int k = 0; k < 8; ++k) c = (c & 1) ? 0xEDB88320u ^ (c >> 1) : c >> 1;
+      t[i] = c;
+    }
+    return t;
+  }();
+  std::uint32_t crc = 0xFFFFFFFFu;
+  for (unsigned char b : bytes) crc = table[(crc ^ b) & 0xFFu] ^ (crc >> 8);
+  return crc ^ 0xFFFFFFFFu;
+}
+
+class Encoder {
+public:
+  std::string bytes;
+
+  template <class T>
+  void Put(T value) {
+    using U = std::make_unsigned_t<std::conditional_t<std::is_floating_point_v<T>,
+                                                      std::conditional_t<sizeof(T) == 8,
+                                                                         std::int64_t,
+                                                                         std::int32_t>,
+                                                      T>>;
+    U bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    for (std::size_t i = 0; i < sizeof bits; ++i) {
+      bytes.push_back(static_cast<char>((bits >> (8 * i)) & 0xFFu));
+    }
+  }
+  void Text(std::string_view text) {
+    Put(static_cast<std::uint32_t>(text.size()));
+    bytes.append(text);
+  }
+  void Value(const cls_Value& value) {
+    bytes.push_back(static_cast<char>(value.GetKind()));
+    std::visit([this](const auto& data) { Data(data); }, value.GetData());
+  }
+
+private:
+  void Data(std::monostate) {}
+  void Data(bool b) { Put<std::uint8_t>(b ? 1 : 0); }
+  void Data(char c) { Put(static_cast<std::uint8_t>(c)); }
+  template <class N>
+    requires std::is_arithmetic_v<N>
+  void Data(N number) {
+    Put(number);
+  }
+  void Data(const cow_String& text) { Text(text.View()); }
+  void Data(const cls_EnumName& name) { Text(name.name.View()); }
+  void Data(const cls_Value::List& items) {
+    Put(static_cast<std::uint32_t>(items.size()));
+    for (const cls_Value& item : items) Value(item);
+  }
+  void Data(const cls_Matrix& matrix) {
+    Put<std::int32_t>(matrix.rows);
+    Put<std::int32_t>(matrix.columns);
+    for (const cls_Value& cell : matrix.cells) Value(cell);
+  }
+  void Data(const std::shared_ptr<cls_Record>& record) {
+    Put<std::uint32_t>(record->typeId);
+    Put<std::uint64_t>(record->uid.Value());
+    Value(record->parent);
+    Put(static_cast<std::uint32_t>(record->fields.size()));
+    for (const auto& [name, value] : record->fields) {
+      Text(name.View());
+      Value(value);
+    }
+  }
+  void Data(const cls_Ref& ref) { Put<std::uint64_t>(ref.uid.Value()); }
+};
+
+class Decoder {
+public:
+  Decoder(std::string_view bytes, std::string_view origin, std::size_t offset, cls_Archive& archive,
+          bool (*claim)(cls_Archive&, const cls_Uid&, cls_Record*))
+      : m_Bytes(bytes), m_Origin(origin), m_Base(offset), m_Archive(archive), m_Claim(claim) {}
+
+  [[noreturn]] void Fail(const char* what) const {
+    NEX_THROW(nex_TextException(atr_StringBase::Format(
+                  "archive '%.*s': %s at byte %zu", static_cast<int>(m_Origin.size()),
+                  m_Origin.data(), what, m_Base + m_At)),
+              kSource);
+  }
+
+  template <class T>
+  T Get() {
+    Need(sizeof(T));
+    using U = std::make_unsigned_t<std::conditional_t<std::is_floating_point_v<T>,
+                                                      std::conditional_t<sizeof(T) == 8,
+                                                                         std::int64_t,
+                                                                         std::int32_t>,
+                                                      T>>;
+    U bits = 0;
+    for (std::size_t i = 0; i < sizeof bits; ++i) {
+      bits |= static_cast<U>(static_cast<unsigned char>(m_Bytes[m_At + i])) << (8 * i);
+    }
+    m_At += sizeof bits;
+    T value;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+  }
+  // A count of items that each take at least one byte: more than the bytes left is corrupt.
+  std::size_t Count() {
+    const std::uint32_t count = Get<std::uint32_t>();
+    if (count > m_Bytes.size() - m_At) Fail("a count larger than the data left");
+    return count;
+  }
+  cow_String Text() {
+    const std::uint32_t length = Get<std::uint32_t>();
+    Need(length);
+    cow_String text(std::string_view(m_Bytes.data() + m_At, length));
+    m_At += length;
+    return text;
+  }
+  cls_Value Value(int depth) {
+    if (depth > cls_Archive::MaxDepth) Fail("values nest too deeply");
+    const auto kind = static_cast<cls_Value::Kind>(Get<std::uint8_t>());
+    switch (kind) {
+      case cls_Value::NONE: return cls_Value();
+      case cls_Value::BOOL: return Bool();
+      case cls_Value::CHAR: return static_cast<char>(Get<std::uint8_t>());
+      case cls_Value::INT: return Get<std::int32_t>();
+      case cls_Value::UINT: return Get<std::uint32_t>();
+      case cls_Value::DOUBLE: return Get<double>();
+      case cls_Value::FLOAT: return Get<float>();
+      case cls_Value::INT64: return Get<std::int64_t>();
+      case cls_Value::TEXT: return Text();
+      case cls_Value::ENUM: return cls_EnumName{Text()};
+      case cls_Value::LIST: return List(depth);
+      case cls_Value::MATRIX: return Matrix(depth);
+      case cls_Value::RECORD: return Record(depth);
+      case cls_Value::REF: return cls_Ref{cls_Uid(Get<std::uint64_t>())};
+    }
+    --m_At;
+    Fail("an unknown value kind");
+  }
+  bool AtEnd() const noexcept { return m_At == m_Bytes.size(); }
+
+private:
+  void Need(std::size_t n) const {
+    if (n > m_Bytes.size() - m_At) Fail("the data ends early (truncated)");
+  }
+  cls_Value Bool() {
+    const std::uint8_t b = Get<std::uint8_t>();
+    if (b > 1) Fail("a bool that is neither 0 nor 1");
+    return b == 1;
+  }
+  cls_Value List(int depth) {
+    cls_Value::List items(Count());
+    for (cls_Value& item : items) item = Value(depth + 1);
+    return items;
+  }
+  cls_Value Matrix(int depth) {
+    cls_Matrix matrix;
+    matrix.rows = Get<std::int32_t>();
+    matrix.columns = Get<std::int32_t>();
+    if (matrix.rows < 0 || matrix.columns < 0) Fail("an array of negative size");
+    const auto cells = static_cast<std::uint64_t>(matrix.rows) *
+                       static_cast<std::uint64_t>(matrix.columns);
+    if (cells > m_Bytes.size() - m_At) Fail("an array larger than the data left");
+    matrix.cells.resize(static_cast<std::size_t>(cells));
+    for (cls_Value& cell : matrix.cells) cell = Value(depth + 1);
+    return matrix;
+  }
+  cls_Value Record(int depth) {
+    auto record = std::make_shared<cls_Record>();
+    record->typeId = Get<std::uint32_t>();
+    record->uid = cls_Uid(Get<std::uint64_t>());
+    m_Claim(m_Archive, record->uid, record.get());
+    record->parent = Value(depth + 1);
+    const auto parentKind = record->parent.GetKind();
+    if (parentKind != cls_Value::NONE && parentKind != cls_Value::RECORD &&
+        parentKind != cls_Value::REF) {
+      Fail("a parent level that is not an object");
+    }
+    record->fields.resize(Count());
+    for (auto& [name, value] : record->fields) {
+      name = Text();
+      value = Value(depth + 1);
+    }
+    return record;
+  }
+
+  std::string_view m_Bytes;
+  std::string_view m_Origin;
+  std::size_t m_Base;
+  std::size_t m_At = 0;
+  cls_Archive& m_Archive;
+  bool (*m_Claim)(cls_Archive&, const cls_Uid&, cls_Record*);
+};
+
+cow_String ClassLabel(unsigned int typeId) {
+  if (const cls_ClassMetadata* metadata =
+          cls_MetadataRegistrar::Instance().Registrar().Find(typeId)) {
+    return atr_StringBase::Format("%s (0x%x)", metadata->Name().CStr(), typeId);
+  }
+  return atr_StringBase::Format("class 0x%x", typeId);
+}
+
+void DumpValue(const cls_Value& value, std::ostream& out, int indent);
+
+void DumpRecord(const cls_Record& record, std::ostream& out, int indent) {
+  out << ClassLabel(record.typeId).View() << " uid " << record.uid.Value() << '\n';
+  const std::string pad(static_cast<std::size_t>(indent + 2), ' ');
+  if (record.parent.GetKind() != cls_Value::NONE) {
+    out << pad << "(parent) ";
+    DumpValue(record.parent, out, indent + 2);
+  }
+  for (const auto& [name, value] : record.fields) {
+    out << pad << name.View() << " = ";
+    DumpValue(value, out, indent + 2);
+  }
+}
+
+struct DumpVisitor {
+  std::ostream& out;
+  int indent;
+  void operator()(std::monostate) const { out << "none\n"; }
+  void operator()(bool b) const { out << (b ? "true" : "false") << '\n'; }
+  void operator()(char c) const { out << '\'' << c << "'\n"; }
+  void operator()(double d) const { out << atr_StringBase(d).View() << '\n'; }
+  void operator()(float f) const { out << atr_StringBase(static_cast<double>(f)).View() << "f\n"; }
+  template <class N>
+    requires std::is_integral_v<N>
+  void operator()(N n) const {
+    out << n << '\n';
+  }
+  void operator()(const cow_String& text) const { out << '"' << text.View() << "\"\n"; }
+  void operator()(const cls_EnumName& name) const { out << name.name.View() << '\n'; }
+  void operator()(const cls_Value::List& items) const {
+    out << "list of " << items.size() << '\n';
+    Items(items);
+  }
+  void operator()(const cls_Matrix& matrix) const {
+    out << "array " << matrix.rows << " x " << matrix.columns << '\n';
+    Items(matrix.cells);
+  }
+  void operator()(const std::shared_ptr<cls_Record>& record) const {
+    DumpRecord(*record, out, indent);
+  }
+  void operator()(const cls_Ref& ref) const { out << "-> uid " << ref.uid.Value() << '\n'; }
+  void Items(const std::vector<cls_Value>& items) const {
+    const std::string pad(static_cast<std::size_t>(indent + 2), ' ');
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      out << pad << '[' << i << "] ";
+      DumpValue(items[i], out, indent + 2);
+    }
+  }
+};
+
+void DumpValue(const cls_Value& value, std::ostream& out, int indent) {
+  std::visit(DumpVisitor{out, indent}, value.GetData());
+}
+}  // namespace
+
+std::string cls_ArchiveCodec::Encode(const cls_Archive& archive) {
+  Encoder payload;
+  payload.Put(static_cast<std::uint32_t>(archive.m_Roots.size()));
+  for (const auto& root : archive.m_Roots) payload.Value(*root);
+
+  Encoder file;
+  file.bytes.append(Magic, sizeof Magic);
+  file.Put<std::uint32_t>(cls_Archive::Version);
+  file.Put<std::uint32_t>(Crc32(payload.bytes));
+  file.Put<std::uint64_t>(payload.bytes.size());
+  return file.bytes + payload.bytes;
+}
+
+cls_Archive cls_ArchiveCodec::Decode(std::string_view bytes, std::string_view origin) {
+  cls_Archive archive;
+  auto claim = [](cls_Archive& a, const cls_Uid& uid, cls_Record* record) {
+    return a.Claim(uid, record);
+  };
+  Decoder header(bytes, origin, 0, archive, claim);
+  if (bytes.size() < sizeof Magic || std::memcmp(bytes.data(), Magic, sizeof Magic) != 0) {
+    header.Fail("not an archive of this library (bad magic)");
+  }
+  (void)header.Get<std::uint64_t>();  // the magic
+  const auto version = header.Get<std::uint32_t>();
+  if (version != cls_Archive::Version) header.Fail("an unsupported format version");
+  const auto checksum = header.Get<std::uint32_t>();
+  const auto size = header.Get<std::uint64_t>();
+  if (size != bytes.size() - HeaderSize) {
+    header.Fail(size > bytes.size() - HeaderSize ? "the file ends early (truncated)"
+                                                 : "extra bytes after the data");
+  }
+  const std::string_view payload = bytes.substr(HeaderSize);
+  if (Crc32(payload) != checksum) header.Fail("the checksum does not match (corrupt file)");
+
+  Decoder decoder(payload, origin, HeaderSize, archive, claim);
+  const std::size_t roots = decoder.Count();
+  for (std::size_t i = 0; i < roots; ++i) {
+    archive.m_Roots.push_back(std::make_unique<cls_Value>(decoder.Value(0)));
+  }
+  if (!decoder.AtEnd()) decoder.Fail("extra bytes after the last record");
+  return archive;
+}
+
+void cls_ArchiveCodec::Dump(const cls_Archive& archive, std::ostream& out) {
+  out << "archive of " << archive.RootCount() << " record(s)\n";
+  for (int i = 0; i < archive.RootCount(); ++i) {
+    out << '[' << i << "] ";
+    DumpValue(archive.RootValue(i), out, 0);
+  }
+}

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Builds and runs every test: the suite in a normal build, again under ASan+UBSan,
+# then every fuzz target for a short time.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/deps.sh
+fuzz_seconds=${CVX_FUZZ_SECONDS:-20}
+
+run_suite() {
+  local preset=$1
+  echo "=== $preset"
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset"
+  ctest --preset "$preset"
+}
+
+run_suite debug
+run_suite asan
+
+echo "=== fuzz"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz
+bash scripts/fuzz.sh build/fuzz "$fuzz_seconds"
