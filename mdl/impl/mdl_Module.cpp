@@ -1,5 +1,9 @@
 #include "mdl_ClassTable.h"
 
+#include <mdl_Extension.h>
+#include <mdl_JaggedArray.h>
+#include <mdl_Repository.h>
+
 #include <UTI_CaeUtils.h>
 #include <UTI_ModuleStartup.h>
 #include <UTI_Modules.h>
@@ -8,7 +12,14 @@
 namespace {
 omi_UseCounter s_Uses;
 
-void Start() { UTI_StartModule(mdl_ModuleNumber, typ_ArchCompEntry(mdl_ClassTable), {}); }
+void Start() {
+  UTI_StartModule(mdl_ModuleNumber, typ_ArchCompEntry(mdl_ClassTable),
+                  {
+                      {&mdl_Extension::InitializeMetadata, 7},
+                      {&mdl_Repository::InitializeMetadata, 7},
+                      {&mdl_JaggedArray::InitializeMetadata, 4},
+                  });
+}
 }  // namespace
 
 void mdl_initialize(int& count) { s_Uses.Initialize(count, Start); }

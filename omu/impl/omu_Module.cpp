@@ -1,5 +1,28 @@
 #include "omu_ClassTable.h"
 
+#include <omu_AccessErrorException.h>
+#include <omu_ArgNumberErrorException.h>
+#include <omu_ArgTypeErrorException.h>
+#include <omu_AttributeErrorException.h>
+#include <omu_CorNameErrorException.h>
+#include <omu_FontErrorException.h>
+#include <omu_GenericTypeErrorException.h>
+#include <omu_GuiAccessErrorException.h>
+#include <omu_IndexErrorException.h>
+#include <omu_KeyErrorException.h>
+#include <omu_KeywordErrorException.h>
+#include <omu_KeywordTypeErrorException.h>
+#include <omu_NameErrorException.h>
+#include <omu_OverflowErrorException.h>
+#include <omu_PrimNone.h>
+#include <omu_PrimType.h>
+#include <omu_PrimWrapper.h>
+#include <omu_QueryPathMsg.h>
+#include <omu_RangeErrorException.h>
+#include <omu_TypeErrorException.h>
+#include <omu_ValueErrorException.h>
+#include <omu_ZeroDivisionErrorException.h>
+
 #include <UTI_CaeUtils.h>
 #include <UTI_ModuleStartup.h>
 #include <UTI_Modules.h>
@@ -8,7 +31,39 @@
 namespace {
 omi_UseCounter s_Uses;
 
-void Start() { UTI_StartModule(omu_ModuleNumber, typ_ArchCompEntry(omu_ClassTable), {}); }
+template <class T>
+constexpr UTI_Registration Register(int phase) {
+  return {&T::InitializeMetadata, phase};
+}
+
+void Start() {
+  UTI_StartModule(omu_ModuleNumber, typ_ArchCompEntry(omu_ClassTable),
+                  {
+                      Register<omu_ArgNumberErrorException>(2),
+                      Register<omu_ArgTypeErrorException>(2),
+                      Register<omu_GenericTypeErrorException>(2),
+                      Register<omu_KeywordErrorException>(2),
+                      Register<omu_KeywordTypeErrorException>(2),
+                      Register<omu_TypeErrorException>(2),
+                      Register<omu_CorNameErrorException>(2),
+                      Register<omu_AttributeErrorException>(2),
+                      Register<omu_RangeErrorException>(2),
+                      Register<omu_AccessErrorException>(2),
+                      Register<omu_FontErrorException>(2),
+                      Register<omu_GuiAccessErrorException>(2),
+                      Register<omu_IndexErrorException>(2),
+                      Register<omu_KeyErrorException>(2),
+                      Register<omu_NameErrorException>(2),
+                      Register<omu_OverflowErrorException>(2),
+                      Register<omu_ValueErrorException>(2),
+                      Register<omu_ZeroDivisionErrorException>(2),
+                      Register<omu_Primitive>(7),
+                      Register<omu_PrimType>(2),
+                      Register<omu_PrimNone>(2),
+                      Register<omu_PrimWrapper>(2),
+                      Register<omu_QueryPathMsg>(2),
+                  });
+}
 }  // namespace
 
 void omu_initialize(int& count) { s_Uses.Initialize(count, Start); }

@@ -1,0 +1,21 @@
+#pragma once
+// The operations every concrete primitive implements the same way, written once: Copy
+// through the copy constructor, DynTypeId from the class, Accept through the visitor's
+// overload for the class or its nearest base (a kind the visitor has none for visits nothing).
+#include <omu_PrimVisitor.h>
+#include <omu_Primitive.h>
+
+template <class Derived, class Base>
+class omu_PrimLeaf : public Base {
+public:
+  using Base::Base;
+
+  omu_Primitive* Copy() const override { return new Derived(Self()); }
+  unsigned int DynTypeId() const override { return Derived::TypeId(); }
+  void Accept(omu_PrimVisitor* visitor) const override {
+    if constexpr (requires { visitor->Visit(Self()); }) visitor->Visit(Self());
+  }
+
+private:
+  const Derived& Self() const noexcept { return static_cast<const Derived&>(*this); }
+};

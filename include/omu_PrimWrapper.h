@@ -1,0 +1,39 @@
+#pragma once
+// An opaque handle on a persistent object, so that a script can hold a repository object
+// without it being turned into primitives. A wrapper either borrows the object (it must
+// outlive the wrapper) or owns it (a copy, or one read back from an archive). Copies are
+// deep: the object is copied through the persistence layer. Wrappers are never equal.
+#include <omu_PrimLeaf.h>
+#include <omu_Primitive.h>
+
+#include <memory>
+
+class CVX_EXPORT omu_PrimWrapper : public omu_PrimLeaf<omu_PrimWrapper, omu_Primitive> {
+public:
+  omu_PrimWrapper() noexcept : omu_PrimLeaf('w') {}
+  // Borrows object, which must point at the most-derived object of class objType.
+  omu_PrimWrapper(const void* object, unsigned int objType);
+  omu_PrimWrapper(const omu_PrimWrapper& other);
+  omu_PrimWrapper& operator=(const omu_PrimWrapper& other);
+  explicit omu_PrimWrapper(const cls_ReadVisitor& reader);
+
+  cow_String TypeString() const override { return "Wrapper"; }
+  cow_String AsString(int) const override { return "Wrapper"; }
+  bool operator==(const omu_Primitive&) const override { return false; }
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+
+  const void* Object() const noexcept { return m_Object.get(); }
+  unsigned int ObjType() const noexcept { return m_ObjType; }
+  bool OwnsObject() const noexcept { return m_Owned; }
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(30); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+private:
+  void Own(void* object);
+
+  unsigned int m_ObjType = 0;
+  std::shared_ptr<const void> m_Object;
+  bool m_Owned = false;
+  cls_Uid m_WrapperUid;
+};

@@ -1,0 +1,46 @@
+#pragma once
+// The root of every value that crosses the scripting boundary. Each concrete kind stores a
+// one-character type code, set by its constructor and never changed.
+#include <CVX_Export.h>
+#include <UTI_Modules.h>
+#include <cls_Uid.h>
+#include <cow_String.h>
+
+class cls_ClassRegistrar;
+class cls_ReadVisitor;
+class cls_WriteVisitor;
+class omu_PrimVisitor;
+
+class CVX_EXPORT omu_Primitive {
+public:
+  virtual ~omu_Primitive();
+  virtual cow_String TypeString() const;
+  // The script text of the value; level is the nesting depth, 0 at the top.
+  virtual cow_String AsString(int level) const = 0;
+  virtual cow_String AsRepr() const;
+  virtual bool operator==(const omu_Primitive& other) const = 0;
+  virtual void Accept(omu_PrimVisitor* visitor) const = 0;
+  // A new heap copy owned by the caller.
+  virtual omu_Primitive* Copy() const = 0;
+  virtual unsigned int DynTypeId() const;
+  virtual void DBWrite(const cls_WriteVisitor& writer) const;
+
+  bool IsType(char code) const noexcept { return m_Type == code; }
+  char TypeCode() const noexcept { return m_Type; }
+  bool operator!=(const omu_Primitive& other) const { return !(*this == other); }
+  // True when this value's class is typeId or derives from it.
+  bool IsA(unsigned int typeId) const;
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(17); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+protected:
+  explicit omu_Primitive(char typeCode) noexcept : m_Type(typeCode) {}
+  explicit omu_Primitive(const cls_ReadVisitor& reader);
+  omu_Primitive(const omu_Primitive&) = default;
+  omu_Primitive& operator=(const omu_Primitive&) = default;
+
+private:
+  char m_Type;
+  cls_Uid m_Uid;
+};

@@ -1,0 +1,3 @@
+#include <omu_PrimVisitor.h>
+
+omu_PrimVisitor::~omu_PrimVisitor() = default;
