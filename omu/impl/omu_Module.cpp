@@ -14,6 +14,7 @@
 #include <omu_KeywordTypeErrorException.h>
 #include <omu_NameErrorException.h>
 #include <omu_OverflowErrorException.h>
+#include <omu_PrimEnumBase.h>
 #include <omu_PrimNone.h>
 #include <omu_PrimType.h>
 #include <omu_PrimWrapper.h>
@@ -58,6 +59,7 @@ void Start() {
                       Register<omu_ValueErrorException>(2),
                       Register<omu_ZeroDivisionErrorException>(2),
                       Register<omu_Primitive>(7),
+                      Register<omu_PrimEnumBase>(7),
                       Register<omu_PrimType>(2),
                       Register<omu_PrimNone>(2),
                       Register<omu_PrimWrapper>(2),

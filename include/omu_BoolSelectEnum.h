@@ -1,0 +1,11 @@
+#pragma once
+// Which spelling a boolean setting uses in scripts.
+#include <CVX_Export.h>
+#include <omu_PrimEnumRow.h>
+
+enum omu_BoolSelectEnum : int { omu_BOOL_SELECT_ON_OFF = 0, omu_BOOL_SELECT_TRUE_FALSE = 1 };
+
+template <>
+struct omu_PrimEnumTable<omu_BoolSelectEnum, 1> {
+  static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
+};
