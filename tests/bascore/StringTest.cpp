@@ -1,0 +1,91 @@
+#include <atr_String.h>
+#include <aio_ostream.h>
+#include <omi_UseCounter.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <sstream>
+
+TEST(AtrString, CopiesShareAndWritesUnshare) {
+  atr_StringBase a("shared text");
+  atr_StringBase b(a);
+  EXPECT_TRUE(a.IsShared());
+  b.Append("!");
+  EXPECT_EQ(a, "shared text");
+  EXPECT_EQ(b, "shared text!");
+  EXPECT_FALSE(a.IsShared());
+}
+
+TEST(AtrString, EditsClipAtTheEnds) {
+  atr_StringBase text("abcdef");
+  text.Erase(4, 100);
+  EXPECT_EQ(text, "abcd");
+  text.Erase(10, 1);
+  EXPECT_EQ(text, "abcd");
+  text.Replace(1, 2, "XYZ");
+  EXPECT_EQ(text, "aXYZd");
+  text.Insert(0, ">");
+  EXPECT_EQ(text, ">aXYZd");
+  text.Append(text.View().substr(1, 2));  // a part of itself
+  EXPECT_EQ(text, ">aXYZdaX");
+  EXPECT_EQ(text.ReplaceAll("X", "--"), ">a--YZda--");
+  EXPECT_EQ(text.Substr(2, 3), "--Y");
+}
+
+TEST(AtrString, FindAnswersTheLengthWhenAbsent) {
+  const atr_StringBase text("['a']");
+  EXPECT_EQ(text.Find("']"), 3);
+  EXPECT_EQ(text.Find("zz"), text.Length());
+  EXPECT_EQ(text.Find('a', 3), text.Length());
+  EXPECT_EQ(atr_StringBase().Find("x"), 0);
+}
+
+TEST(AtrString, NumbersUseTheShortestExactForm) {
+  EXPECT_EQ(atr_StringBase(1.0), "1");
+  EXPECT_EQ(atr_StringBase(0.1), "0.1");
+  EXPECT_EQ(atr_StringBase(1e20), "1e+20");
+  EXPECT_EQ(atr_StringBase(-0.0), "-0");
+  EXPECT_EQ(atr_StringBase(std::numeric_limits<double>::max()), "1.7976931348623157e+308");
+  EXPECT_EQ(atr_StringBase(-2147483647 - 1), "-2147483648");
+  EXPECT_EQ(atr_StringBase(4294967295u), "4294967295");
+  const double third = 1.0 / 3.0;
+  EXPECT_EQ(std::stod(atr_StringBase(third).StdString()), third);
+}
+
+TEST(AtrString, FormatAndComparison) {
+  EXPECT_EQ(atr_StringBase::Format("%s=%d", "n", 5), "n=5");
+  EXPECT_EQ(atr_StringBase::Format("%s", ""), "");
+  EXPECT_LT(atr_StringBase("OFF"), atr_StringBase("ON"));
+  EXPECT_EQ(atr_StringBase(), "");
+  EXPECT_TRUE(atr_StringBase(nullptr).IsEmpty());
+}
+
+TEST(AioOstream, RedirectsTheErrorStream) {
+  std::ostringstream captured;
+  std::ostream* previous = aio_cerr().Redirect(&captured);
+  aio_cerr() << "n=" << 3 << ' ' << atr_StringBase("x") << 2.5;
+  aio_cerr().Redirect(previous);
+  EXPECT_EQ(captured.str(), "n=3 x2.5");
+}
+
+TEST(UseCounter, StartsOnceStopsOnceAndDoesNotClamp) {
+  omi_UseCounter counter;
+  int count = 0;
+  int starts = 0;
+  int stops = 0;
+  counter.Finalize(count, [&] { ++stops; });  // a stop before any start
+  EXPECT_EQ(counter.Uses(), -1);
+  counter.Initialize(count, [&] { ++starts; });
+  EXPECT_EQ(starts, 0);  // the unbalanced stop swallowed this start
+  counter.Initialize(count, [&] { ++starts; });
+  counter.Initialize(count, [&] { ++starts; });
+  EXPECT_EQ(starts, 1);
+  EXPECT_EQ(count, 1);
+  counter.Finalize(count, [&] { ++stops; });
+  EXPECT_EQ(stops, 0);
+  counter.Finalize(count, [&] { ++stops; });
+  EXPECT_EQ(stops, 1);
+  EXPECT_EQ(count, 0);
+}

@@ -1,0 +1,215 @@
+#include "TestArchive.h"
+
+#include <QRLBasCoreUtils.h>
+#include <QRLCvuBasicUtils.h>
+#include <cls_Archive.h>
+#include <cls_MetadataRegistrar.h>
+#include <nex_AssertException.h>
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <fstream>
+#include <limits>
+
+namespace {
+class BasicLibrary : public ::testing::Environment {
+public:
+  void SetUp() override { QRLCvuBasicUtils_initialize(m_Count); }
+  void TearDown() override { QRLCvuBasicUtils_finalize(m_Count); }
+
+private:
+  int m_Count = 0;
+};
+const auto* const g_Basic = ::testing::AddGlobalTestEnvironment(new BasicLibrary);
+
+// A record of every value kind, written the way a class level writes itself.
+struct AllKinds {
+  static unsigned int TypeId() { return 0x7fff0001u; }
+  void DBWrite(const cls_WriteVisitor& w) const {
+    if (!w.StartWrite(TypeId(), cls_Uid(42))) return;
+    w.Write("bool", true);
+    w.Write("char", 'q');
+    w.Write("int", -7);
+    w.Write("uint", 4000000000u);
+    w.Write("int64", static_cast<std::int64_t>(-1) << 40);
+    w.Write("float", 1.5f);
+    w.Write("nan", std::bit_cast<double>(0x7ff8000000000abcull));
+    w.Write("minusZero", -0.0);
+    w.Write("tiny", std::numeric_limits<double>::denorm_min());
+    w.Write("text", "with \"quotes\"\nand a newline");
+    w.WriteEnum("state", "UNCHANGED");
+    w.Write("list", cls_Value::List{1, 2.5, cow_String("x")});
+    w.Write("matrix", cls_Matrix{2, 1, {cls_Value(1.0), cls_Value(2.0)}});
+    w.WriteObject("error", nex_TextException("nested"));
+  }
+};
+
+std::string Bytes(const cls_Archive& archive) { return archive.ToBytes(); }
+
+std::string MessageOf(std::string_view bytes) {
+  try {
+    cls_Archive::FromBytes(bytes, "test");
+  } catch (const nex_TextException& e) {
+    return e.Text().StdString();
+  }
+  return "accepted";
+}
+}  // namespace
+
+TEST(Archive, EveryValueKindRoundTripsBitForBit) {
+  cls_Archive archive;
+  archive.Add(AllKinds());
+  const cls_Archive loaded = SaveAndLoad(archive, "allkinds");
+  const cls_ReadVisitor r = loaded.Root(0);
+  EXPECT_EQ(r.TypeId(), AllKinds::TypeId());
+  EXPECT_EQ(r.Uid(), cls_Uid(42));
+  EXPECT_TRUE(r.Get<bool>("bool"));
+  EXPECT_EQ(r.Get<char>("char"), 'q');
+  EXPECT_EQ(r.Get<int>("int"), -7);
+  EXPECT_EQ(r.Get<unsigned int>("uint"), 4000000000u);
+  EXPECT_EQ(r.Get<long long>("int64"), -(1ll << 40));
+  EXPECT_EQ(r.Get<float>("float"), 1.5f);
+  EXPECT_EQ(std::bit_cast<std::uint64_t>(r.Get<double>("nan")), 0x7ff8000000000abcull);
+  EXPECT_TRUE(std::signbit(r.Get<double>("minusZero")));
+  EXPECT_EQ(r.Get<double>("tiny"), std::numeric_limits<double>::denorm_min());
+  EXPECT_EQ(r.Get<cow_String>("text"), "with \"quotes\"\nand a newline");
+  EXPECT_EQ(r.ReadEnum("state"), "UNCHANGED");
+  ASSERT_EQ(r.ReadList("list").size(), 3u);
+  EXPECT_EQ(*r.ReadList("list")[1].As<double>(), 2.5);
+  EXPECT_EQ(r.Field("matrix").As<cls_Matrix>()->rows, 2);
+  EXPECT_EQ(r.ReadObject<nex_TextException>("error")->Text(), "nested");
+  EXPECT_EQ(Bytes(loaded), Bytes(archive));
+}
+
+TEST(Archive, ReadingTheWrongFieldSaysWhatAndWhere) {
+  cls_Archive archive;
+  archive.Add(nex_TextException("t"));
+  const cls_ReadVisitor r = archive.Root(0);
+  EXPECT_THROW(
+      {
+        try {
+          r.Get<int>("text");
+        } catch (const nex_TextException& e) {
+          EXPECT_EQ(e.Text(), "archive record nex_TextException (uid 0): field 'text' holds a text, "
+                              "expected an int");
+          throw;
+        }
+      },
+      nex_TextException);
+  EXPECT_THROW(r.Get<int>("missing"), nex_TextException);
+  EXPECT_THROW(cls_ReadVisitor(r, 0x12345u), nex_TextException);  // not its parent
+}
+
+TEST(Archive, AUidWrittenTwiceBecomesAReferenceThatReadsBack) {
+  struct Item {
+    static unsigned int TypeId() { return 0x7fff0003u; }
+    void DBWrite(const cls_WriteVisitor& w) const {
+      if (!w.StartWrite(TypeId(), cls_Uid(9))) return;
+      w.Write("text", "one object");
+    }
+  };
+  struct Twice {
+    static unsigned int TypeId() { return 0x7fff0002u; }
+    void DBWrite(const cls_WriteVisitor& w) const {
+      w.StartWrite(TypeId(), cls_Uid());
+      w.WriteObject("first", Item());
+      w.WriteObject("second", Item());
+    }
+  };
+  cls_Archive archive;
+  archive.Add(Twice());
+  const cls_Archive loaded = SaveAndLoad(archive, "twice");
+  const cls_ReadVisitor r = loaded.Root(0);
+  EXPECT_NE(r.Field("first").As<std::shared_ptr<cls_Record>>(), nullptr);
+  EXPECT_EQ(*r.Field("second").As<cls_Ref>(), cls_Ref{cls_Uid(9)});
+  EXPECT_EQ(r.Nested("second").Get<cow_String>("text"), "one object");
+}
+
+TEST(Archive, AReferenceToItselfResolvesToTheSameRecord) {
+  struct Loop {
+    static unsigned int TypeId() { return nex_TextException::TypeId(); }
+    void DBWrite(const cls_WriteVisitor& w) const {
+      if (!w.StartWrite(TypeId(), cls_Uid(7))) return;
+      w.Write("text", "loop");
+      w.WriteObject("self", *this);  // uid 7 again: a reference to itself
+    }
+  };
+  cls_Archive archive;
+  archive.Add(Loop());
+  const cls_Archive loaded = SaveAndLoad(archive, "loop");
+  // The record lacks the parent level that nex_TextException reads first.
+  EXPECT_THROW(loaded.Read<nex_TextException>(0), nex_TextException);
+  const cls_ReadVisitor r = loaded.Root(0);
+  EXPECT_EQ(r.Nested("self").Uid(), cls_Uid(7));
+}
+
+TEST(ArchiveFile, EveryTruncationIsRefusedClearly) {
+  cls_Archive archive;
+  archive.Add(AllKinds());
+  const std::string bytes = Bytes(archive);
+  for (std::size_t length = 0; length < bytes.size(); ++length) {
+    const std::string message = MessageOf(std::string_view(bytes).substr(0, length));
+    ASSERT_TRUE(message.find("truncated") != std::string::npos ||
+                message.find("bad magic") != std::string::npos)
+        << length << ": " << message;
+  }
+  EXPECT_EQ(MessageOf(bytes), "accepted");
+}
+
+TEST(ArchiveFile, EverySingleBitFlipIsRefused) {
+  cls_Archive archive;
+  archive.Add(AllKinds());
+  const std::string bytes = Bytes(archive);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    for (int bit = 0; bit < 8; ++bit) {
+      std::string flipped = bytes;
+      flipped[i] = static_cast<char>(flipped[i] ^ (1 << bit));
+      ASSERT_NE(MessageOf(flipped), "accepted") << "byte " << i << " bit " << bit;
+    }
+  }
+  std::string corrupt = bytes;
+  corrupt.back() ^= 0x10;
+  EXPECT_EQ(MessageOf(corrupt),
+            "archive 'test': the checksum does not match (corrupt file) at byte 24");
+}
+
+TEST(ArchiveFile, ForeignAndMissingFilesAreRefused) {
+  const auto path = TestFile("foreign");
+  std::ofstream(path) << "just some text, not an archive";
+  try {
+    cls_Archive::Load(path);
+    FAIL() << "a foreign file was accepted";
+  } catch (const nex_TextException& e) {
+    EXPECT_NE(e.Text().View().find("not an archive of this library (bad magic)"),
+              std::string_view::npos);
+    EXPECT_NE(e.Text().View().find(path.string()), std::string_view::npos);
+  }
+  std::filesystem::remove(path);
+  EXPECT_THROW(cls_Archive::Load(TestFile("no-such-file")), nex_TextException);
+}
+
+TEST(ArchiveFile, AFailedSaveLeavesTheOldFileIntact) {
+  const auto path = TestFile("atomic");
+  cls_Archive first;
+  first.Add(nex_TextException("old"));
+  first.Save(path);
+  cls_Archive second;
+  second.Add(nex_TextException("new"));
+  EXPECT_THROW(second.Save(TestFolder() / "no-such-folder" / "x.cvxarch"), nex_TextException);
+  EXPECT_EQ(cls_Archive::Load(path).Read<nex_TextException>(0)->Text(), "old");
+  second.Save(path);
+  EXPECT_EQ(cls_Archive::Load(path).Read<nex_TextException>(0)->Text(), "new");
+  std::filesystem::remove(path);
+}
+
+TEST(ArchiveFile, DumpNamesClassesAndFields) {
+  cls_Archive archive;
+  archive.Add(nex_AssertException("x != 0"));
+  std::ostringstream dump;
+  archive.Dump(dump);
+  EXPECT_NE(dump.str().find("nex_AssertException (0x1f0004)"), std::string::npos) << dump.str();
+  EXPECT_NE(dump.str().find("condition = \"x != 0\""), std::string::npos) << dump.str();
+}

@@ -1,0 +1,74 @@
+#include <cls_AbsTypeAdapter.h>
+#include <cls_ClassRegistrar.h>
+#include <cls_TypeAdapter.h>
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+struct Base {
+  virtual ~Base() = default;
+  static unsigned int TypeId() { return cls_MakeTypeId(200, 1); }
+  virtual void DBWrite(const cls_WriteVisitor&) const {}
+};
+struct Leaf : Base {
+  static unsigned int TypeId() { return cls_MakeTypeId(200, 3); }
+  explicit Leaf(const cls_ReadVisitor&) {}
+  Leaf() = default;
+};
+struct Other {
+  static unsigned int TypeId() { return cls_MakeTypeId(201, 1); }
+  void DBWrite(const cls_WriteVisitor&) const {}
+};
+}  // namespace
+
+TEST(ClassRegistrar, FindsClassesAndWalksTheParentChain) {
+  cls_ClassRegistrar registrar;
+  registrar.AddClassMD(new cls_TypeAdapter<Leaf>("Leaf", 800, Base::TypeId()))
+      .AddAttribute({0, "a"}, cls_KIND_INT)
+      .AddAttribute({1, "b"}, cls_KIND_REFERENCE, cls_MakeTypeId(35, 1), 1);
+  // A child may be registered before its parent: type tests look parents up when asked.
+  registrar.AddClassMD(new cls_AbsTypeAdapter<Base>("Base", 514, cls_RootTypeId, 1));
+  registrar.AddClassMD(new cls_AbsTypeAdapter<Other>("Other", 800, cls_RootTypeId));
+
+  const cls_ClassMetadata* leaf = registrar.Find(Leaf::TypeId());
+  ASSERT_NE(leaf, nullptr);
+  EXPECT_EQ(leaf->Name(), "Leaf");
+  EXPECT_FALSE(leaf->IsAbstract());
+  EXPECT_TRUE(registrar.Find(Base::TypeId())->IsAbstract());
+  EXPECT_EQ(registrar.Find(Base::TypeId())->Extra(), 1u);
+  ASSERT_EQ(leaf->Attributes().size(), 2u);
+  EXPECT_EQ(leaf->Attributes()[1], (cls_Attribute{1, "b", 15, 0x230001u, 1}));
+
+  EXPECT_TRUE(registrar.IsA(Leaf::TypeId(), Leaf::TypeId()));
+  EXPECT_TRUE(registrar.IsA(Leaf::TypeId(), Base::TypeId()));
+  EXPECT_TRUE(registrar.IsA(Leaf::TypeId(), cls_RootTypeId));
+  EXPECT_FALSE(registrar.IsA(Base::TypeId(), Leaf::TypeId()));
+  EXPECT_FALSE(registrar.IsA(Leaf::TypeId(), Other::TypeId()));
+  EXPECT_FALSE(registrar.IsA(cls_MakeTypeId(200, 2), Base::TypeId()));  // not registered
+
+  EXPECT_EQ(registrar.Find(cls_MakeTypeId(200, 2)), nullptr);
+  EXPECT_EQ(registrar.Find(cls_MakeTypeId(999, 1)), nullptr);
+  EXPECT_THROW(registrar.Get(cls_MakeTypeId(999, 1)), nex_TextException);
+  EXPECT_THROW(registrar.Find(Base::TypeId())->Clone(nullptr), nex_TextException);
+}
+
+TEST(ClassRegistrar, ReRegisteringReplacesAndRemovingAModuleForgetsIt) {
+  cls_ClassRegistrar registrar;
+  registrar.AddClassMD(new cls_AbsTypeAdapter<Base>("First", 800, cls_RootTypeId));
+  registrar.AddClassMD(new cls_AbsTypeAdapter<Base>("Second", 800, cls_RootTypeId));
+  registrar.AddClassMD(new cls_AbsTypeAdapter<Other>("Other", 800, cls_RootTypeId));
+  EXPECT_EQ(registrar.Find(Base::TypeId())->Name(), "Second");
+  EXPECT_EQ(registrar.Classes().size(), 2u);
+  registrar.RemoveModule(200);
+  EXPECT_EQ(registrar.Find(Base::TypeId()), nullptr);
+  EXPECT_NE(registrar.Find(Other::TypeId()), nullptr);
+}
+
+TEST(ClassRegistrar, ConcreteAdaptersBuildCopyAndDestroy) {
+  cls_TypeAdapter<Leaf> adapter("Leaf", 800, Base::TypeId());
+  const Leaf original;
+  void* copy = adapter.Clone(&original);
+  ASSERT_NE(copy, nullptr);
+  adapter.Destroy(copy);  // leak-checked under the sanitizers
+}
