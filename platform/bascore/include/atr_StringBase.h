@@ -72,6 +72,9 @@ public:
   friend bool operator==(const atr_StringBase& a, std::string_view b) noexcept {
     return a.View() == b;
   }
+  friend bool operator==(const atr_StringBase& a, const std::string& b) noexcept {
+    return a.View() == b;
+  }
   // Byte-wise order, so "OFF" comes before "ON".
   friend std::strong_ordering operator<=>(const atr_StringBase& a,
                                           const atr_StringBase& b) noexcept {

@@ -1,0 +1,39 @@
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
+#include <mdl_JaggedArray.h>
+#include <mdl_Repository.h>
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+TEST(ModelClasses, ExtensionsAndRepositoriesRoundTrip) {
+  mdl_Repository repository("parts");
+  EXPECT_TRUE(repository.AddKey("Part-1"));
+  EXPECT_TRUE(repository.AddKey("Part-2"));
+  EXPECT_FALSE(repository.AddKey("Part-1"));
+  const auto loaded = RoundTrip<mdl_Extension>(repository);
+  ASSERT_EQ(loaded->DynTypeId(), mdl_Repository::TypeId());
+  EXPECT_EQ(static_cast<const mdl_Repository&>(*loaded), repository);
+  EXPECT_EQ(*RoundTrip<mdl_Extension>(mdl_Extension("ext")), mdl_Extension("ext"));
+}
+
+TEST(ModelClasses, JaggedArraysKeepRaggedRows) {
+  mdl_JaggedArray array;
+  array.AppendRow(cow_List<double>{1.0, 2.0, 3.0});
+  array.AppendRow(cow_List<double>());
+  array.AppendRow(cow_List<double>{-0.5});
+  const auto loaded = RoundTrip<mdl_JaggedArray>(array);
+  EXPECT_EQ(*loaded, array);
+  EXPECT_EQ(loaded->Row(1).Length(), 0);
+}
+
+TEST(ModelClasses, ARowOfTheWrongKindIsRefused) {
+  struct BadRows {
+    void DBWrite(const cls_WriteVisitor& w) const {
+      w.StartWrite(mdl_JaggedArray::TypeId(), cls_Uid());
+      w.Write("rows", cls_Value::List{cls_Value::List{1.0}, cow_String("x")});
+    }
+  };
+  EXPECT_THROW(RoundTrip<mdl_JaggedArray>(BadRows()), nex_TextException);
+}
