@@ -1,12 +1,45 @@
 // The archive reader fed arbitrary bytes: it may refuse them with nex_TextException, never
-// crash; what it accepts is built into objects and dumped.
+// crash or leak. Inputs whose first byte is odd are taken as the payload of a well-formed file
+// (the fuzzer could not otherwise get past the checksum), so decoding and building objects
+// from records are exercised deeply; what is accepted is dumped and built into objects.
 #include <UTI_CaeUtils.h>
 #include <cls_Archive.h>
+#include <cls_MetadataRegistrar.h>
 #include <nex_Exception.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <sstream>
+#include <string>
+
+namespace {
+// A file whose header fits the payload: the header of an empty archive, re-checksummed.
+std::string WithHeader(std::string_view payload) {
+  std::string file = cls_Archive().ToBytes().substr(0, 24);
+  std::uint32_t crc = 0xFFFFFFFFu;
+  for (unsigned char b : payload) {
+    crc ^= b;
+    for (int k = 0; k < 8; ++k) crc = (crc & 1) ? 0xEDB88320u ^ (crc >> 1) : crc >> 1;
+  }
+  crc ^= 0xFFFFFFFFu;
+  const std::uint64_t size = payload.size();
+  for (int i = 0; i < 4; ++i) file[12 + i] = static_cast<char>((crc >> (8 * i)) & 0xFF);
+  for (int i = 0; i < 8; ++i) file[16 + i] = static_cast<char>((size >> (8 * i)) & 0xFF);
+  return file.append(payload);
+}
+
+void BuildEveryRecord(const cls_Archive& archive) {
+  const cls_ClassRegistrar& registry = cls_MetadataRegistrar::Instance().Registrar();
+  for (int i = 0; i < archive.RootCount(); ++i) {
+    try {
+      unsigned int typeId = 0;
+      void* object = archive.Root(i).Construct(archive.RootValue(i), cls_RootTypeId, typeId);
+      if (object) registry.Get(typeId).Destroy(object);
+    } catch (const nex_Exception&) {
+    }
+  }
+}
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const bool started = [] {
@@ -15,19 +48,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return true;
   }();
   (void)started;
+  const std::string_view input(reinterpret_cast<const char*>(data), size);
+  const bool payloadOnly = size > 0 && (data[0] & 1) != 0;
+  const std::string bytes = payloadOnly ? WithHeader(input.substr(1)) : std::string(input);
   try {
-    const cls_Archive archive =
-        cls_Archive::FromBytes(std::string_view(reinterpret_cast<const char*>(data), size));
+    const cls_Archive archive = cls_Archive::FromBytes(bytes);
     std::ostringstream dump;
     archive.Dump(dump);
-    for (int i = 0; i < archive.RootCount(); ++i) {
-      try {
-        unsigned int typeId = 0;
-        void* object = archive.Root(i).Construct(archive.RootValue(i), cls_RootTypeId, typeId);
-        if (object) cls_MetadataRegistrar::Instance().Registrar().Get(typeId).Destroy(object);
-      } catch (const nex_Exception&) {
-      }
-    }
+    BuildEveryRecord(archive);
   } catch (const nex_Exception&) {
   }
   return 0;
