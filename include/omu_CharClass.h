@@ -1,0 +1,35 @@
+#pragma once
+// A set of bytes compiled once from a regular-expression character class ("[^0-9]",
+// "[\$\\&]"), optionally anchored with a leading "^". It answers in one table lookup per
+// byte what a regular-expression search of that pattern would answer.
+#include <CVX_Export.h>
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+class CVX_EXPORT omu_CharClass {
+public:
+  // pattern: an optional "^", then one bracket expression: an optional "^" negation, bytes,
+  // ranges "a-z" and backslash escapes, then "]". Anything else raises nex_TextException.
+  explicit omu_CharClass(std::string_view pattern);
+  // The set of the given bytes.
+  static omu_CharClass Of(std::string_view bytes);
+
+  bool Has(unsigned char byte) const noexcept { return (m_Bits[byte >> 6] >> (byte & 63)) & 1u; }
+  // What searching the pattern in text answers.
+  bool Matches(std::string_view text) const noexcept;
+  bool IsAnchored() const noexcept { return m_Anchored; }
+  omu_CharClass operator|(const omu_CharClass& other) const noexcept;
+  // Every byte not in the set (unanchored).
+  omu_CharClass operator~() const noexcept;
+  // The bytes below 32.
+  static omu_CharClass Controls() noexcept;
+
+private:
+  omu_CharClass() = default;
+  void Add(unsigned char byte) noexcept { m_Bits[byte >> 6] |= std::uint64_t{1} << (byte & 63); }
+
+  std::array<std::uint64_t, 4> m_Bits{};
+  bool m_Anchored = false;
+};

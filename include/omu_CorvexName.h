@@ -1,0 +1,42 @@
+#pragma once
+// A validated name. Constructing one from text and a kind checks the text against that kind's
+// rules and raises omu_CorNameErrorException (with the kind's error code, or 1 for an empty
+// name) when it breaks one; a kind outside 0-7 is not checked. The patterns are kept per
+// object as texts; the rules are compiled from them once per process, so checking a name
+// costs one table lookup per byte.
+#include <CVX_Export.h>
+#include <cow_String.h>
+#include <omu_CorvexNameEnum.h>
+
+class CVX_EXPORT omu_CorvexName {
+public:
+  omu_CorvexName();
+  omu_CorvexName(const cow_String& name, omu_CorvexNameEnum kind);
+  omu_CorvexName(const char* name, omu_CorvexNameEnum kind);
+
+  const cow_String& Name() const noexcept { return m_Name; }
+  const cow_String& LeadingPattern() const noexcept { return m_LeadingPattern; }
+  const cow_String& WideForbiddenPattern() const noexcept { return m_WidePattern; }
+  const cow_String& NarrowForbiddenPattern() const noexcept { return m_NarrowPattern; }
+
+  // The error code a name of this kind gets (see omu_CorNameErrorException), or -1 when the
+  // name is legal.
+  static int Check(std::string_view name, omu_CorvexNameEnum kind) noexcept;
+
+  // Repairs name in place towards the short general rules. replacements holds at least six
+  // bytes, one per repair (a leading digit gets replacement 0 put in front; the first double
+  // quote, full stop and backslash get replacements 1-3; a leading and a trailing "_" or blank
+  // get 4 and 5); a full stop deletes instead of replacing. Answers false, leaving the name as
+  // it was, when the name repairs to nothing -- or, rather than looping forever, when the
+  // replacements keep recreating the faults they repair.
+  static bool MakeLegalGuiName(cow_String& name, const char* replacements);
+  // Puts double quotes around each dot-separated piece that holds a blank, a single quote,
+  // "=" or "," and is not quoted already.
+  static cow_String QuoteIfNeeded(const cow_String& name);
+
+private:
+  cow_String m_LeadingPattern;
+  cow_String m_WidePattern;
+  cow_String m_NarrowPattern;
+  cow_String m_Name;
+};

@@ -1,0 +1,73 @@
+#include <nex_TextException.h>
+#include <omu_CharClass.h>
+
+namespace {
+[[noreturn]] void Malformed(std::string_view pattern) {
+  NEX_THROW(nex_TextException(atr_StringBase::Format("not a character class: %.*s",
+                                                     static_cast<int>(pattern.size()),
+                                                     pattern.data())),
+            "omu/impl/omu_CharClass");
+}
+}  // namespace
+
+omu_CharClass::omu_CharClass(std::string_view pattern) {
+  std::string_view rest = pattern;
+  m_Anchored = rest.starts_with('^');
+  if (m_Anchored) rest.remove_prefix(1);
+  if (!rest.starts_with('[') || !rest.ends_with(']') || rest.size() < 3) Malformed(pattern);
+  rest = rest.substr(1, rest.size() - 2);
+  const bool negated = rest.starts_with('^');
+  if (negated) rest.remove_prefix(1);
+
+  omu_CharClass set;
+  for (std::size_t i = 0; i < rest.size(); ++i) {
+    unsigned char first = static_cast<unsigned char>(rest[i]);
+    if (first == '\\') {
+      if (++i == rest.size()) Malformed(pattern);
+      first = static_cast<unsigned char>(rest[i]);
+    } else if (first == ']') {
+      Malformed(pattern);
+    }
+    if (i + 2 < rest.size() && rest[i + 1] == '-') {
+      const auto last = static_cast<unsigned char>(rest[i + 2]);
+      if (last < first) Malformed(pattern);
+      for (unsigned int b = first; b <= last; ++b) set.Add(static_cast<unsigned char>(b));
+      i += 2;
+    } else {
+      set.Add(first);
+    }
+  }
+  for (std::size_t w = 0; w < m_Bits.size(); ++w) m_Bits[w] = negated ? ~set.m_Bits[w] : set.m_Bits[w];
+}
+
+omu_CharClass omu_CharClass::Of(std::string_view bytes) {
+  omu_CharClass set;
+  for (const char c : bytes) set.Add(static_cast<unsigned char>(c));
+  return set;
+}
+
+bool omu_CharClass::Matches(std::string_view text) const noexcept {
+  if (m_Anchored) return !text.empty() && Has(static_cast<unsigned char>(text.front()));
+  for (const char c : text) {
+    if (Has(static_cast<unsigned char>(c))) return true;
+  }
+  return false;
+}
+
+omu_CharClass omu_CharClass::operator|(const omu_CharClass& other) const noexcept {
+  omu_CharClass both;
+  for (std::size_t w = 0; w < m_Bits.size(); ++w) both.m_Bits[w] = m_Bits[w] | other.m_Bits[w];
+  return both;
+}
+
+omu_CharClass omu_CharClass::operator~() const noexcept {
+  omu_CharClass other;
+  for (std::size_t w = 0; w < m_Bits.size(); ++w) other.m_Bits[w] = ~m_Bits[w];
+  return other;
+}
+
+omu_CharClass omu_CharClass::Controls() noexcept {
+  omu_CharClass controls;
+  controls.m_Bits[0] = 0xFFFFFFFFu;
+  return controls;
+}

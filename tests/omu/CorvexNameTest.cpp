@@ -1,0 +1,134 @@
+#include <omu_CharClass.h>
+#include <omu_CorNameErrorException.h>
+#include <omu_CorvexName.h>
+#include <rgx_Regex.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+// The message a name of a kind gets, or "ok".
+std::string Verdict(const std::string& name, int kind) {
+  try {
+    omu_CorvexName checked(cow_String(name), static_cast<omu_CorvexNameEnum>(kind));
+    EXPECT_EQ(checked.Name(), name);
+  } catch (const omu_CorNameErrorException& e) {
+    return e.JournalMessage().StdString();
+  }
+  return "ok";
+}
+
+constexpr const char* kInvalid = "invalid name";
+constexpr const char* kInvalidJob = "invalid job name";
+constexpr const char* kInvalidModel = "invalid model name";
+}  // namespace
+
+TEST(CorvexName, LengthLimitsPerKind) {
+  const struct {
+    int kind;
+    std::size_t longest;
+    const char* error;
+  } limits[] = {{0, 80, kInvalid},      {1, 80, kInvalidJob},      {2, 80, kInvalidModel},
+                {3, 38, kInvalid},      {4, 38, kInvalidJob},      {5, 38, kInvalidModel},
+                {6, 38, kInvalid},      {7, 256, kInvalid}};
+  for (const auto& limit : limits) {
+    EXPECT_EQ(Verdict(std::string(limit.longest, 'a'), limit.kind), "ok") << limit.kind;
+    EXPECT_EQ(Verdict(std::string(limit.longest + 1, 'a'), limit.kind), limit.error) << limit.kind;
+    EXPECT_EQ(Verdict("", limit.kind), "name is empty") << limit.kind;
+  }
+  EXPECT_EQ(Verdict("", 8), "ok");  // kinds above 7 are not checked
+  EXPECT_EQ(Verdict("1.\"", 8), "ok");
+}
+
+TEST(CorvexName, EachKindKeepsItsOwnRules) {
+  const struct {
+    const char* name;
+    const char* verdicts;  // one character per kind 0-7: '.' ok, 'x' refused
+  } cases[] = {
+      {"_part", "...xxxxx"},  {"part_", "...xxxxx"},   {"1abc", "x..x..xx"},    {"-job", ".x..x..x"},
+      {"a,b", ".......x"},    {"my job", ".x..x..."},  {"Model:1", ".x..x..."}, {"a$b", ".xx.xx.."},
+      {"a.b", "xxxxxxxx"},    {"a\"b", "xxxxxxxx"},   {"a\\b", "xxxxxxxx"},    {"tab\tin", "...xxxxx"},
+      {" lead", ".x.xxxxx"},  {"trail ", ".x.xxxxx"}, {"caf\xC3\xA9", "........"}, {"\x80\xff", "........"},
+      {"a?b", ".xx.xx.."},    {"a~b", ".xx.xx.."},     {"a<b>", ".xx.xx.."},    {"a:b", ".x..x..."},
+  };
+  for (const auto& c : cases) {
+    for (int kind = 0; kind < 8; ++kind) {
+      const bool refused = Verdict(c.name, kind) != "ok";
+      EXPECT_EQ(refused, c.verdicts[kind] == 'x') << '"' << c.name << "\" kind " << kind;
+    }
+  }
+}
+
+TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
+  const omu_CorvexName name;
+  for (const cow_String& pattern :
+       {name.LeadingPattern(), name.WideForbiddenPattern(), name.NarrowForbiddenPattern()}) {
+    const omu_CharClass compiled(pattern.View());
+    for (int byte = 1; byte < 256; ++byte) {
+      const char text[] = {static_cast<char>(byte), 'a', 0};
+      EXPECT_EQ(compiled.Matches(text), rgx_match(pattern.CStr(), text).Matched())
+          << pattern.View() << " byte " << byte;
+    }
+  }
+  EXPECT_EQ(name.LeadingPattern(), "^[^0-9]");
+  EXPECT_EQ(name.WideForbiddenPattern(), R"([:\$\\&\*~! \(\)\[\]\{\}\|;\'\`\< >\?\/. ])");
+  EXPECT_EQ(name.NarrowForbiddenPattern(), R"([\$\\&\*~!\(\)\[\]\{\}\|;\'\`\<>\?\/.])");
+}
+
+TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
+  const struct {
+    const char* name;
+    const char* replacements;
+    bool legal;
+    const char* result;
+  } cases[] = {
+      {"1abc", "xxxxxx", true, "x1abc"},
+      {"....", "......", false, "...."},
+      {"a.b\"c\\d", "-qd/__", true, "adbqc/d"},
+      {"__x__", "......", true, "x"},
+      {"_x_", "yyyyab", true, "axb"},
+      {"9", ".xxxxx", false, "9"},
+      {"abc", "xxxxxx", true, "abc"},
+      // Not cut again after a byte is put in front: 39 bytes.
+      {"1234567890123456789012345678901234567890", "Nxxxxx", true,
+       "N12345678901234567890123456789012345678"},
+      // Control bytes are left alone.
+      {"a\tb", "xxxxxx", true, "a\tb"},
+  };
+  for (const auto& c : cases) {
+    cow_String name(c.name);
+    EXPECT_EQ(omu_CorvexName::MakeLegalGuiName(name, c.replacements), c.legal) << c.name;
+    EXPECT_EQ(name, c.result) << c.name;
+  }
+}
+
+TEST(MakeLegalGuiName, ReplacementsThatRecreateTheirFaultGiveUpInsteadOfLooping) {
+  const struct {
+    const char* name;
+    const char* replacements;
+  } cases[] = {{"9a", "5xxxxx"}, {"a\"b", "x\"xxxx"}, {"_a_", "xxxx_x"}, {"\"a", "x_xx\"x"}};
+  for (const auto& c : cases) {
+    cow_String name(c.name);
+    EXPECT_FALSE(omu_CorvexName::MakeLegalGuiName(name, c.replacements)) << c.replacements;
+    EXPECT_EQ(name, c.name);
+  }
+}
+
+TEST(QuoteIfNeeded, QuotesOnlyThePiecesThatNeedIt) {
+  const struct {
+    const char* in;
+    const char* out;
+  } cases[] = {
+      {"", ""},
+      {"Part-1.my set", "Part-1.\"my set\""},
+      {"\"a b\".c", "\"a b\".c"},
+      {"a=b.c,d.it's", "\"a=b\".\"c,d\".\"it's\""},
+      {"plain", "plain"},
+      {"a..b.", "a..b."},
+      {"\" \"", "\" \""},
+      {"\"\"", "\"\""},
+      {"\"a", "\"a"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(omu_CorvexName::QuoteIfNeeded(c.in), c.out) << c.in;
+}
