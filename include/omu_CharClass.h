@@ -1,7 +1,7 @@
 #pragma once
 // A set of bytes compiled once from a regular-expression character class ("[^0-9]",
-// "[\$\\&]"), optionally anchored with a leading "^". It answers in one table lookup per
-// byte what a regular-expression search of that pattern would answer.
+// "[\$\\&]"), optionally anchored with a leading "^". It answers with one table lookup per
+// byte, and no branch, what a regular-expression search of that pattern would answer.
 #include <CVX_Export.h>
 
 #include <array>
@@ -16,7 +16,7 @@ public:
   // The set of the given bytes.
   static omu_CharClass Of(std::string_view bytes);
 
-  bool Has(unsigned char byte) const noexcept { return (m_Bits[byte >> 6] >> (byte & 63)) & 1u; }
+  bool Has(unsigned char byte) const noexcept { return m_Member[byte] != 0; }
   // What searching the pattern in text answers.
   bool Matches(std::string_view text) const noexcept;
   bool IsAnchored() const noexcept { return m_Anchored; }
@@ -28,8 +28,8 @@ public:
 
 private:
   omu_CharClass() = default;
-  void Add(unsigned char byte) noexcept { m_Bits[byte >> 6] |= std::uint64_t{1} << (byte & 63); }
+  void Add(unsigned char byte) noexcept { m_Member[byte] = 1; }
 
-  std::array<std::uint64_t, 4> m_Bits{};
+  std::array<std::uint8_t, 256> m_Member{};
   bool m_Anchored = false;
 };

@@ -1,9 +1,9 @@
 #pragma once
 // A validated name. Constructing one from text and a kind checks the text against that kind's
 // rules and raises omu_CorNameErrorException (with the kind's error code, or 1 for an empty
-// name) when it breaks one; a kind outside 0-7 is not checked. The patterns are kept per
-// object as texts; the rules are compiled from them once per process, so checking a name
-// costs one table lookup per byte.
+// name) when it breaks one; a kind outside 0-7 is not checked. Each object keeps the three
+// pattern texts (views of the library's constants, so keeping them costs nothing); the rules
+// are compiled from them once per process, so checking a name costs a table lookup per byte.
 #include <CVX_Export.h>
 #include <cow_String.h>
 #include <omu_CorvexNameEnum.h>
@@ -15,9 +15,9 @@ public:
   omu_CorvexName(const char* name, omu_CorvexNameEnum kind);
 
   const cow_String& Name() const noexcept { return m_Name; }
-  const cow_String& LeadingPattern() const noexcept { return m_LeadingPattern; }
-  const cow_String& WideForbiddenPattern() const noexcept { return m_WidePattern; }
-  const cow_String& NarrowForbiddenPattern() const noexcept { return m_NarrowPattern; }
+  std::string_view LeadingPattern() const noexcept { return m_LeadingPattern; }
+  std::string_view WideForbiddenPattern() const noexcept { return m_WidePattern; }
+  std::string_view NarrowForbiddenPattern() const noexcept { return m_NarrowPattern; }
 
   // The error code a name of this kind gets (see omu_CorNameErrorException), or -1 when the
   // name is legal.
@@ -35,8 +35,8 @@ public:
   static cow_String QuoteIfNeeded(const cow_String& name);
 
 private:
-  cow_String m_LeadingPattern;
-  cow_String m_WidePattern;
-  cow_String m_NarrowPattern;
+  std::string_view m_LeadingPattern;
+  std::string_view m_WidePattern;
+  std::string_view m_NarrowPattern;
   cow_String m_Name;
 };

@@ -37,7 +37,7 @@ omu_CharClass::omu_CharClass(std::string_view pattern) {
       set.Add(first);
     }
   }
-  for (std::size_t w = 0; w < m_Bits.size(); ++w) m_Bits[w] = negated ? ~set.m_Bits[w] : set.m_Bits[w];
+  m_Member = negated ? (~set).m_Member : set.m_Member;
 }
 
 omu_CharClass omu_CharClass::Of(std::string_view bytes) {
@@ -48,26 +48,25 @@ omu_CharClass omu_CharClass::Of(std::string_view bytes) {
 
 bool omu_CharClass::Matches(std::string_view text) const noexcept {
   if (m_Anchored) return !text.empty() && Has(static_cast<unsigned char>(text.front()));
-  for (const char c : text) {
-    if (Has(static_cast<unsigned char>(c))) return true;
-  }
-  return false;
+  std::uint8_t any = 0;  // no early exit: names are short and the loop stays branch-free
+  for (const char c : text) any |= m_Member[static_cast<unsigned char>(c)];
+  return any != 0;
 }
 
 omu_CharClass omu_CharClass::operator|(const omu_CharClass& other) const noexcept {
   omu_CharClass both;
-  for (std::size_t w = 0; w < m_Bits.size(); ++w) both.m_Bits[w] = m_Bits[w] | other.m_Bits[w];
+  for (std::size_t b = 0; b < m_Member.size(); ++b) both.m_Member[b] = m_Member[b] | other.m_Member[b];
   return both;
 }
 
 omu_CharClass omu_CharClass::operator~() const noexcept {
   omu_CharClass other;
-  for (std::size_t w = 0; w < m_Bits.size(); ++w) other.m_Bits[w] = ~m_Bits[w];
+  for (std::size_t b = 0; b < m_Member.size(); ++b) other.m_Member[b] = m_Member[b] ^ 1u;
   return other;
 }
 
 omu_CharClass omu_CharClass::Controls() noexcept {
   omu_CharClass controls;
-  controls.m_Bits[0] = 0xFFFFFFFFu;
+  for (unsigned char b = 0; b < 32; ++b) controls.Add(b);
   return controls;
 }

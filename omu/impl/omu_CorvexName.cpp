@@ -7,9 +7,9 @@
 #include <array>
 
 namespace {
-const char* const kLeading = "^[^0-9]";
-const char* const kWide = R"([:\$\\&\*~! \(\)\[\]\{\}\|;\'\`\< >\?\/. ])";
-const char* const kNarrow = R"([\$\\&\*~!\(\)\[\]\{\}\|;\'\`\<>\?\/.])";
+constexpr std::string_view kLeading = "^[^0-9]";
+constexpr std::string_view kWide = R"([:\$\\&\*~! \(\)\[\]\{\}\|;\'\`\< >\?\/. ])";
+constexpr std::string_view kNarrow = R"([\$\\&\*~!\(\)\[\]\{\}\|;\'\`\<>\?\/.])";
 
 // One kind's rules, folded into byte sets: forbidden first bytes, last bytes, and bytes
 // anywhere. Every rule of a kind raises the same code, so the order of the tests cannot
@@ -98,16 +98,8 @@ bool Breaks(const Rules& rules, std::string_view name) noexcept {
 }
 }  // namespace
 
-// The stored pattern texts are shared, not rebuilt for every name.
-const cow_String& StoredPattern(const char* pattern) {
-  static const cow_String leading(kLeading), wide(kWide), narrow(kNarrow);
-  return pattern == kLeading ? leading : pattern == kWide ? wide : narrow;
-}
-
 omu_CorvexName::omu_CorvexName()
-    : m_LeadingPattern(StoredPattern(kLeading)),
-      m_WidePattern(StoredPattern(kWide)),
-      m_NarrowPattern(StoredPattern(kNarrow)) {}
+    : m_LeadingPattern(kLeading), m_WidePattern(kWide), m_NarrowPattern(kNarrow) {}
 
 omu_CorvexName::omu_CorvexName(const cow_String& name, omu_CorvexNameEnum kind) : omu_CorvexName() {
   const int error = Check(name.View(), kind);

@@ -62,13 +62,14 @@ TEST(CorvexName, EachKindKeepsItsOwnRules) {
 
 TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
   const omu_CorvexName name;
-  for (const cow_String& pattern :
+  for (const std::string_view view :
        {name.LeadingPattern(), name.WideForbiddenPattern(), name.NarrowForbiddenPattern()}) {
-    const omu_CharClass compiled(pattern.View());
+    const cow_String pattern(view);
+    const omu_CharClass compiled(view);
     for (int byte = 1; byte < 256; ++byte) {
       const char text[] = {static_cast<char>(byte), 'a', 0};
       EXPECT_EQ(compiled.Matches(text), rgx_match(pattern.CStr(), text).Matched())
-          << pattern.View() << " byte " << byte;
+          << view << " byte " << byte;
     }
   }
   EXPECT_EQ(name.LeadingPattern(), "^[^0-9]");
