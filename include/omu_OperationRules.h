@@ -1,0 +1,16 @@
+#pragma once
+// How script operators treat an interface object. By default two objects are equal only when
+// they are the same handle; with equality by path, two handles on the same repository object
+// (the same path) are equal too.
+#include <CVX_Export.h>
+
+class CVX_EXPORT omu_OperationRules {
+public:
+  constexpr omu_OperationRules() noexcept = default;
+  constexpr explicit omu_OperationRules(bool equalByPath) noexcept : m_EqualByPath(equalByPath) {}
+
+  constexpr bool EqualByPath() const noexcept { return m_EqualByPath; }
+
+private:
+  bool m_EqualByPath = false;
+};

@@ -1,0 +1,3 @@
+#include <omu_Shortcut.h>
+
+omu_Shortcut::~omu_Shortcut() = default;
