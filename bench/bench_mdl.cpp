@@ -54,9 +54,12 @@ void PropertyTableSort_std(benchmark::State& state) {
   std::vector<int> order(kRows);
   for (auto _ : state) {
     std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [&greater](int a, int b) { return greater(b, a); });
+    std::stable_sort(order.begin(), order.end(),
+                     [&greater](int a, int b) { return greater(b, a); });
     benchmark::DoNotOptimize(order.data());
   }
 }
-BENCHMARK(PropertyTableSort_std)->Name("PropertyTableSort/std::stable_sort")->Unit(benchmark::kMillisecond);
+BENCHMARK(PropertyTableSort_std)
+    ->Name("PropertyTableSort/std::stable_sort")
+    ->Unit(benchmark::kMillisecond);
 }  // namespace

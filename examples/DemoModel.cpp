@@ -13,7 +13,6 @@
 
 #include <cmath>
 #include <cstdio>
-#include <functional>
 #include <iostream>
 
 namespace {
@@ -31,32 +30,33 @@ struct Section {
   }
 };
 
+std::string Text(double value) { return std::string(atr_StringBase(value).View()); }
+std::string Text(const cow_String& value) { return "'" + std::string(value.View()) + "'"; }
+std::string Text(const cls_xpListInt& value) {
+  std::string text = "[";
+  for (int item : value) text += (text.size() > 1 ? "," : "") + std::to_string(item);
+  return text + "]";
+}
+
+// An attribute as its state and value.
 template <class T>
-std::string Cell(const mdl_PropAttr<T>& attribute, const std::function<std::string(const T&)>& text) {
+std::string Cell(const mdl_PropAttr<T>& attribute) {
   return std::string(mdl_PropAttributeState(attribute.State()).GetString()) + " " +
-         text(attribute.ConstGet());
+         Text(attribute.ConstGet());
 }
 
 void PrintStep(const char* step, const Section& section) {
-  const auto number = [](const double& v) { return std::string(atr_StringBase(v).View()); };
-  const auto quoted = [](const cow_String& v) { return "'" + std::string(v.View()) + "'"; };
-  const auto points = [](const cls_xpListInt& v) {
-    std::string text = "[";
-    for (int p : v) text += (text.size() > 1 ? "," : "") + std::to_string(p);
-    return text + "]";
-  };
   const mdl_PropagationStatusEnm status = section.statuses[section.statuses.Length() - 1];
-  std::printf("%-8s %-11s %-11s %-18s %-22s %s\n", step,
+  std::printf("%-8s %-11s %-9s %-18s %-22s %s\n", step,
               omu_PrimEnum<mdl_PropagationStatusEnm, 1>(status).GetString(),
               mdl_activePropagationStatus(status) ? "active" : "inactive",
-              Cell(section.thickness, std::function<std::string(const double&)>(number)).c_str(),
-              Cell(section.material, std::function<std::string(const cow_String&)>(quoted)).c_str(),
-              Cell(section.integrationPoints, std::function<std::string(const cls_xpListInt&)>(points)).c_str());
+              Cell(section.thickness).c_str(), Cell(section.material).c_str(),
+              Cell(section.integrationPoints).c_str());
 }
 
 void DemoSteps() {
   std::cout << "\n== A shell section across analysis steps\n";
-  std::printf("%-8s %-11s %-11s %-18s %-22s %s\n", "step", "status", "", "thickness", "material",
+  std::printf("%-8s %-11s %-9s %-18s %-22s %s\n", "step", "status", "", "thickness", "material",
               "integration points");
   Section section;
   section.thickness = 2.0;
@@ -76,7 +76,8 @@ void DemoSteps() {
 
   section.Propagate();
   section.material = FREED;  // the material is taken away in this step
-  section.integrationPoints.SetStatus("integrationPoints", mdl_PropAttributeState(cow_String("SET")), false);
+  section.integrationPoints.SetStatus("integrationPoints",
+                                      mdl_PropAttributeState(cow_String("SET")), false);
   section.integrationPoints.Get().Append(7);  // SET leaves the zero value: give the new one
   section.statuses.Append(MODIFIED);
   PrintStep("Step-3", section);
@@ -88,15 +89,16 @@ void DemoSteps() {
   try {
     section.thickness.SetStatus("thickness", mdl_PropAttributeState(FREED), true);
   } catch (const nex_TextException& e) {
-    std::cout << "A script asking to free the thickness where that is not allowed: " << e.Text().View()
-              << "\n";
+    std::cout << "A script asking to free the thickness where that is not allowed: "
+              << e.Text().View() << "\n";
   }
 }
 
 void PrintTable(const mdl_PropertyTable& table) {
   for (int row = 0; row < table.Rows(); ++row) {
     std::printf("   ");
-    for (int column = 0; column < table.Columns(); ++column) std::printf(" %10g", table(row, column));
+    for (int column = 0; column < table.Columns(); ++column)
+      std::printf(" %10g", table(row, column));
     std::printf("\n");
   }
 }

@@ -79,11 +79,13 @@ class mdl_PropAttr final {
 public:
   mdl_PropAttr() : m_Val(), m_State(UNSET), m_Uid(cls_Uid::AllocateUid()) {}
   // A value given here does not count as set.
-  explicit mdl_PropAttr(const T& value) : m_Val(value), m_State(UNSET), m_Uid(cls_Uid::AllocateUid()) {}
+  explicit mdl_PropAttr(const T& value)
+      : m_Val(value), m_State(UNSET), m_Uid(cls_Uid::AllocateUid()) {}
   mdl_PropAttr(const mdl_PropAttr&) = default;  // the uid too
   mdl_PropAttr& operator=(const mdl_PropAttr&) = default;
   explicit mdl_PropAttr(const cls_ReadVisitor& reader)
-      : m_Val(ReadValue(reader)), m_State(mdl_PropAttributeState(reader.ReadEnum("state"))),
+      : m_Val(ReadValue(reader)),
+        m_State(mdl_PropAttributeState(reader.ReadEnum("state"))),
         m_Uid(reader.Uid()) {}
 
   virtual void DBWrite(const cls_WriteVisitor& writer) const {
@@ -178,7 +180,8 @@ public:
   static unsigned int TypeId() noexcept { return mdl_TypeId(mdl_PropAttrClass<T>::number); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar) {
     registrar
-        .AddClassMD(new cls_TypeAdapter<mdl_PropAttr>(mdl_PropAttrClass<T>::name, 203, cls_RootTypeId))
+        .AddClassMD(
+            new cls_TypeAdapter<mdl_PropAttr>(mdl_PropAttrClass<T>::name, 203, cls_RootTypeId))
         .AddAttribute({0, "val"}, cls_xpItem<T>::Kind, 1, 0)
         .AddAttribute({1, "state"}, cls_KIND_ENUM, 1, 0);
   }

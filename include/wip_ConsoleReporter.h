@@ -66,6 +66,6 @@ private:
   std::string m_Task;
   double m_TaskStart = 0;
   int m_LastDone = -1;
-  int m_LastTenth = -1;        // plain style: the last tenth printed
-  std::string m_ShownBar;      // terminal style: the bar on the screen, empty when none
+  int m_LastTenth = -1;    // plain style: the last tenth printed
+  std::string m_ShownBar;  // terminal style: the bar on the screen, empty when none
 };

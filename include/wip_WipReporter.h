@@ -25,7 +25,8 @@ public:
   virtual void WarningList(const cow_List<atr_String>& texts) = 0;
   // Routes by kind: 0-3 warn, 4 is a milestone, 7 a landmark, 8 verbose; other kinds (5, 6,
   // negative, above 8) are dropped. The other arguments are left to overriding reporters.
-  virtual void FacilityMessage(const atr_String& text, int kind, int, int, omu_PrimTuple& arguments);
+  virtual void FacilityMessage(const atr_String& text, int kind, int, int,
+                               omu_PrimTuple& arguments);
   virtual void Verbose(const atr_String& text) = 0;
   virtual void Milestone(const atr_String& text, int) = 0;
   virtual void Milestone(const atr_String& text, const atr_String& unit, int done, int total) = 0;

@@ -63,6 +63,42 @@ void InsertionOrder(std::vector<int>& order, const KeyGreater& greater) {
 void MergeOrder(std::vector<int>& order, const KeyGreater& greater) {
   std::stable_sort(order.begin(), order.end(), [&greater](int a, int b) { return greater(b, a); });
 }
+
+// The same merge sort on rows that carry their few keys (most significant first) with them,
+// so that comparisons read adjacent memory instead of chasing row numbers.
+template <int Keys>
+struct KeyedRow {
+  double key[Keys];
+  int row;
+};
+
+template <int Keys>
+void KeyedMergeOrder(std::vector<int>& order, const double* cells, int columns) {
+  std::vector<KeyedRow<Keys>> rows(order.size());
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    const double* last = cells + (row + 1) * static_cast<std::size_t>(columns) - 1;
+    for (int key = 0; key < Keys; ++key) rows[row].key[key] = last[-key];
+    rows[row].row = static_cast<int>(row);
+  }
+  std::stable_sort(rows.begin(), rows.end(), [](const KeyedRow<Keys>& a, const KeyedRow<Keys>& b) {
+    for (int key = 0; key < Keys; ++key) {
+      if (a.key[key] < b.key[key]) return true;
+      if (!(a.key[key] == b.key[key])) return false;
+    }
+    return false;
+  });
+  for (std::size_t row = 0; row < rows.size(); ++row) order[row] = rows[row].row;
+}
+
+void StableOrder(std::vector<int>& order, const KeyGreater& greater, const double* cells,
+                 int columns, int keys) {
+  switch (keys) {
+    case 1: return KeyedMergeOrder<1>(order, cells, columns);
+    case 2: return KeyedMergeOrder<2>(order, cells, columns);
+    case 3: return KeyedMergeOrder<3>(order, cells, columns);
+    default: return MergeOrder(order, greater);
+  }
+}
 }  // namespace
 
 mdl_PropertyTable::mdl_PropertyTable(const cls_ReadVisitor& reader)
@@ -107,7 +143,7 @@ void mdl_PropertyTable::Sort(int keyColumns) {
   if (greater.AnyNaNKey(Rows())) {
     InsertionOrder(order, greater);
   } else {
-    MergeOrder(order, greater);
+    StableOrder(order, greater, m_Table.Cells().data(), Columns(), keys);
   }
   cow_2DArray<double> sorted(Rows(), Columns());
   std::vector<double>& to = sorted.MutableCells();
@@ -126,7 +162,8 @@ void mdl_PropertyTable::AssertValid() const {
   for (int row = m_AllowEmptyFirstRow ? 1 : 0; row < Rows(); ++row) {
     const auto first = cells.begin() + static_cast<std::ptrdiff_t>(row * width);
     // NaN != 0, so a NaN makes the row pass.
-    if (std::none_of(first, first + static_cast<std::ptrdiff_t>(width), [](double v) { return v != 0.0; })) {
+    if (std::none_of(first, first + static_cast<std::ptrdiff_t>(width),
+                     [](double v) { return v != 0.0; })) {
       NEX_THROW(nex_TextException("Tabular data for at least one option or suboption\n"
                                   "has either blank or zero valued row(s)."),
                 "mdl/impl/mdl_PropertyTable");

@@ -15,8 +15,8 @@
 using PropString = mdl_PropAttr<cow_String>;
 
 namespace {
-constexpr mdl_PropAttributeStateEnm kStates[] = {UNSET,          SET,     UNCHANGED,   FREED,
-                                                 NOT_APPLICABLE, INVALID, ABS_DEFAULT, COMP_DEFAULT};
+constexpr mdl_PropAttributeStateEnm kStates[] = {
+    UNSET, SET, UNCHANGED, FREED, NOT_APPLICABLE, INVALID, ABS_DEFAULT, COMP_DEFAULT};
 
 // A holder of "abc" in the given state, whatever the state would normally imply.
 PropString Holder(mdl_PropAttributeStateEnm state, const char* value = "abc") {
@@ -48,9 +48,13 @@ TEST(PropAttr, StateMachineCoversEveryStateAndTransition) {
     mdl_PropAttributeStateEnm before;
     mdl_PropAttributeStateEnm afterPropagate;
   };
-  const Row rows[] = {{UNSET, UNSET},          {SET, UNCHANGED},     {UNCHANGED, UNCHANGED},
-                      {FREED, UNSET},          {NOT_APPLICABLE, NOT_APPLICABLE},
-                      {INVALID, INVALID},      {ABS_DEFAULT, ABS_DEFAULT},
+  const Row rows[] = {{UNSET, UNSET},
+                      {SET, UNCHANGED},
+                      {UNCHANGED, UNCHANGED},
+                      {FREED, UNSET},
+                      {NOT_APPLICABLE, NOT_APPLICABLE},
+                      {INVALID, INVALID},
+                      {ABS_DEFAULT, ABS_DEFAULT},
                       {COMP_DEFAULT, COMP_DEFAULT}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.before);
@@ -145,10 +149,11 @@ TEST(PropAttr, PredicatesFollowTheState) {
     mdl_PropAttributeStateEnm state;
     bool modified, conditionModified, active, free;
   };
-  const Row rows[] = {{UNSET, false, false, false, true},         {SET, true, false, true, false},
-                      {UNCHANGED, false, false, true, false},     {FREED, true, true, false, true},
-                      {NOT_APPLICABLE, false, false, false, false}, {INVALID, false, false, false, false},
-                      {ABS_DEFAULT, false, false, false, false},  {COMP_DEFAULT, false, false, false, false}};
+  const Row rows[] = {
+      {UNSET, false, false, false, true},           {SET, true, false, true, false},
+      {UNCHANGED, false, false, true, false},       {FREED, true, true, false, true},
+      {NOT_APPLICABLE, false, false, false, false}, {INVALID, false, false, false, false},
+      {ABS_DEFAULT, false, false, false, false},    {COMP_DEFAULT, false, false, false, false}};
   for (const Row& row : rows) {
     const PropString holder = Holder(row.state);
     EXPECT_EQ(holder.IsModified(), row.modified) << row.state;
@@ -196,18 +201,35 @@ TEST(PropAttr, SetStatusAcceptsItsBranchsStatusesAndRefusesTheRest) {
 }
 
 TEST(PropagationStatus, ClassificationsOverAllSeventeenStatuses) {
-  // active, deactivated, general analysis
-  const bool expected[17][3] = {
-      {false, false, true},  {true, false, true},   {true, false, true},   {true, false, true},
-      {false, true, true},   {false, true, true},   {false, false, false}, {false, false, false},
-      {true, false, false},  {true, false, false},  {true, false, false},  {false, true, false},
-      {true, false, false},  {false, false, false}, {false, false, false}, {false, false, false},
-      {true, false, false}};
-  for (int value = 0; value < 17; ++value) {
-    const auto status = static_cast<mdl_PropagationStatusEnm>(value);
-    EXPECT_EQ(mdl_activePropagationStatus(status), expected[value][0]) << value;
-    EXPECT_EQ(mdl_deactivatedPropagationStatus(status), expected[value][1]) << value;
-    EXPECT_EQ(mdl_generalAnalysisStatus(status), expected[value][2]) << value;
+  struct Row {
+    mdl_PropagationStatusEnm status;
+    bool active, deactivated, general;
+  };
+  // clang-format off
+  const Row rows[] = {
+      {NOT_YET_ACTIVE,              false, false, true},
+      {CREATED,                     true,  false, true},
+      {PROPAGATED,                  true,  false, true},
+      {MODIFIED,                    true,  false, true},
+      {DEACTIVATED,                 false, true,  true},
+      {NO_LONGER_ACTIVE,            false, true,  true},
+      {TYPE_NOT_APPLICABLE,         false, false, false},
+      {INSTANCE_NOT_APPLICABLE,     false, false, false},
+      {BUILT_INTO_BASE_STATE,       true,  false, false},
+      {PROPAGATED_FROM_BASE_STATE,  true,  false, false},
+      {MODIFIED_FROM_BASE_STATE,    true,  false, false},
+      {DEACTIVATED_FROM_BASE_STATE, false, true,  false},
+      {BUILT_INTO_MODES,            true,  false, false},
+      {COMPUTED,                    false, false, false},
+      {PROPAGATED_FROM_COMPUTED,    false, false, false},
+      {RESET_TO_INITIAL,            false, false, false},
+      {PROPAGATED_FROM_FREQUENCY,   true,  false, false},
+  };
+  // clang-format on
+  for (const Row& row : rows) {
+    EXPECT_EQ(mdl_activePropagationStatus(row.status), row.active) << row.status;
+    EXPECT_EQ(mdl_deactivatedPropagationStatus(row.status), row.deactivated) << row.status;
+    EXPECT_EQ(mdl_generalAnalysisStatus(row.status), row.general) << row.status;
   }
 }
 
@@ -262,8 +284,8 @@ struct Sample<cls_xp1DArrayListFloat> {
 
 template <class T>
 class PropAttrPersistence : public testing::Test {};
-using Instantiations = testing::Types<cow_String, double, bool, cls_xpListInt, int, cls_xp1DArrayInt,
-                                      cls_xpListString, cls_xp1DArrayListFloat>;
+using Instantiations = testing::Types<cow_String, double, bool, cls_xpListInt, int,
+                                      cls_xp1DArrayInt, cls_xpListString, cls_xp1DArrayListFloat>;
 TYPED_TEST_SUITE(PropAttrPersistence, Instantiations);
 
 TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName) {
@@ -272,7 +294,8 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
     holder.ForceState(state);
     cls_Archive archive;
     archive.Add(holder);
-    const cls_Value* written = archive.RootValue(0).As<std::shared_ptr<cls_Record>>()->get()->Find("state");
+    const cls_Value* written =
+        archive.RootValue(0).As<std::shared_ptr<cls_Record>>()->get()->Find("state");
     ASSERT_NE(written, nullptr);
     EXPECT_EQ(written->As<cls_EnumName>()->name, mdl_PropAttributeState(state).Name());
     const auto read = Reloaded(archive, "propattr").template Read<mdl_PropAttr<TypeParam>>(0);
@@ -284,7 +307,8 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
 
 TYPED_TEST(PropAttrPersistence, RegistersItsNameKindsAndNumber) {
   using Holder = mdl_PropAttr<TypeParam>;
-  const cls_ClassMetadata& metadata = cls_MetadataRegistrar::Instance().Registrar().Get(Holder::TypeId());
+  const cls_ClassMetadata& metadata =
+      cls_MetadataRegistrar::Instance().Registrar().Get(Holder::TypeId());
   EXPECT_EQ(metadata.Name(), mdl_PropAttrClass<TypeParam>::name);
   EXPECT_EQ(metadata.MetadataWord(), 203u);
   ASSERT_EQ(metadata.Attributes().size(), 2u);
@@ -306,9 +330,10 @@ TEST(PropAttrPersistence, TypeIdentifiersKindsAndBothSpellingsOfTheFloatArray) {
   EXPECT_STREQ(typ_ArchCompTable::Instance().ClassName(floatArray), "mdl_Prop1DArrayListFloat");
   EXPECT_EQ(cls_MetadataRegistrar::Instance().Registrar().Get(floatArray).Name(),
             "mdl_PropList1DArrayListFloat");
-  const int kinds[] = {cls_xpItem<cow_String>::Kind, cls_xpItem<double>::Kind, cls_xpItem<bool>::Kind,
-                       cls_xpItem<int>::Kind};
-  EXPECT_EQ(std::vector<int>(std::begin(kinds), std::end(kinds)), (std::vector<int>{11, 10, 13, 5}));
+  const int kinds[] = {cls_xpItem<cow_String>::Kind, cls_xpItem<double>::Kind,
+                       cls_xpItem<bool>::Kind, cls_xpItem<int>::Kind};
+  EXPECT_EQ(std::vector<int>(std::begin(kinds), std::end(kinds)),
+            (std::vector<int>{11, 10, 13, 5}));
 }
 
 TEST(MdlModule, RegistersItsClassesInOrder) {
@@ -321,10 +346,10 @@ TEST(MdlModule, RegistersItsClassesInOrder) {
     }
   }
   EXPECT_EQ(names, (std::vector<cow_String>{
-                       "mdl_PropString/7", "mdl_PropDouble/7", "mdl_PropBool/7", "mdl_PropListInt/7",
-                       "mdl_PropInt/7", "mdl_Prop1DArrayInt/7", "mdl_PropListString/7",
-                       "mdl_PropList1DArrayListFloat/7", "mdl_Extension/7", "mdl_Repository/7",
-                       "mdl_PropertyTable/7", "mdl_JaggedArray/4"}));
+                       "mdl_PropString/7", "mdl_PropDouble/7", "mdl_PropBool/7",
+                       "mdl_PropListInt/7", "mdl_PropInt/7", "mdl_Prop1DArrayInt/7",
+                       "mdl_PropListString/7", "mdl_PropList1DArrayListFloat/7", "mdl_Extension/7",
+                       "mdl_Repository/7", "mdl_PropertyTable/7", "mdl_JaggedArray/4"}));
 }
 
 namespace {
@@ -345,18 +370,21 @@ TEST(PropAttrPersistence, AnUnknownStateNameIsRefusedByTheEnumeration) {
     RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "set"}, "badstate");
     FAIL() << "a lower-case state name was accepted";
   } catch (const omu_ValueErrorException& e) {
-    EXPECT_EQ(e.JournalMessage(),
-              "omu_PrimEnum(const cow_String&) - str not allowed: set  Permissible: {ABS_DEFAULT: 6, "
-              "COMP_DEFAULT: 7, FREED: 3, INVALID: 5, NOT_APPLICABLE: 4, SET: 1, UNCHANGED: 2, "
-              "UNSET: 0}");
+    EXPECT_EQ(
+        e.JournalMessage(),
+        "omu_PrimEnum(const cow_String&) - str not allowed: set  Permissible: {ABS_DEFAULT: 6, "
+        "COMP_DEFAULT: 7, FREED: 3, INVALID: 5, NOT_APPLICABLE: 4, SET: 1, UNCHANGED: 2, "
+        "UNSET: 0}");
   }
-  const auto read = RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "FREED"}, "goodstate");
+  const auto read =
+      RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "FREED"}, "goodstate");
   EXPECT_EQ(read->State(), FREED);
   EXPECT_TRUE(*read == 3);  // the stored value is taken as it is
 }
 
 TEST(PropAttrPersistence, AValueOfTheWrongKindIsRefusedAsATextFailure) {
-  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{2.5, "SET"}, "badval"), nex_TextException);
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{2.5, "SET"}, "badval"),
+               nex_TextException);
   EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{cls_Value(), "SET"}, "noval"),
                nex_TextException);
 }

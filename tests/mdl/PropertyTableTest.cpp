@@ -86,7 +86,7 @@ TEST(PropertyTable, EqualityNeedsFlagShapeAndEveryElementAndNaNIsNeverEqual) {
   const mdl_PropertyTable withNaN = Table(2, {1, NaN});
   EXPECT_NE(withNaN, withNaN);
   const mdl_PropertyTable shared = withNaN;
-  EXPECT_NE(shared, withNaN);  // even when both share one body
+  EXPECT_NE(shared, withNaN);                               // even when both share one body
   EXPECT_NE(mdl_PropertyTable(), mdl_PropertyTable(0, 4));  // no cells, but other column counts
 }
 
@@ -185,15 +185,17 @@ TEST(PropertyTable, AssertValidRefusesTheFirstAllZeroRow) {
       c.table.AssertValid();
       ADD_FAILURE() << c.name << " passed";
     } catch (const nex_TextException& e) {
-      EXPECT_EQ(e.Text(), "Tabular data for at least one option or suboption\n"
-                          "has either blank or zero valued row(s).");
+      EXPECT_EQ(e.Text(),
+                "Tabular data for at least one option or suboption\n"
+                "has either blank or zero valued row(s).");
       EXPECT_STREQ(e.SourcePath(), "mdl/impl/mdl_PropertyTable");
     }
   }
 }
 
 TEST(PropertyTable, RoundTripsThroughAnArchiveFileBitForBit) {
-  mdl_PropertyTable table = Table(3, {0, -0.0, NaN, 1e-310, -2.5, std::numeric_limits<double>::infinity()});
+  mdl_PropertyTable table =
+      Table(3, {0, -0.0, NaN, 1e-310, -2.5, std::numeric_limits<double>::infinity()});
   table.SetAllowEmptyFirstRow(true);
   const auto read = RoundTrip<mdl_PropertyTable>(table, "proptable");
   ASSERT_NE(read, nullptr);
@@ -215,8 +217,8 @@ struct ForgedTable {
 
 TEST(PropertyTable, AForeignTableIsRefusedAsATextFailure) {
   const ForgedTable forged[] = {
-      {cls_Matrix{2, 2, {1.0, 2.0, 3.0}}},                     // fewer cells than its shape
-      {cls_Matrix{-1, 0, {}}},                                 // negative shape
+      {cls_Matrix{2, 2, {1.0, 2.0, 3.0}}},                    // fewer cells than its shape
+      {cls_Matrix{-1, 0, {}}},                                // negative shape
       {cls_Matrix{1, 2, {1.0, cls_Value(std::int32_t{2})}}},  // a cell of another kind
   };
   for (const ForgedTable& table : forged) {
@@ -231,5 +233,6 @@ TEST(PropertyTable, RegistersItsNameAndAttributes) {
   EXPECT_EQ(metadata.Name(), "mdl_PropertyTable");
   ASSERT_EQ(metadata.Attributes().size(), 2u);
   EXPECT_EQ(metadata.Attributes()[0].name, "table");
-  EXPECT_EQ(metadata.Attributes()[1], (cls_Attribute{1, "allowEmptyFirstRow", cls_KIND_BOOL, 1, 0}));
+  EXPECT_EQ(metadata.Attributes()[1],
+            (cls_Attribute{1, "allowEmptyFirstRow", cls_KIND_BOOL, 1, 0}));
 }

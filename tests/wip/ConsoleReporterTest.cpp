@@ -81,8 +81,9 @@ TEST(ConsoleReporter, ANewTaskEndsTheBarOfThePreviousOne) {
   ClockedConsole console(wip_ConsoleReporter::STYLE_TERMINAL);
   console.Milestone("A", "x", 1, 2);
   console.Milestone("B", "x", 0, 0);
-  EXPECT_EQ(console.Text(), "\rA [############------------]  50%  1/2 x\n"
-                            "\rB [########################] 100%  0/0 x  in 0:00\n");
+  EXPECT_EQ(console.Text(),
+            "\rA [############------------]  50%  1/2 x\n"
+            "\rB [########################] 100%  0/0 x  in 0:00\n");
 }
 
 TEST(ConsoleReporter, AnInterruptRaisesOnceAndCommandDoneForgetsIt) {
@@ -125,9 +126,9 @@ TEST(Progress, ReportsTheEndOfASmallTaskAndEveryUnitOfIt) {
   wip_Progress progress(front, "T", 2);
   progress.Advance();
   progress.Advance(5);
-  EXPECT_EQ(reporter.calls, (std::vector<std::string>{"Milestone(T|items,0,2)",
-                                                      "Milestone(T|items,1,2)",
-                                                      "Milestone(T|items,2,2)"}));
+  EXPECT_EQ(reporter.calls,
+            (std::vector<std::string>{"Milestone(T|items,0,2)", "Milestone(T|items,1,2)",
+                                      "Milestone(T|items,2,2)"}));
 }
 
 TEST(Progress, AnInterruptStopsTheTaskThroughTheThreadsReporter) {

@@ -17,14 +17,16 @@ public:
   void ErrorList(const cow_List<atr_String>& texts, wip_errorLevelEnm level) override {
     Record("ErrorList", Join(texts), std::to_string(level));
   }
-  void WarningList(const cow_List<atr_String>& texts) override { Record("WarningList", Join(texts)); }
+  void WarningList(const cow_List<atr_String>& texts) override {
+    Record("WarningList", Join(texts));
+  }
   void Verbose(const atr_String& text) override { Record("Verbose", text); }
   void Milestone(const atr_String& text, int value) override {
     Record("Milestone", text, std::to_string(value));
   }
   void Milestone(const atr_String& text, const atr_String& unit, int done, int total) override {
-    Record("Milestone", text, std::string(unit.View()) + "," + std::to_string(done) + "," +
-                                  std::to_string(total));
+    Record("Milestone", text,
+           std::string(unit.View()) + "," + std::to_string(done) + "," + std::to_string(total));
   }
   void Milestone(const atr_String& text) override { Record("Milestone", text); }
   void Landmark(const atr_String& text) override { Record("Landmark", text); }
@@ -48,7 +50,8 @@ private:
   }
   static std::string Join(const cow_List<atr_String>& texts) {
     std::string joined;
-    for (const atr_String& text : texts) joined += (joined.empty() ? "" : ";") + std::string(text.View());
+    for (const atr_String& text : texts)
+      joined += (joined.empty() ? "" : ";") + std::string(text.View());
     return joined;
   }
 };

@@ -22,7 +22,9 @@ const std::vector<Forwarding>& Forwardings() {
   static const std::vector<Forwarding> cases = {
       {"Error", [](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
       {"ErrorList",
-       [](wip_WIPBase& f) { f.ErrorList({"a", "b"}, static_cast<wip_errorLevelEnm>(42)); },
+       [](wip_WIPBase& f) {
+         f.ErrorList({"a", "b"}, static_cast<wip_errorLevelEnm>(42));
+       },
        "ErrorList(a;b|42)"},
       {"Verbose", [](wip_WIPBase& f) { f.Verbose("detail"); }, "Verbose(detail)"},
       {"Warning", [](wip_WIPBase& f) { f.Warning("thin"); }, "Warning(thin)"},
@@ -95,9 +97,9 @@ TEST(WipFront, DestroyingTheInstalledReporterClearsTheThreadsFront) {
 
 TEST(WipFront, FacilityMessagesAreRoutedByKind) {
   const std::vector<std::pair<int, const char*>> routes = {
-      {-1, nullptr},          {0, "Warning(m)"},  {1, "Warning(m)"},  {2, "Warning(m)"},
-      {3, "Warning(m)"},      {4, "Milestone(m)"}, {5, nullptr},       {6, nullptr},
-      {7, "Landmark(m)"},     {8, "Verbose(m)"},  {9, nullptr},       {1000, nullptr}};
+      {-1, nullptr},      {0, "Warning(m)"},   {1, "Warning(m)"}, {2, "Warning(m)"},
+      {3, "Warning(m)"},  {4, "Milestone(m)"}, {5, nullptr},      {6, nullptr},
+      {7, "Landmark(m)"}, {8, "Verbose(m)"},   {9, nullptr},      {1000, nullptr}};
   for (const auto& [kind, expected] : routes) {
     RecordingReporter reporter;
     reporter.Route("m", kind);

@@ -26,7 +26,8 @@ std::string Duration(double seconds) {
   const long long whole = static_cast<long long>(seconds + 0.5);
   char text[48];
   if (whole >= 3600) {
-    std::snprintf(text, sizeof text, "%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60, whole % 60);
+    std::snprintf(text, sizeof text, "%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60,
+                  whole % 60);
   } else {
     std::snprintf(text, sizeof text, "%lld:%02lld", whole / 60, whole % 60);
   }
