@@ -35,9 +35,10 @@ function(cvx_shared_library target prefix)
   cvx_warnings(${target})
 endfunction()
 
-# One GoogleTest executable per folder of tests, discovered by CTest.
+# One GoogleTest executable per folder of tests, discovered by CTest. LABELS tag every test
+# of the suite (the tsan preset runs those labelled "threads").
 function(cvx_test_suite name)
-  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "LINKS;LABELS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
   if(NOT sources)
     return()
@@ -46,6 +47,10 @@ function(cvx_test_suite name)
   target_link_libraries(test_${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gmock GTest::gtest_main Threads::Threads)
   target_include_directories(test_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   cvx_warnings(test_${name})
+  set(labels)
+  if(ARG_LABELS)
+    set(labels LABELS "${ARG_LABELS}")
+  endif()
   gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST
-    PROPERTIES ENVIRONMENT "CVX_TEST_TMP=${CMAKE_CURRENT_BINARY_DIR}")
+    PROPERTIES ENVIRONMENT "CVX_TEST_TMP=${CMAKE_CURRENT_BINARY_DIR}" ${labels})
 endfunction()

@@ -1,3 +1,5 @@
 #pragma once
 // Each section of the demo shows one part of the library end to end.
 void DemoFoundation();
+// Model attributes across analysis steps, property tables, progress reporting.
+void DemoModel();

@@ -16,6 +16,7 @@ run_suite() {
 
 run_suite debug
 run_suite asan
+run_suite tsan
 
 echo "=== fuzz"
 cmake --preset fuzz >/dev/null

@@ -23,6 +23,7 @@ public:
 
   // Points the stream at another target and answers the previous one.
   std::ostream* Redirect(std::ostream* target) noexcept;
+  std::ostream* Target() const noexcept { return m_Target; }
 
 private:
   std::ostream* m_Target;

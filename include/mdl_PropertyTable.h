@@ -1,0 +1,61 @@
+#pragma once
+// One block of tabular material or section data: a rows x columns table of doubles, one row
+// per data point, and a flag that lets the first row be all zero. Persisted as "table" and
+// "allowEmptyFirstRow". Owners share one table through mdl_PropertyTableHld until one of them
+// changes it.
+#include <CVX_Export.h>
+#include <UTI_Modules.h>
+#include <cls_Uid.h>
+#include <cow_2DArray.h>
+#include <cow_COW.h>
+
+class cls_ClassRegistrar;
+class cls_ReadVisitor;
+class cls_WriteVisitor;
+
+class CVX_EXPORT mdl_PropertyTable final {
+public:
+  mdl_PropertyTable() noexcept = default;
+  mdl_PropertyTable(int rows, int columns) : m_Table(rows, columns) {}
+  explicit mdl_PropertyTable(const cow_2DArray<double>& table) noexcept : m_Table(table) {}
+  mdl_PropertyTable(const mdl_PropertyTable&) = default;
+  mdl_PropertyTable& operator=(const mdl_PropertyTable&) = default;
+  explicit mdl_PropertyTable(const cls_ReadVisitor& reader);
+  ~mdl_PropertyTable();  // not virtual: nothing derives from a final class
+
+  virtual mdl_PropertyTable* Copy() const { return new mdl_PropertyTable(*this); }
+  virtual unsigned int DynTypeId() const { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& writer) const;
+
+  int Rows() const noexcept { return m_Table.Rows(); }
+  int Columns() const noexcept { return m_Table.Columns(); }
+  double operator()(int row, int column) const { return m_Table(row, column); }
+  void Set(int row, int column, double value) { m_Table.Set(row, column, value); }
+  const cow_2DArray<double>& Table() const noexcept { return m_Table; }
+  bool AllowEmptyFirstRow() const noexcept { return m_AllowEmptyFirstRow; }
+  void SetAllowEmptyFirstRow(bool allow) noexcept { m_AllowEmptyFirstRow = allow; }
+
+  // Same flag, same shape and every element equal; a NaN is never equal, so a table holding
+  // one is unequal even to itself.
+  bool operator==(const mdl_PropertyTable& other) const;
+  bool operator!=(const mdl_PropertyTable& other) const { return !(*this == other); }
+
+  // Orders the rows ascending by the last keyColumns columns, the last column most
+  // significant; rows with equal keys keep their order. A row whose comparison reaches a NaN
+  // key stops moving there, exactly as an insertion sort that moves a row up while the row
+  // above compares greater would leave it.
+  void Sort(int keyColumns);
+  // Raises nex_TextException at the first row whose values are all zero (NaN counts as
+  // non-zero); row 0 is exempt when the flag allows an empty first row.
+  void AssertValid() const;
+
+  static unsigned int TypeId() noexcept { return mdl_TypeId(18); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+private:
+  cow_2DArray<double> m_Table;
+  bool m_AllowEmptyFirstRow = false;
+  cls_Uid m_Uid = cls_Uid::AllocateUid();
+};
+
+using mdl_PropertyTableHld = cow_COW<mdl_PropertyTable, cow_Virtual<mdl_PropertyTable>>;

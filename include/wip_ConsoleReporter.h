@@ -1,0 +1,71 @@
+#pragma once
+// A ready-made reporter for hosts without a user interface of their own: errors, warnings,
+// milestones and messages go to a text stream (the error stream by default), and the progress
+// of a task (Milestone(task, unit, done, total), see wip_Progress) is shown with its rate and
+// remaining time: as a bar redrawn in place on a terminal, as a line per tenth otherwise.
+//
+//   wip_ConsoleReporter console;
+//   wip_WIP::Instance().SetWipReporter(&console);   // uninstalled again when console dies
+//
+// RequestInterrupt may be called from any thread or from a signal handler; the running task
+// sees it through Interrupted / InterruptedThrow, and CommandDone forgets it.
+#include <aio_ostream.h>
+#include <wip_WipReporter.h>
+
+#include <atomic>
+#include <string>
+
+class CVX_EXPORT wip_ConsoleReporter : public wip_WipReporter {
+public:
+  enum Style {
+    STYLE_AUTO,      // a bar when the stream is a terminal, lines otherwise
+    STYLE_PLAIN,     // lines, for logs and pipes
+    STYLE_TERMINAL,  // a bar redrawn in place
+  };
+
+  explicit wip_ConsoleReporter(Style style = STYLE_AUTO, aio_ostream& out = aio_cerr());
+
+  bool ShowsBar() const noexcept { return m_Bar; }
+  // Verbose messages are shown only when asked for.
+  void SetVerbose(bool verbose) noexcept { m_Verbose = verbose; }
+  void RequestInterrupt() noexcept { m_InterruptRequested.store(true); }
+
+  void Error(const atr_String& text, wip_errorLevelEnm level) override;
+  void Warning(const atr_String& text) override;
+  void ErrorList(const cow_List<atr_String>& texts, wip_errorLevelEnm level) override;
+  void WarningList(const cow_List<atr_String>& texts) override;
+  void Verbose(const atr_String& text) override;
+  void Milestone(const atr_String& text, int value) override;
+  void Milestone(const atr_String& task, const atr_String& unit, int done, int total) override;
+  void Milestone(const atr_String& text) override;
+  void Landmark(const atr_String& text) override;
+  void Print(const atr_String& text) override;
+  void Display(const atr_String& text) override;
+  int Interrupted() override;
+  void CommandDone() override;
+  // Raises wip_InterruptException once per request.
+  void InterruptedThrow() override;
+
+protected:
+  // Seconds on a steady clock; the rate and remaining time are measured with it.
+  virtual double Seconds() const;
+
+private:
+  void Line(std::string_view prefix, std::string_view text);
+  void Emit(std::string text);
+  void EndBar();
+  std::string ProgressText(std::string_view task, std::string_view unit, int done, int total,
+                           double elapsed) const;
+
+  aio_ostream& m_Out;
+  bool m_Bar;
+  bool m_Verbose = false;
+  std::atomic<bool> m_InterruptRequested{false};
+
+  // The task in progress.
+  std::string m_Task;
+  double m_TaskStart = 0;
+  int m_LastDone = -1;
+  int m_LastTenth = -1;    // plain style: the last tenth printed
+  std::string m_ShownBar;  // terminal style: the bar on the screen, empty when none
+};

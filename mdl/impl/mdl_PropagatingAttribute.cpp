@@ -1,0 +1,11 @@
+// The library's instantiations of the propagating attribute (exported by their declarations).
+#include <mdl_PropagatingAttribute.h>
+
+template class mdl_PropAttr<cow_String>;
+template class mdl_PropAttr<double>;
+template class mdl_PropAttr<bool>;
+template class mdl_PropAttr<cls_xpListInt>;
+template class mdl_PropAttr<int>;
+template class mdl_PropAttr<cls_xp1DArrayInt>;
+template class mdl_PropAttr<cls_xpListString>;
+template class mdl_PropAttr<cls_xp1DArrayListFloat>;

@@ -1,0 +1,390 @@
+#include "ArchiveFile.h"
+#include "LibraryEnvironment.h"
+
+#include <cls_MetadataRegistrar.h>
+#include <mdl_PropagatingAttribute.h>
+#include <mdl_PropagationStatusEnm.h>
+#include <omu_ValueErrorException.h>
+#include <typ_ArchCompTable.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <optional>
+
+using PropString = mdl_PropAttr<cow_String>;
+
+namespace {
+constexpr mdl_PropAttributeStateEnm kStates[] = {
+    UNSET, SET, UNCHANGED, FREED, NOT_APPLICABLE, INVALID, ABS_DEFAULT, COMP_DEFAULT};
+
+// A holder of "abc" in the given state, whatever the state would normally imply.
+PropString Holder(mdl_PropAttributeStateEnm state, const char* value = "abc") {
+  PropString holder{cow_String(value)};
+  holder.ForceState(state);
+  return holder;
+}
+}  // namespace
+
+TEST(PropAttr, ConstructionLeavesTheHolderUnsetWithAFreshUid) {
+  const mdl_PropAttr<double> empty;
+  EXPECT_EQ(empty.State(), UNSET);
+  EXPECT_EQ(empty.ConstGet(), 0.0);
+  EXPECT_FALSE(empty.Uid().IsNull());
+  const PropString given(cow_String("steel"));
+  EXPECT_EQ(given.State(), UNSET);  // a value at construction does not count as set
+  EXPECT_TRUE(given.IsFree());
+  EXPECT_TRUE(given == cow_String("steel"));
+  EXPECT_NE(given.Uid(), PropString().Uid());
+  const PropString copy(given);
+  EXPECT_EQ(copy.Uid(), given.Uid());
+  PropString renewed(given);
+  renewed.NewUid();
+  EXPECT_NE(renewed.Uid(), given.Uid());
+}
+
+TEST(PropAttr, StateMachineCoversEveryStateAndTransition) {
+  struct Row {
+    mdl_PropAttributeStateEnm before;
+    mdl_PropAttributeStateEnm afterPropagate;
+  };
+  const Row rows[] = {{UNSET, UNSET},
+                      {SET, UNCHANGED},
+                      {UNCHANGED, UNCHANGED},
+                      {FREED, UNSET},
+                      {NOT_APPLICABLE, NOT_APPLICABLE},
+                      {INVALID, INVALID},
+                      {ABS_DEFAULT, ABS_DEFAULT},
+                      {COMP_DEFAULT, COMP_DEFAULT}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.before);
+    PropString assigned = Holder(row.before);
+    assigned = cow_String("new");
+    EXPECT_EQ(assigned.State(), SET);
+    EXPECT_TRUE(assigned == cow_String("new"));
+
+    PropString fetched = Holder(row.before);
+    EXPECT_EQ(fetched.Get(), "abc");
+    EXPECT_EQ(fetched.State(), SET);
+
+    PropString propagated = Holder(row.before);
+    propagated.Propagate();
+    EXPECT_EQ(propagated.State(), row.afterPropagate);
+    EXPECT_TRUE(propagated == cow_String("abc"));  // propagation never touches the value
+
+    for (const PropString& other : {Holder(SET, "x"), Holder(FREED, "")}) {
+      PropString modified = Holder(row.before);
+      modified.Modify(other);
+      EXPECT_EQ(modified, other);
+    }
+    for (mdl_PropAttributeStateEnm unmodified : {UNSET, UNCHANGED, NOT_APPLICABLE, COMP_DEFAULT}) {
+      PropString kept = Holder(row.before);
+      kept.Modify(Holder(unmodified, "x"));
+      EXPECT_EQ(kept, Holder(row.before));
+    }
+
+    for (mdl_PropAttributeStateEnm state : kStates) {
+      PropString holder = Holder(row.before);
+      holder = state;
+      EXPECT_EQ(holder.State(), state);
+      const bool zeroed = state == UNSET || state == FREED;
+      EXPECT_EQ(holder.ConstGet(), zeroed ? "" : "abc") << state;
+    }
+  }
+}
+
+TEST(PropAttr, PropagatingAfterASetCarriesTheValueUnchanged) {
+  mdl_PropAttr<int> holder;
+  holder = 5;
+  std::vector<mdl_PropAttributeStateEnm> states{holder.State()};
+  for (int step = 0; step < 2; ++step) {
+    holder.Propagate();
+    states.push_back(holder.State());
+  }
+  EXPECT_EQ(states, (std::vector<mdl_PropAttributeStateEnm>{SET, UNCHANGED, UNCHANGED}));
+  EXPECT_TRUE(holder == 5);
+  holder = FREED;
+  holder.Propagate();
+  EXPECT_EQ(holder.State(), UNSET);
+  EXPECT_TRUE(holder == 0);
+}
+
+TEST(PropAttr, GetMarksTheHolderSetButConstGetDoesNot) {
+  PropString holder = Holder(UNCHANGED);
+  EXPECT_EQ(holder.ConstGet(), "abc");
+  EXPECT_EQ(holder.State(), UNCHANGED);
+  holder.Get();
+  EXPECT_EQ(holder.State(), SET);
+  PropString changed = Holder(UNSET);
+  changed.Get().Append("d");
+  EXPECT_TRUE(changed == cow_String("abcd"));
+}
+
+TEST(PropAttr, ForceStateAndZeroTouchOnlyTheirOwnPart) {
+  PropString holder = Holder(SET);
+  holder.ForceState(FREED);
+  EXPECT_TRUE(holder == cow_String("abc"));
+  holder.Zero();
+  EXPECT_EQ(holder.State(), FREED);
+  EXPECT_TRUE(holder == cow_String(""));
+  EXPECT_TRUE(holder == cow_String());
+}
+
+TEST(PropAttr, EqualityComparesValueAndStateButNotTheUid) {
+  EXPECT_EQ(Holder(SET), Holder(SET));
+  EXPECT_NE(Holder(SET).Uid(), Holder(SET).Uid());
+  EXPECT_NE(Holder(SET), Holder(UNCHANGED));
+  EXPECT_NE(Holder(SET, "a"), Holder(SET, "b"));
+  EXPECT_TRUE(Holder(SET) == SET);
+  EXPECT_TRUE(Holder(SET) != FREED);
+  EXPECT_TRUE(Holder(SET) != cow_String("abd"));
+  mdl_PropAttr<cls_xpListInt> list;
+  list = cls_xpListInt{1, 2};
+  EXPECT_TRUE(list == (cls_xpListInt{1, 2}));
+  EXPECT_TRUE(list != (cls_xpListInt{2, 1}));
+}
+
+TEST(PropAttr, PredicatesFollowTheState) {
+  struct Row {
+    mdl_PropAttributeStateEnm state;
+    bool modified, conditionModified, active, free;
+  };
+  const Row rows[] = {
+      {UNSET, false, false, false, true},           {SET, true, false, true, false},
+      {UNCHANGED, false, false, true, false},       {FREED, true, true, false, true},
+      {NOT_APPLICABLE, false, false, false, false}, {INVALID, false, false, false, false},
+      {ABS_DEFAULT, false, false, false, false},    {COMP_DEFAULT, false, false, false, false}};
+  for (const Row& row : rows) {
+    const PropString holder = Holder(row.state);
+    EXPECT_EQ(holder.IsModified(), row.modified) << row.state;
+    EXPECT_EQ(holder.IsConditionModified(), row.conditionModified) << row.state;
+    EXPECT_EQ(holder.IsActive(), row.active) << row.state;
+    EXPECT_EQ(holder.IsFree(), row.free) << row.state;
+  }
+}
+
+TEST(PropAttr, SetStatusAcceptsItsBranchsStatusesAndRefusesTheRest) {
+  // Expected state after SetStatus on a NOT_APPLICABLE holder of "abc", or nullopt for a
+  // refusal; the value is "abc" or zeroed. UNCHANGED changes nothing at all.
+  struct Outcome {
+    std::optional<mdl_PropAttributeStateEnm> state;
+    bool zeroed;
+  };
+  const auto refused = Outcome{std::nullopt, false};
+  const Outcome kept{NOT_APPLICABLE, false};
+  const Outcome withUnset[] = {{UNSET, true}, {SET, true}, kept,    refused,
+                               refused,       refused,     refused, refused};
+  const Outcome withFreed[] = {refused, {SET, true}, kept,    {FREED, true},
+                               refused, refused,     refused, refused};
+  std::set<int> lines;
+  for (bool allowUnset : {true, false}) {
+    for (mdl_PropAttributeStateEnm status : kStates) {
+      SCOPED_TRACE(testing::Message() << allowUnset << " " << status);
+      const Outcome expected = (allowUnset ? withUnset : withFreed)[status];
+      const PropString before = Holder(NOT_APPLICABLE);
+      PropString holder = before;
+      try {
+        holder.SetStatus("thickness", mdl_PropAttributeState(status), allowUnset);
+        ASSERT_TRUE(expected.state.has_value());
+        EXPECT_EQ(holder.State(), *expected.state);
+        EXPECT_EQ(holder.ConstGet(), expected.zeroed ? "" : "abc");
+      } catch (const nex_TextException& e) {
+        ASSERT_FALSE(expected.state.has_value());
+        EXPECT_EQ(e.Text(), "Invalid propagation status for 'thickness' attribute.");
+        EXPECT_STREQ(e.SourcePath(), "include/mdl_PropagatingAttribute");
+        lines.insert(e.SourceLine());
+        EXPECT_EQ(holder, before);
+      }
+    }
+  }
+  EXPECT_EQ(lines.size(), 2u) << "each branch refuses from its own line";
+}
+
+TEST(PropagationStatus, ClassificationsOverAllSeventeenStatuses) {
+  struct Row {
+    mdl_PropagationStatusEnm status;
+    bool active, deactivated, general;
+  };
+  // clang-format off
+  const Row rows[] = {
+      {NOT_YET_ACTIVE,              false, false, true},
+      {CREATED,                     true,  false, true},
+      {PROPAGATED,                  true,  false, true},
+      {MODIFIED,                    true,  false, true},
+      {DEACTIVATED,                 false, true,  true},
+      {NO_LONGER_ACTIVE,            false, true,  true},
+      {TYPE_NOT_APPLICABLE,         false, false, false},
+      {INSTANCE_NOT_APPLICABLE,     false, false, false},
+      {BUILT_INTO_BASE_STATE,       true,  false, false},
+      {PROPAGATED_FROM_BASE_STATE,  true,  false, false},
+      {MODIFIED_FROM_BASE_STATE,    true,  false, false},
+      {DEACTIVATED_FROM_BASE_STATE, false, true,  false},
+      {BUILT_INTO_MODES,            true,  false, false},
+      {COMPUTED,                    false, false, false},
+      {PROPAGATED_FROM_COMPUTED,    false, false, false},
+      {RESET_TO_INITIAL,            false, false, false},
+      {PROPAGATED_FROM_FREQUENCY,   true,  false, false},
+  };
+  // clang-format on
+  for (const Row& row : rows) {
+    EXPECT_EQ(mdl_activePropagationStatus(row.status), row.active) << row.status;
+    EXPECT_EQ(mdl_deactivatedPropagationStatus(row.status), row.deactivated) << row.status;
+    EXPECT_EQ(mdl_generalAnalysisStatus(row.status), row.general) << row.status;
+  }
+}
+
+TEST(PropagationStatus, NamesRoundTripThroughTheEnumerationWrapper) {
+  using Status = omu_PrimEnum<mdl_PropagationStatusEnm, 1>;
+  EXPECT_STREQ(Status(NOT_YET_ACTIVE).GetString(), "NOT_YET_ACTIVE");
+  EXPECT_STREQ(Status(PROPAGATED_FROM_FREQUENCY).GetString(), "PROPAGATED_FROM_FREQUENCY");
+  EXPECT_EQ(static_cast<mdl_PropagationStatusEnm>(Status(cow_String("RESET_TO_INITIAL"))),
+            RESET_TO_INITIAL);
+  EXPECT_EQ(Status(COMPUTED).PermissibleValues().Length(), 17);
+  EXPECT_THROW(Status(static_cast<mdl_PropagationStatusEnm>(17)), omu_ValueErrorException);
+  EXPECT_THROW(mdl_PropAttributeState(cow_String("set")), omu_ValueErrorException);
+}
+
+// Every instantiation: a value, its registration name and class number.
+template <class T>
+struct Sample;
+template <>
+struct Sample<cow_String> {
+  static cow_String Value() { return "shell"; }
+};
+template <>
+struct Sample<double> {
+  static double Value() { return -0.1; }
+};
+template <>
+struct Sample<bool> {
+  static bool Value() { return true; }
+};
+template <>
+struct Sample<int> {
+  static int Value() { return -7; }
+};
+template <>
+struct Sample<cls_xpListInt> {
+  static cls_xpListInt Value() { return {3, -1, 4}; }
+};
+template <>
+struct Sample<cls_xp1DArrayInt> {
+  static cls_xp1DArrayInt Value() { return {9, 8}; }
+};
+template <>
+struct Sample<cls_xpListString> {
+  static cls_xpListString Value() { return {"a", "", "c"}; }
+};
+template <>
+struct Sample<cls_xp1DArrayListFloat> {
+  static cls_xp1DArrayListFloat Value() {
+    return {cls_xpList<float>{1.5f, -2.0f}, cls_xpList<float>{}, cls_xpList<float>{3.25f}};
+  }
+};
+
+template <class T>
+class PropAttrPersistence : public testing::Test {};
+using Instantiations = testing::Types<cow_String, double, bool, cls_xpListInt, int,
+                                      cls_xp1DArrayInt, cls_xpListString, cls_xp1DArrayListFloat>;
+TYPED_TEST_SUITE(PropAttrPersistence, Instantiations);
+
+TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName) {
+  for (mdl_PropAttributeStateEnm state : kStates) {
+    mdl_PropAttr<TypeParam> holder(Sample<TypeParam>::Value());
+    holder.ForceState(state);
+    cls_Archive archive;
+    archive.Add(holder);
+    const cls_Value* written =
+        archive.RootValue(0).As<std::shared_ptr<cls_Record>>()->get()->Find("state");
+    ASSERT_NE(written, nullptr);
+    EXPECT_EQ(written->As<cls_EnumName>()->name, mdl_PropAttributeState(state).Name());
+    const auto read = Reloaded(archive, "propattr").template Read<mdl_PropAttr<TypeParam>>(0);
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(*read, holder) << state;
+    EXPECT_EQ(read->Uid(), holder.Uid());
+  }
+}
+
+TYPED_TEST(PropAttrPersistence, RegistersItsNameKindsAndNumber) {
+  using Holder = mdl_PropAttr<TypeParam>;
+  const cls_ClassMetadata& metadata =
+      cls_MetadataRegistrar::Instance().Registrar().Get(Holder::TypeId());
+  EXPECT_EQ(metadata.Name(), mdl_PropAttrClass<TypeParam>::name);
+  EXPECT_EQ(metadata.MetadataWord(), 203u);
+  ASSERT_EQ(metadata.Attributes().size(), 2u);
+  EXPECT_EQ(metadata.Attributes()[0], (cls_Attribute{0, "val", cls_xpItem<TypeParam>::Kind, 1, 0}));
+  EXPECT_EQ(metadata.Attributes()[1], (cls_Attribute{1, "state", cls_KIND_ENUM, 1, 0}));
+  EXPECT_EQ(Holder().DynTypeId(), Holder::TypeId());
+}
+
+TEST(PropAttrPersistence, TypeIdentifiersKindsAndBothSpellingsOfTheFloatArray) {
+  EXPECT_EQ(mdl_PropAttr<cow_String>::TypeId(), 0xA000Eu);
+  EXPECT_EQ(mdl_PropAttr<double>::TypeId(), 0xA000Fu);
+  EXPECT_EQ(mdl_PropAttr<bool>::TypeId(), 0xA0010u);
+  EXPECT_EQ(mdl_PropAttr<cls_xpListInt>::TypeId(), 0xA0011u);
+  EXPECT_EQ(mdl_PropAttr<int>::TypeId(), 0xA0013u);
+  EXPECT_EQ(mdl_PropAttr<cls_xp1DArrayInt>::TypeId(), 0xA0014u);
+  EXPECT_EQ(mdl_PropAttr<cls_xpListString>::TypeId(), 0xA0015u);
+  EXPECT_EQ(mdl_PropAttr<cls_xp1DArrayListFloat>::TypeId(), 0xA0016u);
+  const unsigned int floatArray = mdl_PropAttr<cls_xp1DArrayListFloat>::TypeId();
+  EXPECT_STREQ(typ_ArchCompTable::Instance().ClassName(floatArray), "mdl_Prop1DArrayListFloat");
+  EXPECT_EQ(cls_MetadataRegistrar::Instance().Registrar().Get(floatArray).Name(),
+            "mdl_PropList1DArrayListFloat");
+  const int kinds[] = {cls_xpItem<cow_String>::Kind, cls_xpItem<double>::Kind,
+                       cls_xpItem<bool>::Kind, cls_xpItem<int>::Kind};
+  EXPECT_EQ(std::vector<int>(std::begin(kinds), std::end(kinds)),
+            (std::vector<int>{11, 10, 13, 5}));
+}
+
+TEST(MdlModule, RegistersItsClassesInOrder) {
+  std::vector<cow_String> names;
+  for (const auto& registration : cls_MetadataRegistrar::Instance().Registrations()) {
+    for (unsigned int typeId : registration.typeIds) {
+      if (cls_ModuleOf(typeId) != mdl_ModuleNumber) continue;
+      names.push_back(cls_MetadataRegistrar::Instance().Registrar().Get(typeId).Name() + "/" +
+                      atr_StringBase(registration.phase));
+    }
+  }
+  EXPECT_EQ(names, (std::vector<cow_String>{
+                       "mdl_PropString/7", "mdl_PropDouble/7", "mdl_PropBool/7",
+                       "mdl_PropListInt/7", "mdl_PropInt/7", "mdl_Prop1DArrayInt/7",
+                       "mdl_PropListString/7", "mdl_PropList1DArrayListFloat/7", "mdl_Extension/7",
+                       "mdl_Repository/7", "mdl_PropertyTable/7", "mdl_JaggedArray/4"}));
+}
+
+namespace {
+// An mdl_PropInt record as a foreign or damaged archive could hold it.
+struct ForgedPropInt {
+  cls_Value val;
+  const char* state;
+  void DBWrite(const cls_WriteVisitor& writer) const {
+    writer.StartWrite(mdl_PropAttr<int>::TypeId(), cls_Uid(99));
+    writer.Write("val", val);
+    writer.WriteEnum("state", state);
+  }
+};
+}  // namespace
+
+TEST(PropAttrPersistence, AnUnknownStateNameIsRefusedByTheEnumeration) {
+  try {
+    RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "set"}, "badstate");
+    FAIL() << "a lower-case state name was accepted";
+  } catch (const omu_ValueErrorException& e) {
+    EXPECT_EQ(
+        e.JournalMessage(),
+        "omu_PrimEnum(const cow_String&) - str not allowed: set  Permissible: {ABS_DEFAULT: 6, "
+        "COMP_DEFAULT: 7, FREED: 3, INVALID: 5, NOT_APPLICABLE: 4, SET: 1, UNCHANGED: 2, "
+        "UNSET: 0}");
+  }
+  const auto read =
+      RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "FREED"}, "goodstate");
+  EXPECT_EQ(read->State(), FREED);
+  EXPECT_TRUE(*read == 3);  // the stored value is taken as it is
+}
+
+TEST(PropAttrPersistence, AValueOfTheWrongKindIsRefusedAsATextFailure) {
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{2.5, "SET"}, "badval"),
+               nex_TextException);
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{cls_Value(), "SET"}, "noval"),
+               nex_TextException);
+}

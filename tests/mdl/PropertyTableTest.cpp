@@ -1,0 +1,238 @@
+#include "ArchiveFile.h"
+#include "LibraryEnvironment.h"
+
+#include <cls_MetadataRegistrar.h>
+#include <mdl_PropertyTable.h>
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+namespace {
+constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+
+mdl_PropertyTable Table(int columns, std::vector<double> cells) {
+  const int rows = columns ? static_cast<int>(cells.size()) / columns : 0;
+  cow_2DArray<double> array(rows, columns);
+  array.MutableCells() = std::move(cells);
+  return mdl_PropertyTable(array);
+}
+
+// Bit for bit, so that -0.0 and NaN are told apart.
+bool SameBits(const mdl_PropertyTable& a, const mdl_PropertyTable& b) {
+  const auto& x = a.Table().Cells();
+  const auto& y = b.Table().Cells();
+  return a.Rows() == b.Rows() && a.Columns() == b.Columns() && x.size() == y.size() &&
+         std::memcmp(x.data(), y.data(), x.size() * sizeof(double)) == 0;
+}
+
+// The sort as the model describes it, row by row on a copy, without any shortcut.
+cow_2DArray<double> InsertionSorted(const cow_2DArray<double>& table, int keys) {
+  if (keys == 0) return table;
+  cow_2DArray<double> rows(table.Rows(), table.Columns());
+  for (int r = 0; r < table.Rows(); ++r) {
+    for (int c = 0; c < table.Columns(); ++c) rows.Set(r, c, table(r, c));
+  }
+  const int last = table.Columns() - 1;
+  std::vector<double> scratch(static_cast<std::size_t>(table.Columns()));
+  for (int i = 1; i < table.Rows(); ++i) {
+    for (int c = 0; c <= last; ++c) scratch[c] = rows(i, c);
+    int j = i;
+    for (int c = last, compared = 0; j > 0 && c >= 0 && compared < keys;) {
+      const double above = rows(j - 1, c);
+      if (above > scratch[c]) {
+        for (int k = 0; k <= last; ++k) rows.Set(j, k, rows(j - 1, k));
+        --j;
+        c = last;
+        compared = 0;
+      } else if (above == scratch[c]) {
+        --c;
+        ++compared;
+      } else {
+        break;
+      }
+    }
+    for (int c = 0; c <= last; ++c) rows.Set(j, c, scratch[c]);
+  }
+  return rows;
+}
+}  // namespace
+
+TEST(PropertyTable, ConstructorsGiveTheirShapeAndAClearedFlag) {
+  const mdl_PropertyTable empty;
+  EXPECT_EQ(empty.Rows(), 0);
+  EXPECT_EQ(empty.Columns(), 0);
+  const mdl_PropertyTable sized(2, 3);
+  EXPECT_EQ(sized.Rows(), 2);
+  EXPECT_EQ(sized.Columns(), 3);
+  EXPECT_EQ(sized(1, 2), 0.0);
+  EXPECT_FALSE(sized.AllowEmptyFirstRow());
+  EXPECT_EQ(Table(2, {1, 2, 3, 4})(1, 0), 3.0);
+}
+
+TEST(PropertyTable, EqualityNeedsFlagShapeAndEveryElementAndNaNIsNeverEqual) {
+  const mdl_PropertyTable base = Table(3, {1, 2, 3, 4, 5, 6});
+  EXPECT_EQ(base, Table(3, {1, 2, 3, 4, 5, 6}));
+  EXPECT_EQ(Table(1, {0.0}), Table(1, {-0.0}));
+  EXPECT_NE(base, Table(2, {1, 2, 3, 4, 5, 6}));  // same cells, other shape
+  EXPECT_NE(base, Table(3, {1, 2, 3, 4, 5, 7}));
+  mdl_PropertyTable flagged = base;
+  flagged.SetAllowEmptyFirstRow(true);
+  EXPECT_NE(base, flagged);
+  const mdl_PropertyTable withNaN = Table(2, {1, NaN});
+  EXPECT_NE(withNaN, withNaN);
+  const mdl_PropertyTable shared = withNaN;
+  EXPECT_NE(shared, withNaN);                               // even when both share one body
+  EXPECT_NE(mdl_PropertyTable(), mdl_PropertyTable(0, 4));  // no cells, but other column counts
+}
+
+TEST(PropertyTable, SortOrdersByTheTrailingColumnsLastMostSignificant) {
+  mdl_PropertyTable one = Table(2, {1, 5, 2, 3, 3, 5});
+  one.Sort(1);
+  EXPECT_TRUE(SameBits(one, Table(2, {2, 3, 1, 5, 3, 5})));
+  mdl_PropertyTable two = Table(2, {3, 1, 1, 2, 2, 1, 0, 2});
+  two.Sort(2);
+  EXPECT_TRUE(SameBits(two, Table(2, {2, 1, 3, 1, 0, 2, 1, 2})));
+  mdl_PropertyTable clipped = Table(2, {3, 1, 1, 2, 2, 1});
+  clipped.Sort(9);  // more keys than columns: every column is a key
+  EXPECT_TRUE(SameBits(clipped, Table(2, {2, 1, 3, 1, 1, 2})));
+}
+
+TEST(PropertyTable, SortKeepsEqualKeysInOrderAndTreatsMinusZeroAsZero) {
+  mdl_PropertyTable table = Table(2, {1, 0.0, 2, -0.0, 3, -1, 4, 0.0});
+  table.Sort(1);
+  EXPECT_TRUE(SameBits(table, Table(2, {3, -1, 1, 0.0, 2, -0.0, 4, 0.0})));
+}
+
+TEST(PropertyTable, ANaNKeyStopsARowWhereTheComparisonReachesIt) {
+  mdl_PropertyTable table = Table(1, {3, NaN, 1});
+  table.Sort(1);
+  EXPECT_TRUE(SameBits(table, Table(1, {3, NaN, 1})));  // nothing passes the NaN
+  mdl_PropertyTable past = Table(2, {NaN, 5, 0, 1});
+  past.Sort(2);  // decided by the last column before the NaN is reached
+  EXPECT_TRUE(SameBits(past, Table(2, {0, 1, NaN, 5})));
+}
+
+TEST(PropertyTable, SortWithoutKeysOrRowsChangesNothing) {
+  for (int keys : {0, -1}) {
+    mdl_PropertyTable table = Table(2, {3, 2, 1, 0});
+    table.Sort(keys);
+    EXPECT_TRUE(SameBits(table, Table(2, {3, 2, 1, 0}))) << keys;
+  }
+  mdl_PropertyTable empty;
+  empty.Sort(2);
+  EXPECT_EQ(empty.Rows(), 0);
+  mdl_PropertyTable single = Table(3, {NaN, 2, 1});
+  single.Sort(3);
+  EXPECT_TRUE(SameBits(single, Table(3, {NaN, 2, 1})));
+}
+
+TEST(PropertyTable, SortGivesTheInsertionSortsExactResultOnRandomTables) {
+  std::mt19937 random(20240611);
+  const double values[] = {-1.0, 0.0, -0.0, 1.0, 2.0, 2.5, NaN};
+  for (int trial = 0; trial < 3000; ++trial) {
+    const bool withNaN = trial % 2 == 0;
+    const int columns = 1 + static_cast<int>(random() % 4);
+    // Long enough tables for the merge path, short ones for many NaN patterns.
+    const int rows = static_cast<int>(random() % (withNaN ? 24 : 120));
+    const int keys = static_cast<int>(random() % 6) - 1;
+    const int choices = withNaN ? 7 : 6;
+    cow_2DArray<double> array(rows, columns);
+    for (double& cell : array.MutableCells()) cell = values[random() % choices];
+    mdl_PropertyTable table{array};
+    table.Sort(keys);
+    const mdl_PropertyTable expected{InsertionSorted(array, std::min(std::max(keys, 0), columns))};
+    ASSERT_TRUE(SameBits(table, expected))
+        << "trial " << trial << ": " << rows << "x" << columns << " keys " << keys;
+  }
+}
+
+TEST(PropertyTable, SortingACopyLeavesTheSharedOriginalAlone) {
+  const mdl_PropertyTableHld original(Table(1, {2, 1}));
+  mdl_PropertyTableHld copy = original;
+  copy.Get()->Sort(1);
+  EXPECT_TRUE(SameBits(*original, Table(1, {2, 1})));
+  EXPECT_TRUE(SameBits(*copy, Table(1, {1, 2})));
+}
+
+TEST(PropertyTable, AssertValidRefusesTheFirstAllZeroRow) {
+  struct Case {
+    const char* name;
+    mdl_PropertyTable table;
+    bool allowEmptyFirstRow;
+    bool valid;
+  };
+  const Case cases[] = {
+      {"zero first row", Table(3, {0, 0, 0}), false, false},
+      {"zero first row allowed", Table(3, {0, -0.0, 0}), true, true},
+      {"second zero row", Table(2, {0, 0, 0, 0}), true, false},
+      {"NaN and zeros", Table(3, {0, NaN, 0}), false, true},
+      {"one non-zero", Table(2, {0, 1e-300, 4, 0}), false, true},
+      {"no rows", mdl_PropertyTable(), false, true},
+      {"rows without columns", mdl_PropertyTable(1, 0), false, false},
+  };
+  for (Case c : cases) {
+    c.table.SetAllowEmptyFirstRow(c.allowEmptyFirstRow);
+    if (c.valid) {
+      EXPECT_NO_THROW(c.table.AssertValid()) << c.name;
+      continue;
+    }
+    try {
+      c.table.AssertValid();
+      ADD_FAILURE() << c.name << " passed";
+    } catch (const nex_TextException& e) {
+      EXPECT_EQ(e.Text(),
+                "Tabular data for at least one option or suboption\n"
+                "has either blank or zero valued row(s).");
+      EXPECT_STREQ(e.SourcePath(), "mdl/impl/mdl_PropertyTable");
+    }
+  }
+}
+
+TEST(PropertyTable, RoundTripsThroughAnArchiveFileBitForBit) {
+  mdl_PropertyTable table =
+      Table(3, {0, -0.0, NaN, 1e-310, -2.5, std::numeric_limits<double>::infinity()});
+  table.SetAllowEmptyFirstRow(true);
+  const auto read = RoundTrip<mdl_PropertyTable>(table, "proptable");
+  ASSERT_NE(read, nullptr);
+  EXPECT_TRUE(SameBits(*read, table));
+  EXPECT_TRUE(read->AllowEmptyFirstRow());
+  EXPECT_EQ(*RoundTrip<mdl_PropertyTable>(mdl_PropertyTable(), "emptytable"), mdl_PropertyTable());
+}
+
+namespace {
+struct ForgedTable {
+  cls_Matrix table;
+  void DBWrite(const cls_WriteVisitor& writer) const {
+    writer.StartWrite(mdl_PropertyTable::TypeId(), cls_Uid());
+    writer.Write("table", table);
+    writer.Write("allowEmptyFirstRow", false);
+  }
+};
+}  // namespace
+
+TEST(PropertyTable, AForeignTableIsRefusedAsATextFailure) {
+  const ForgedTable forged[] = {
+      {cls_Matrix{2, 2, {1.0, 2.0, 3.0}}},                    // fewer cells than its shape
+      {cls_Matrix{-1, 0, {}}},                                // negative shape
+      {cls_Matrix{1, 2, {1.0, cls_Value(std::int32_t{2})}}},  // a cell of another kind
+  };
+  for (const ForgedTable& table : forged) {
+    EXPECT_THROW(RoundTrip<mdl_PropertyTable>(table, "forgedtable"), nex_TextException);
+  }
+}
+
+TEST(PropertyTable, RegistersItsNameAndAttributes) {
+  const cls_ClassMetadata& metadata =
+      cls_MetadataRegistrar::Instance().Registrar().Get(mdl_PropertyTable::TypeId());
+  EXPECT_EQ(mdl_PropertyTable::TypeId(), 0xA0012u);
+  EXPECT_EQ(metadata.Name(), "mdl_PropertyTable");
+  ASSERT_EQ(metadata.Attributes().size(), 2u);
+  EXPECT_EQ(metadata.Attributes()[0].name, "table");
+  EXPECT_EQ(metadata.Attributes()[1],
+            (cls_Attribute{1, "allowEmptyFirstRow", cls_KIND_BOOL, 1, 0}));
+}

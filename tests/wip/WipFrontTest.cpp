@@ -1,0 +1,140 @@
+#include "RecordingReporter.h"
+
+#include <nex_AssertException.h>
+#include <wip_WIP.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <latch>
+#include <memory>
+#include <set>
+#include <thread>
+
+namespace {
+struct Forwarding {
+  const char* name;
+  std::function<void(wip_WIPBase&)> call;
+  const char* recorded;
+};
+
+const std::vector<Forwarding>& Forwardings() {
+  static const std::vector<Forwarding> cases = {
+      {"Error", [](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
+      {"ErrorList",
+       [](wip_WIPBase& f) {
+         f.ErrorList({"a", "b"}, static_cast<wip_errorLevelEnm>(42));
+       },
+       "ErrorList(a;b|42)"},
+      {"Verbose", [](wip_WIPBase& f) { f.Verbose("detail"); }, "Verbose(detail)"},
+      {"Warning", [](wip_WIPBase& f) { f.Warning("thin"); }, "Warning(thin)"},
+      {"WarningList", [](wip_WIPBase& f) { f.WarningList({"x"}); }, "WarningList(x)"},
+      {"Milestone1", [](wip_WIPBase& f) { f.Milestone("step 2"); }, "Milestone(step 2)"},
+      {"Landmark", [](wip_WIPBase& f) { f.Landmark("mark"); }, "Landmark(mark)"},
+      {"Print", [](wip_WIPBase& f) { f.Print("p"); }, "Print(p)"},
+      {"Display", [](wip_WIPBase& f) { f.Display("d"); }, "Display(d)"},
+      {"Milestone4", [](wip_WIPBase& f) { f.Milestone("mesh", "faces", 3, 9); },
+       "Milestone(mesh|faces,3,9)"},
+      {"Milestone2", [](wip_WIPBase& f) { f.Milestone("inc", -5); }, "Milestone(inc|-5)"},
+      {"Interrupted", [](wip_WIPBase& f) { f.Interrupted(); }, "Interrupted()"},
+      {"CommandDone", [](wip_WIPBase& f) { f.CommandDone(); }, "CommandDone()"},
+      {"InterruptedThrow", [](wip_WIPBase& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
+  };
+  return cases;
+}
+}  // namespace
+
+TEST(WipFront, ForwardsEachOperationToTheMatchingOverloadUnchanged) {
+  for (const Forwarding& forwarding : Forwardings()) {
+    wip_WIPBase front;
+    RecordingReporter reporter;
+    front.SetWipReporter(&reporter);
+    forwarding.call(front);
+    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.name;
+  }
+}
+
+TEST(WipFront, InterruptedAnswersTheReportersValue) {
+  wip_WIPBase front;
+  RecordingReporter reporter;
+  reporter.interrupted = 7;
+  front.SetWipReporter(&reporter);
+  EXPECT_EQ(front.Interrupted(), 7);
+}
+
+TEST(WipFront, EveryOperationAssertsThatAReporterIsInstalled) {
+  wip_WIPBase front;
+  std::set<int> lines;
+  for (const Forwarding& forwarding : Forwardings()) {
+    try {
+      forwarding.call(front);
+      ADD_FAILURE() << forwarding.name << " did not raise";
+    } catch (const nex_AssertException& e) {
+      EXPECT_EQ(e.Condition(), "WipReporter != 0") << forwarding.name;
+      EXPECT_STREQ(e.SourcePath(), "wip/impl/wip_WIP") << forwarding.name;
+      lines.insert(e.SourceLine());
+    }
+  }
+  // Each operation reports from its own line.
+  EXPECT_EQ(lines.size(), Forwardings().size());
+}
+
+TEST(WipFront, DestroyingTheInstalledReporterClearsTheThreadsFront) {
+  wip_WIP& front = wip_WIP::Instance();
+  RecordingReporter kept;
+  {
+    RecordingReporter other;
+    front.SetWipReporter(&kept);
+  }  // a reporter that is not installed leaves the front alone
+  EXPECT_EQ(front.GetWipReporter(), &kept);
+  {
+    auto installed = std::make_unique<RecordingReporter>();
+    front.SetWipReporter(installed.get());
+  }
+  EXPECT_EQ(front.GetWipReporter(), nullptr);
+  EXPECT_THROW(front.Warning("after"), nex_AssertException);
+}
+
+TEST(WipFront, FacilityMessagesAreRoutedByKind) {
+  const std::vector<std::pair<int, const char*>> routes = {
+      {-1, nullptr},      {0, "Warning(m)"},   {1, "Warning(m)"}, {2, "Warning(m)"},
+      {3, "Warning(m)"},  {4, "Milestone(m)"}, {5, nullptr},      {6, nullptr},
+      {7, "Landmark(m)"}, {8, "Verbose(m)"},   {9, nullptr},      {1000, nullptr}};
+  for (const auto& [kind, expected] : routes) {
+    RecordingReporter reporter;
+    reporter.Route("m", kind);
+    const std::vector<std::string> none;
+    EXPECT_EQ(reporter.calls, expected ? std::vector<std::string>{expected} : none) << kind;
+  }
+}
+
+TEST(WipFront, EachThreadSeesOnlyItsOwnReporter) {
+  constexpr int kThreads = 4;
+  constexpr int kMessages = 200;
+  std::vector<RecordingReporter> reporters(kThreads);
+  std::vector<std::thread> threads;
+  std::vector<wip_WIP*> fronts(kThreads);
+  // Every thread installs before any reports and stays alive until all have reported, so a
+  // shared front would show as crossed messages.
+  std::latch installed(kThreads);
+  std::latch reported(kThreads);
+  for (int t = 0; t < kThreads; ++t) {
+    threads.emplace_back([&, t] {
+      wip_WIP& front = wip_WIP::Instance();
+      fronts[t] = &front;
+      front.SetWipReporter(&reporters[t]);
+      installed.arrive_and_wait();
+      for (int i = 0; i < kMessages; ++i) front.Print(atr_StringBase(t));
+      reported.arrive_and_wait();
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (int t = 0; t < kThreads; ++t) {
+    EXPECT_EQ(reporters[t].calls,
+              std::vector<std::string>(kMessages, "Print(" + std::to_string(t) + ")"));
+  }
+  EXPECT_EQ(std::set<wip_WIP*>(fronts.begin(), fronts.end()).size(), std::size_t{kThreads})
+      << "threads shared a front";
+  // None of them installed anything on this thread's front.
+  EXPECT_NE(wip_WIP::Instance().GetWipReporter(), &reporters[0]);
+}
