@@ -1,11 +1,15 @@
 #pragma once
 // A copy-on-write list: copying is O(1) whatever the length; the first write un-shares.
 // Iteration is read-only so that reading never copies.
+#include <BASIC_Export.h>
 #include <cow_Shared.h>
 
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
+
+// Raises nex_TextException for an index outside a list of the given length.
+[[noreturn]] BASIC_EXPORT void cow_RaiseOutOfRange(int index, int length);
 
 template <class T>
 class cow_List {
@@ -23,6 +27,11 @@ public:
   const T& operator[](int index) const { return Items()[Count(index)]; }
   const T& ConstGet(int index) const { return Items()[Count(index)]; }
   T& Get(int index) { return m_Items.Write()[Count(index)]; }
+  // Checked read: an index outside [0, Length()) raises instead of reading past the end.
+  const T& At(int index) const {
+    if (index < 0 || index >= Length()) cow_RaiseOutOfRange(index, Length());
+    return Items()[Count(index)];
+  }
   const_iterator begin() const noexcept { return Items().begin(); }
   const_iterator end() const noexcept { return Items().end(); }
   const std::vector<T>& Vector() const noexcept { return Items(); }

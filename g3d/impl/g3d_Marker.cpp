@@ -1,0 +1,4 @@
+#include <g3d_Marker.h>
+
+g3d_Marker::g3d_Marker() noexcept = default;
+g3d_Marker::~g3d_Marker() = default;

@@ -1,0 +1,4 @@
+#include <g3d_Tensor.h>
+
+g3d_Tensor::g3d_Tensor() noexcept = default;
+g3d_Tensor::~g3d_Tensor() = default;

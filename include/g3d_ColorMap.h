@@ -1,0 +1,24 @@
+#pragma once
+// The process-wide table of colour names ("Red", "Sky blue", "Grey60", ...), all opaque.
+// Created on first use, destroyed when the g3d module stops.
+#include <g3d_Color.h>
+
+#include <cow_Map.h>
+
+class CVX_EXPORT g3d_ColorMap {
+public:
+  g3d_ColorMap();
+
+  static g3d_ColorMap& Instance();
+  static void Destroy() noexcept;
+
+  int Length() const noexcept { return m_Colors.Length(); }
+  // The colour of a name, or null. Names are case-sensitive.
+  const g3d_Color* Find(const cow_String& name) const { return m_Colors.Find(name); }
+  // The colour of a name; an unknown name raises g3d_ColorErrorException.
+  const g3d_Color& Lookup(const cow_String& name) const;
+  const cow_Map<cow_String, g3d_Color>& Colors() const noexcept { return m_Colors; }
+
+private:
+  cow_Map<cow_String, g3d_Color> m_Colors;
+};

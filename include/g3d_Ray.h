@@ -1,0 +1,11 @@
+#pragma once
+// A half-line: an origin and a direction (not necessarily of unit length).
+#include <g3d_Point.h>
+
+class CVX_EXPORT g3d_Ray {
+public:
+  g3d_Point origin;
+  g3d_Vector direction;
+
+  g3d_Ray& Set(const g3d_Point& origin_, const g3d_Vector& direction_) noexcept;
+};

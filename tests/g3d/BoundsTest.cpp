@@ -1,0 +1,147 @@
+// Spheres, bounding volumes, lights, the studio and marker bitmaps.
+#include <g3d_Bitmap.h>
+#include <g3d_BoundingVolume.h>
+#include <g3d_Studio.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+TEST(SphereTest, Unions) {
+  struct Case {
+    g3d_Sphere a, b, expected;
+  };
+  const g3d_Sphere s({1, 2, 3, 1}, 2);
+  const Case cases[] = {
+      {{{0, 0, 0, 1}, -1}, s, s},
+      {s, {{9, 9, 9, 1}, -1}, s},
+      {{{0, 0, 0, 1}, 1}, {{4, 0, 0, 1}, 1}, {{2, 0, 0, 1}, 3}},
+      {{{0, 0, 0, 1}, 1}, {{0, 0, 0, 1}, 2}, {{0, 0, 0, 1}, 2}},
+      {{{0, 0, 0, 1}, 5}, {{1, 0, 0, 1}, 1}, {{0, 0, 0, 1}, 5}},   // contained
+      {{{0, 0, 0, 2}, 1}, {{4, 0, 0, 1}, 1}, {{2, 0, 0, 1}, 3}},   // centres dehomogenised
+  };
+  for (const Case& c : cases) {
+    const g3d_Sphere u = c.a + c.b;
+    EXPECT_EQ(u, c.expected) << u.center.x << " " << u.radius;
+  }
+}
+
+TEST(BoundingVolumeTest, DefaultCubeAndGrowth) {
+  g3d_BoundingVolume volume;
+  EXPECT_EQ(volume.Count(), 0u);
+  EXPECT_EQ(volume.Vertexes(), nullptr);
+  volume.Reset();
+  EXPECT_TRUE(volume.IsDefault());
+  EXPECT_EQ(volume.Vertexes()[1], g3d_Point(-1, -1, 1));
+  EXPECT_EQ(volume.Vertexes()[4], g3d_Point(1, -1, -1));
+  g3d_BoundingVolume copy = volume;
+  EXPECT_TRUE(copy.IsDefault());
+  copy.AllocateVertexes(8)[7] = g3d_Point(1, 1, 1);
+  EXPECT_FALSE(copy.IsDefault());
+  // Appending its own vertices moves them to the heap, doubling.
+  volume.AppendVertexes(volume.Vertexes(), 8);
+  EXPECT_EQ(volume.Count(), 16u);
+  EXPECT_EQ(volume.Capacity(), 16u);
+  EXPECT_FALSE(volume.IsDefault());
+  EXPECT_EQ(volume.Vertexes()[15], g3d_Point(1, 1, 1));
+  volume.AppendVertexes(volume.Vertexes(), 1);
+  EXPECT_EQ(volume.Capacity(), 32u);
+  EXPECT_EQ(volume.Vertexes()[16], g3d_Point(-1, -1, -1));
+  const g3d_BoundingVolume big = volume;
+  EXPECT_EQ(big.Count(), 17u);
+  volume.Reset();
+  EXPECT_TRUE(volume.IsDefault());
+}
+
+TEST(BoundingVolumeTest, BoxAndExtent) {
+  g3d_BoundingVolume box;
+  box.SetToRectangleBox({0, 0, 0}, {2, 4, 4});
+  g3d_Sphere extent;
+  box.GetExtent(extent);
+  EXPECT_EQ(extent.center, g3d_Point(1, 2, 2));
+  EXPECT_FLOAT_EQ(extent.radius, 3.0f);
+  g3d_BoundingVolume empty;
+  empty.GetExtent(extent);
+  EXPECT_TRUE(extent.IsEmpty());
+}
+
+TEST(LightTest, LatitudeAndLongitude) {
+  g3d_Light light;
+  EXPECT_EQ(light.position, g3d_Vector(0, 0, 1));
+  light.SetPositionVector(90, 0);
+  EXPECT_NEAR(light.position.x, 0, 1e-7);
+  EXPECT_NEAR(light.position.y, 1, 1e-7);
+  EXPECT_NEAR(light.position.z, 0, 1e-7);
+  light.SetPositionVector(0, 90);
+  EXPECT_NEAR(light.position.x, 1, 1e-7);
+  EXPECT_NE(light, g3d_Light());
+}
+
+TEST(StudioTest, NormalSetUp) {
+  ASSERT_EQ(std::getenv("CVX_QA_PRINT"), nullptr) << "run without CVX_QA_PRINT";
+  const g3d_Studio studio;
+  EXPECT_FALSE(studio.testPrint);
+  EXPECT_EQ(studio.shininess, 105.0f);
+  EXPECT_EQ(studio.ambientColor, "#707070");
+  EXPECT_TRUE(studio.lights[2].enabled);
+  EXPECT_FALSE(studio.lights[3].enabled);
+  EXPECT_EQ(studio.lights[1].specularColor, "#9c9c9c");
+  EXPECT_EQ(studio.lights[0].latitude, 50.0f);
+  EXPECT_EQ(studio.lights[4], g3d_Light());
+  EXPECT_EQ(studio, g3d_Studio());
+}
+
+TEST(StudioTest, TestPrintIsReadOnce) {
+  ::testing::FLAGS_gtest_death_test_style = "threadsafe";  // a fresh process
+  EXPECT_EXIT(
+      {
+        setenv("CVX_QA_PRINT", "", 1);
+        const g3d_Studio first;
+        unsetenv("CVX_QA_PRINT");
+        const g3d_Studio second;
+        const bool ok = first.testPrint && second.testPrint && first.shininess == 25.0f &&
+                        first.ambientColor == "#333333" && first.lights[0].weight == 1.0f &&
+                        first.lights[0].diffuseColor == "White" && first.lights[0].enabled &&
+                        !first.lights[1].enabled;
+        std::exit(ok ? 0 : 1);
+      },
+      ::testing::ExitedWithCode(0), "");
+}
+
+TEST(BitmapTest, BitsAndMarkers) {
+  g3d_Bitmap bitmap;
+  bitmap.SetSize(10, 3, false, false);
+  EXPECT_EQ(bitmap.RowBytes(), 2);
+  bitmap.SetBit(9, 2, true);
+  EXPECT_EQ(bitmap.GetBit(9, 2), 1);
+  EXPECT_EQ(bitmap.Data()[2 * 2 + 1], 0x40);  // most significant bit first
+  EXPECT_EQ(bitmap.GetBit(10, 0), 0);
+  g3d_Bitmap flipped;
+  flipped.SetSize(10, 3, false, true);
+  flipped.SetBit(9, 2, true);
+  EXPECT_EQ(flipped.Data()[1], 0x40);  // bottom row first
+  EXPECT_NE(flipped, bitmap);
+
+  const auto count = [](const g3d_Bitmap& b) {
+    int on = 0;
+    for (int y = 0; y < b.Height(); ++y) {
+      for (int x = 0; x < b.Width(); ++x) on += b.GetBit(x, y);
+    }
+    return on;
+  };
+  struct Case {
+    g3d_MarkerEnum marker;
+    int size, pixels;
+  };
+  const Case cases[] = {{MARKER_FILLED_SQUARE, 5, 25}, {MARKER_HOLLOW_SQUARE, 5, 16},
+                        {MARKER_CROSS, 5, 9},          {MARKER_XS, 5, 9},
+                        {MARKER_FILLED_DIAMOND, 5, 13}, {MARKER_HOLLOW_DIAMOND, 5, 8},
+                        {MARKER_POINT, 5, 1},          {MARKER_FILLED_CIRCLE, 5, 21}};
+  for (const Case& c : cases) {
+    bitmap.SetMarker(c.marker, c.size);
+    EXPECT_EQ(count(bitmap), c.pixels) << c.marker;
+    EXPECT_EQ(bitmap.GetBit(2, 2), c.marker == MARKER_HOLLOW_SQUARE || c.marker == MARKER_HOLLOW_DIAMOND ? 0 : 1);
+  }
+}
+}  // namespace

@@ -1,0 +1,179 @@
+// Colours: packing, text, HSV, names, palettes and ramps.
+#include <g3d_ColorArray.h>
+#include <g3d_ColorErrorException.h>
+#include <g3d_ColorMap.h>
+#include <g3d_Utils.h>
+
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+constexpr float kByte = 0.003921568859368563f;
+
+void ExpectColor(const g3d_Color& c, float r, float g, float b, float a, float tol = 1e-6f) {
+  EXPECT_NEAR(c.r, r, tol);
+  EXPECT_NEAR(c.g, g, tol);
+  EXPECT_NEAR(c.b, b, tol);
+  EXPECT_NEAR(c.a, a, tol);
+}
+
+TEST(ColorTest, PackingTruncates) {
+  EXPECT_EQ(g3d_Color().Set(0xFF800000u), g3d_Color(1, 128 * kByte, 0, 0));
+  EXPECT_EQ(g3d_Color(0.5f, 0.5f, 0.5f, 1).GetRGBA(), 0x7F7F7FFFu);
+  EXPECT_EQ(g3d_Color(1, 0, 0.999f, 0.2f).GetRGBA(), 0xFF00FE33u);
+  for (unsigned int packed : {0x00000000u, 0x12345678u, 0xFFFFFFFFu, 0x01FE7F80u}) {
+    EXPECT_EQ(g3d_Color().Set(packed).GetRGBA(), packed) << std::hex << packed;
+  }
+}
+
+TEST(ColorTest, PresetsAndTheirLimit) {
+  EXPECT_EQ(g3d_Color(PRESET_CYAN, 0.5f), g3d_Color(0, 1, 1, 0.5f));
+  EXPECT_EQ(g3d_Color().SetGrey70(), g3d_Color(0.7f, 0.7f, 0.7f, 1));
+  g3d_Color c(0.1f, 0.2f, 0.3f, 0.4f);
+  EXPECT_EQ(c.Set(static_cast<g3d_PresetColorEnum>(17), 1.0f), g3d_Color(0.1f, 0.2f, 0.3f, 0.4f));
+}
+
+TEST(ColorTest, HexText) {
+  struct Case {
+    const char* text;
+    g3d_Color expected;
+  };
+  const g3d_Color untouched(0.25f, 0.25f, 0.25f, 0.25f);
+  const Case cases[] = {
+      {"#FF8000", {1, 128 * kByte, 0, 1}},
+      {"#ff", {1, 0, 0, 1}},          // the rest stays 0
+      {"#zz1122", {0, 0, 0, 1}},      // nothing scanned
+      {"Red", untouched},             // not a hex text: unchanged, no error
+      {"", untouched},
+  };
+  for (const Case& c : cases) {
+    g3d_Color color = untouched;
+    EXPECT_EQ(color.Set(cow_String(c.text), 1.0f), c.expected) << c.text;
+  }
+}
+
+TEST(ColorTest, NamesResolveOrRaiseColorError) {
+  EXPECT_EQ(g3d_ColorMap::Instance().Length(), 28);
+  EXPECT_EQ(g3d_ColorMap::Instance().Lookup("Sky blue"), g3d_Color(0, 0.8f, 1, 1));
+  EXPECT_EQ(g3d_Color().SetByName("Gold", 0.5f), g3d_Color(1, 0.844f, 0, 0.5f));
+  EXPECT_EQ(g3d_Color().SetByName("#0000FF", 1), g3d_Color(0, 0, 1, 1));
+  try {
+    g3d_Color().SetByName("Mauve", 1);
+    FAIL() << "no error";
+  } catch (const nex_CommandException& e) {
+    EXPECT_EQ(e.PythonType(), "ColorError");
+    EXPECT_EQ(e.JournalMessage(), "Mauve is not a valid color name.");
+    EXPECT_EQ(e.DynTypeId(), 0x240003u);
+  }
+}
+
+TEST(ColorTest, HsvBothWays) {
+  const auto hsv = [](g3d_Color c) { return c.GetHSV(); };
+  EXPECT_EQ(hsv({0, 0, 0}).h, 0.0f);
+  EXPECT_EQ(hsv({0, 0, 0}).s, 0.0f);
+  EXPECT_FLOAT_EQ(hsv({0, 0, 1}).h, 2.0f / 3);
+  EXPECT_EQ(hsv({0, 0, 1}).s, 1.0f);
+  EXPECT_FLOAT_EQ(hsv({1, 0, 0.5f}).h, 1 - 0.5f / 6);  // negative sector wraps
+  EXPECT_EQ(hsv({0.4f, 0.4f, 0.4f}).s, 0.0f);
+  EXPECT_EQ(g3d_Color().SetHSV({1, 1, 1}), g3d_Color().SetHSV({0, 1, 1}));
+  g3d_Color grey(0, 0, 0, 0.3f);
+  EXPECT_EQ(grey.SetHSV({0.7f, 0, 0.6f}), g3d_Color(0.6f, 0.6f, 0.6f, 0.3f));  // alpha kept
+  for (const g3d_Color c : {g3d_Color(0.2f, 0.7f, 0.1f), g3d_Color(0.9f, 0.3f, 0.5f),
+                            g3d_Color(0.1f, 0.4f, 0.8f), g3d_Color(1, 1, 0)}) {
+    g3d_Color back;
+    back.SetHSV(c.GetHSV());
+    ExpectColor(back, c.r, c.g, c.b, 1, 1e-6f);
+  }
+}
+
+TEST(ColorTest, PctToHsvAndSixteenBitChannels) {
+  const _HSV limited = g3d_Color::PctToHSV(1.5f, 0.5f, -1);
+  EXPECT_EQ(limited.h, 1.0f);
+  EXPECT_EQ(limited.s, 0.5f);
+  EXPECT_EQ(limited.v, -1.0f);
+  unsigned short r = 1, g = 1, b = 1;
+  ASSERT_TRUE(g3d_Color::HSVToRGB({0.5f, 1, 1}, r, g, b));
+  EXPECT_EQ(r, 0);
+  EXPECT_EQ(g, 65535);
+  EXPECT_EQ(b, 65535);
+  ASSERT_TRUE(g3d_Color::HSVToRGB({0.3f, 0, 0.5f}, r, g, b));
+  EXPECT_EQ(r, 32768);
+  EXPECT_FALSE(g3d_Color::HSVToRGB({-0.5f, 1, 1}, r, g, b));
+  EXPECT_EQ(r, 32768);  // untouched
+}
+
+TEST(ColorTest, ContrastAgainstBackgrounds) {
+  EXPECT_EQ(g3d_Color::GetContrastingColor({1, 1, 1}), g3d_Color(0, 0, 0));
+  EXPECT_EQ(g3d_Color::GetContrastingColor({0, 0, 0.5f}), g3d_Color(1, 1, 1));
+  g3d_Color white(1, 1, 1, 0.5f);
+  EXPECT_EQ(white.Invert({1, 1, 1}, 0.25f), g3d_Color(0, 0, 0, 0.5f));  // complement
+  g3d_Color grey(0.5f, 0.5f, 0.5f);
+  EXPECT_EQ(grey.Invert({0.5f, 0.5f, 0.5f}, 0.25f), g3d_Color(0, 0, 0));  // complement too close
+  g3d_Color red(1, 0, 0);
+  EXPECT_EQ(red.Invert({0, 0, 0}, 0.25f), g3d_Color(1, 0, 0));  // already apart
+}
+
+TEST(ColorArrayTest, PaletteStoresClampedPackedColors) {
+  g3d_ColorArray palette;
+  EXPECT_EQ(palette.Append({2, -1, 0.5f, 1}), 0u);
+  EXPECT_EQ(palette.GetColor(0u).GetRGBA(), 0xFF007FFFu);
+  palette.Append({1, 1, 1, 1});
+  const g3d_ColorArray copy = palette;
+  palette.SetAlpha(0);
+  EXPECT_EQ(palette.GetColor(1u).a, 0.0f);
+  EXPECT_EQ(copy.GetColor(1u).a, 1.0f);
+  palette.ContrastColors({1, 1, 1});
+  float r = 0, g = 0, b = 0;
+  palette.GetColor(1u, r, g, b);
+  EXPECT_EQ(r + g + b, 0.0f);
+  EXPECT_THROW(palette.GetColor(7u), nex_TextException);
+  palette.Cleanup();
+  EXPECT_EQ(palette.Length(), 0);
+}
+
+TEST(ColorRampTest, RainbowRunsRedToBlue) {
+  g3d_Color ramp[3];
+  g3d_Utils::Rainbow(ramp, 3, false, 0.5f);
+  EXPECT_EQ(ramp[0], g3d_Color(1, 0, 0, 0.5f));
+  EXPECT_EQ(ramp[1], g3d_Color(0, 1, 0, 0.5f));
+  EXPECT_EQ(ramp[2], g3d_Color(0, 0, 1, 0.5f));
+  g3d_Color reversed[3];
+  g3d_Utils::Rainbow(reversed, 3, true, 0.5f);
+  EXPECT_EQ(reversed[0], ramp[2]);
+  g3d_Utils::BlueToRed(reversed, 3, false, 0.5f);
+  EXPECT_EQ(reversed[0], ramp[2]);
+  EXPECT_EQ(reversed[2], ramp[0]);
+  g3d_Color one[1];
+  g3d_Utils::Rainbow(one, 1, false, 1);
+  EXPECT_EQ(one[0], g3d_Color(1, 0, 0));
+}
+
+TEST(ColorRampTest, GreysWrapAndInterpolation) {
+  g3d_Color greys[5];
+  g3d_Utils::BlackToWhite(greys, 5, false, 1);
+  EXPECT_EQ(greys[2], g3d_Color(0.5f, 0.5f, 0.5f));
+  EXPECT_EQ(greys[4], g3d_Color(1, 1, 1));
+  g3d_Color wheel[6];
+  g3d_Utils::WrapAround(wheel, 6, 1);
+  EXPECT_EQ(wheel[0], g3d_Color(1, 0, 0));
+  EXPECT_EQ(wheel[3], g3d_Color(0, 1, 1));  // opposite hue; the last is not red again
+  EXPECT_EQ(wheel[5], g3d_Color(1, 0, 1));
+  g3d_Color mixed[5];
+  g3d_Utils::FillInColorsAndInterpolate({"Black", "White", "#FF0000"}, 5, mixed);
+  EXPECT_EQ(mixed[0], g3d_Color(0, 0, 0));
+  EXPECT_EQ(mixed[1], g3d_Color(0.5f, 0.5f, 0.5f));
+  EXPECT_EQ(mixed[2], g3d_Color(1, 1, 1));
+  EXPECT_EQ(mixed[4], g3d_Color(1, 0, 0));
+  EXPECT_THROW(g3d_Utils::FillInColorsAndInterpolate({"Black", "Nope"}, 5, mixed),
+               g3d_ColorErrorException);
+}
+
+TEST(ColorRampTest, SizeConversions) {
+  EXPECT_LT(g3d_Utils::ConvertMarkerSize(MARKER_SMALL), g3d_Utils::ConvertMarkerSize(MARKER_LARGE));
+  EXPECT_LT(g3d_Utils::ConvertLineThickness(THICKNESS_VERY_THIN),
+            g3d_Utils::ConvertLineThickness(THICKNESS_THICK));
+}
+}  // namespace

@@ -1,0 +1,221 @@
+// Tolerance-driven predicates and intersections.
+#include <g3d_GeomUtils.h>
+#include <g3d_Plane.h>
+
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+using S = g3d_Storage;
+using P = g3d_Point;
+
+class GeomUtilsTest : public ::testing::Test, protected g3d_GeomUtils {
+protected:
+  void TearDown() override { setTolerance(1e-5); }
+};
+
+TEST_F(GeomUtilsTest, ToleranceAndStrictComparison) {
+  EXPECT_EQ(getTolerance(), 1e-5);
+  EXPECT_FALSE(EqualValue(1, 1 + 1e-5, 1e-5));
+  EXPECT_TRUE(EqualValue(1, 1 + 0.9e-5, 1e-5));
+  EXPECT_FALSE(EqualPoint(S(0, 0, 0), S(0, 0, 2e-5), 1e-5));
+}
+
+TEST_F(GeomUtilsTest, NormalizeVectorBelowToleranceIsUnchanged) {
+  EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1e-6f, 0, 0));
+  EXPECT_EQ(g3d_NormalizeVector({0, 2, 0}), g3d_Vector(0, 1, 0));
+  setTolerance(1e-7);
+  EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1, 0, 0));
+}
+
+TEST_F(GeomUtilsTest, CollinearityUsesAbsoluteArea) {
+  EXPECT_TRUE(PointsCollinear(S(0, 0, 0), S(1, 1, 1), S(3, 3, 3)));
+  EXPECT_FALSE(PointsCollinear(S(0, 0, 0), S(1, 0, 0), S(0, 1e-4, 0)));
+  setTolerance(1e-3);  // the tolerance is read on every call
+  EXPECT_TRUE(PointsCollinear(P(0, 0, 0), P(1, 0, 0), P(0, 1e-4f, 0)));
+}
+
+TEST_F(GeomUtilsTest, PointInPlaneRescalesToTheCallersVectors) {
+  double s = 0, t = 0;
+  ASSERT_TRUE(PointInPlane(S(3, 8, 5), S(1, 0, 5), S(2, 0, 0), S(0, 4, 0), s, t));
+  EXPECT_NEAR(s, 1.0, 1e-12);
+  EXPECT_NEAR(t, 2.0, 1e-12);
+  EXPECT_FALSE(PointInPlane(S(3, 8, 6), S(1, 0, 5), S(2, 0, 0), S(0, 4, 0), s, t));  // off plane
+  EXPECT_FALSE(PointInPlane(S(3, 8, 5), S(1, 0, 5), S(2, 0, 0), S(4, 0, 0), s, t));  // parallel
+}
+
+TEST_F(GeomUtilsTest, LineLineCrossingAndBounds) {
+  struct Case {
+    float x;
+    bool bounded;
+    bool hit;
+  };
+  const Case cases[] = {{1, true, true}, {2.00001f, true, true}, {2.1f, true, false},
+                        {2.1f, false, true}, {-0.5f, true, false}};
+  for (const Case& c : cases) {
+    double s[2] = {}, t[2] = {};
+    int count = -1;
+    EXPECT_EQ(LineLineIntersection(P(0, 0, 0), P(2, 0, 0), P(c.x, -1, 0), P(c.x, 1, 0), s, t, count,
+                                   c.bounded, true),
+              c.hit)
+        << c.x;
+    EXPECT_EQ(count, c.hit ? 1 : 0);
+    if (c.hit) {
+      EXPECT_NEAR(s[0], c.x / 2.0, 1e-6);
+      EXPECT_NEAR(t[0], 0.5, 1e-6);
+    }
+  }
+}
+
+TEST_F(GeomUtilsTest, LineLineSkewAndParallel) {
+  double s[2] = {}, t[2] = {};
+  int count = -1;
+  EXPECT_FALSE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(0, 1, 1), S(0, 2, 1), s, t, count,
+                                    false, false));  // skew
+  EXPECT_FALSE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), S(1, 1, 0), s, t, count,
+                                    false, false));  // parallel, apart
+  EXPECT_EQ(count, 0);
+  // Collinear, overlapping on [0.5, 1] of the first and [0, 0.5] of the second.
+  ASSERT_TRUE(LineLineIntersection(S(0, 0, 0), S(2, 0, 0), S(1, 0, 0), S(3, 0, 0), s, t, count,
+                                   true, true));
+  ASSERT_EQ(count, 2);
+  EXPECT_DOUBLE_EQ(s[0], 0.5);
+  EXPECT_DOUBLE_EQ(s[1], 1.0);
+  EXPECT_DOUBLE_EQ(t[0], 0.0);
+  EXPECT_DOUBLE_EQ(t[1], 0.5);
+  // Touching end to end: one point.
+  ASSERT_TRUE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(1, 0, 0), S(2, 0, 0), s, t, count,
+                                   true, true));
+  EXPECT_EQ(count, 1);
+  EXPECT_NEAR(s[0], 1.0, 1e-5);
+  // Collinear but disjoint.
+  EXPECT_FALSE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(2, 0, 0), S(3, 0, 0), s, t, count,
+                                    true, true));
+}
+
+TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
+  double param = 0;
+  EXPECT_TRUE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(1, 0, 0), param, true));
+  EXPECT_DOUBLE_EQ(param, 0.25);
+  EXPECT_FALSE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(8, 0, 0), param, true));
+  EXPECT_TRUE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(8, 0, 0), param, false));
+  EXPECT_DOUBLE_EQ(param, 2.0);
+  EXPECT_FALSE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(1, 1e-3, 0), param, false));
+}
+
+TEST_F(GeomUtilsTest, LinePlaneCrossingAndSegmentInPlane) {
+  double lp[2] = {}, s[2] = {}, t[2] = {};
+  int count = 0;
+  ASSERT_TRUE(LinePlaneIntersection(S(1, 2, -1), S(1, 2, 1), S(0, 0, 0), S(2, 0, 0), S(0, 4, 0),
+                                    lp, s, t, count));
+  EXPECT_EQ(count, 1);
+  EXPECT_DOUBLE_EQ(lp[0], 0.5);
+  EXPECT_DOUBLE_EQ(s[0], 0.5);
+  EXPECT_DOUBLE_EQ(t[0], 0.5);
+  ASSERT_TRUE(LinePlaneIntersection(S(1, 1, 0), S(3, 2, 0), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), lp,
+                                    s, t, count));
+  EXPECT_EQ(count, 2);
+  EXPECT_EQ(lp[0], 0.0);
+  EXPECT_EQ(lp[1], 1.0);
+  EXPECT_NEAR(s[1], 3.0, 1e-9);
+  EXPECT_FALSE(LinePlaneIntersection(S(0, 0, 1), S(1, 0, 1), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0),
+                                     lp, s, t, count));  // parallel, above
+  EXPECT_EQ(count, 0);
+}
+
+TEST_F(GeomUtilsTest, LineTriangle) {
+  double lp[2] = {}, s[2] = {}, t[2] = {};
+  int count = 0;
+  const S a(0, 0, 0), b(1, 0, 0), c(0, 1, 0);
+  EXPECT_TRUE(LineTriIntersection(S(0.25, 0.25, -1), S(0.25, 0.25, 1), a, b, c, lp, s, t, count, true));
+  EXPECT_EQ(count, 1);
+  EXPECT_DOUBLE_EQ(lp[0], 0.5);
+  EXPECT_FALSE(LineTriIntersection(S(0.75, 0.75, -1), S(0.75, 0.75, 1), a, b, c, lp, s, t, count, true));
+  EXPECT_FALSE(LineTriIntersection(S(0.25, 0.25, 1), S(0.25, 0.25, 2), a, b, c, lp, s, t, count, true));
+  EXPECT_TRUE(LineTriIntersection(S(0.25, 0.25, 1), S(0.25, 0.25, 2), a, b, c, lp, s, t, count, false));
+  // In the plane: the segment y = 0.25 from x = -1 to 2 is clipped to x in [0, 0.75].
+  ASSERT_TRUE(LineTriIntersection(S(-1, 0.25, 0), S(2, 0.25, 0), a, b, c, lp, s, t, count, true));
+  ASSERT_EQ(count, 2);
+  EXPECT_NEAR(lp[0], 1.0 / 3, 1e-5);
+  EXPECT_NEAR(lp[1], 0.75 / 3 + 1.0 / 3, 1e-5);
+  EXPECT_NEAR(s[1], 0.75, 1e-4);
+}
+
+TEST_F(GeomUtilsTest, SegmentsIn2D) {
+  EXPECT_TRUE(SegmentsIntersect2D(P(0, 0, 0), P(2, 2, 0), P(0, 2, 0), P(2, 0, 0)));
+  EXPECT_TRUE(SegmentsIntersect2D(P(0, 0, 0), P(1, 0, 0), P(1, 0, 0), P(1, 5, 0)));  // touching
+  EXPECT_TRUE(SegmentsIntersect2D(P(0, 0, 0), P(2, 0, 0), P(1, 0, 0), P(3, 0, 0)));  // overlap
+  EXPECT_FALSE(SegmentsIntersect2D(P(0, 0, 0), P(1, 0, 0), P(2, 0, 0), P(3, 0, 0)));
+  EXPECT_FALSE(SegmentsIntersect2D(P(0, 0, 0), P(1, 1, 0), P(0, 1, 0), P(0.4f, 0.6f, 0)));
+}
+
+cow_List<g3d_Point> Square(bool closed) {
+  cow_List<g3d_Point> square{P(0, 0, 0), P(4, 0, 0), P(4, 4, 0), P(0, 4, 0)};
+  if (closed) square.Append(P(0, 0, 0));
+  return square;
+}
+
+TEST_F(GeomUtilsTest, PolygonRangeAndPointInside) {
+  P min, max;
+  EXPECT_FALSE(RangeOfPolygon(cow_List<g3d_Point>(), min, max));
+  ASSERT_TRUE(RangeOfPolygon({P(1, 5, 2, 3), P(-1, 7, 0, 1)}, min, max));
+  EXPECT_EQ(min, P(-1, 5, 0, 3));
+  EXPECT_EQ(max, P(1, 7, 2, 3));
+  EXPECT_TRUE(PointInPolygon2D(Square(false), P(2, 2, 0)));
+  EXPECT_FALSE(PointInPolygon2D(Square(false), P(5, 2, 0)));
+  EXPECT_THROW(PointInPolygon2D(cow_List<g3d_Point>(), P()), nex_TextException);
+}
+
+TEST_F(GeomUtilsTest, LineAgainstPolygonNeedsTheClosingVertex) {
+  const cow_List<g3d_Point> triangle{P(0, 0, 0), P(4, 0, 0), P(0, 4, 0)};
+  cow_List<g3d_Point> closed = triangle;
+  closed.Append(P(0, 0, 0));
+  // This segment crosses only the closing edge x = 0.
+  const P a(-1, 1, 0), b(1, 1, 0);
+  EXPECT_EQ(IntersectLinePolygon2D(triangle, a, b), g3d_CLIP_OUTSIDE);
+  EXPECT_EQ(IntersectLinePolygon2D(closed, a, b), g3d_CLIP_CROSSING);
+  EXPECT_EQ(IntersectLinePolygon2D(closed, P(1, 1, 0), P(1, 2, 0)), g3d_CLIP_INSIDE);
+  const P min(0, 0, 0), max(4, 4, 0);
+  EXPECT_EQ(IntersectLinePolygon2D(closed, P(5, 0, 0), P(6, 9, 0), &min, &max),
+            g3d_CLIP_OUTSIDE_EARLY);
+  EXPECT_EQ(IntersectLinePolygon2D(closed, P(5, 0, 0), P(6, 9, 0), &min, nullptr),
+            g3d_CLIP_OUTSIDE);
+  EXPECT_THROW(IntersectLinePolygon2D(cow_List<g3d_Point>(), a, b), nex_TextException);
+}
+
+TEST_F(GeomUtilsTest, PolygonAgainstPolygon) {
+  const cow_List<g3d_Point> square = Square(true);
+  struct Case {
+    cow_List<g3d_Point> other;
+    g3d_ClipResultEnum expected;
+  };
+  const Case cases[] = {
+      {{P(1, 1, 0), P(2, 1, 0), P(2, 2, 0), P(1, 1, 0)}, g3d_CLIP_INSIDE},
+      {{P(3, 3, 0), P(5, 3, 0), P(5, 5, 0), P(3, 3, 0)}, g3d_CLIP_CROSSING},
+      // Every edge is out early, but only a single vertex answers "early".
+      {{P(6, 6, 0), P(7, 6, 0), P(7, 7, 0), P(6, 6, 0)}, g3d_CLIP_OUTSIDE},
+      {{P(2, 2, 0)}, g3d_CLIP_INSIDE},
+      {{P(9, 2, 0)}, g3d_CLIP_OUTSIDE_EARLY},
+      {{}, g3d_CLIP_OUTSIDE},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(IntersectPolygonPolygon2D(square, c.other), c.expected) << c.other.Length();
+  }
+  // A caller's range wins over the computed one.
+  const P min(10, 10, 0), max(20, 20, 0);
+  EXPECT_EQ(IntersectPolygonPolygon2D(square, cases[0].other, &min, &max), g3d_CLIP_OUTSIDE);
+  EXPECT_THROW(IntersectPolygonPolygon2D(cow_List<g3d_Point>(), square), nex_TextException);
+}
+
+TEST_F(GeomUtilsTest, PlaneProjectAndRaySet) {
+  const g3d_Plane floor{P(0, 0, 2), g3d_Vector(0, 0, 1)};
+  g3d_Ray ray;
+  ray.Set(P(1, 1, 5), g3d_Vector(0, 0, -2));
+  EXPECT_EQ(floor.Project(ray), P(1, 1, 2));
+  ray.Set(ray.origin, g3d_Vector(1, 0, 0));
+  EXPECT_EQ(floor.Project(ray), P());  // parallel
+  ray.Set(P(9, 9, 9), ray.direction);  // its own direction
+  EXPECT_EQ(ray.direction, g3d_Vector(1, 0, 0));
+}
+}  // namespace

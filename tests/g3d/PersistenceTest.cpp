@@ -1,0 +1,62 @@
+// Registration and archive round trips of the persistent g3d classes.
+#include "../LibraryEnvironment.h"
+
+#include <g3d_ColorErrorException.h>
+#include <g3d_Point.h>
+
+#include <UTI_Modules.h>
+#include <cls_Archive.h>
+#include <cls_MetadataRegistrar.h>
+#include <cls_xo1DArrayList.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace {
+TEST(G3dPersistenceTest, ClassesAreRegistered) {
+  const cls_ClassRegistrar& registry = cls_MetadataRegistrar::Instance().Registrar();
+  EXPECT_EQ(g3d_Vector::TypeId(), 0x240001u);
+  const cls_ClassMetadata* point = registry.Find(g3d_Point::TypeId());
+  ASSERT_NE(point, nullptr);
+  EXPECT_EQ(point->Name(), "g3d_Point");
+  ASSERT_EQ(point->Attributes().size(), 4u);
+  EXPECT_EQ(point->Attributes()[3].name, "w");
+  EXPECT_TRUE(registry.IsA(g3d_ColorErrorException::TypeId(), nex_CommandException::TypeId()));
+}
+
+TEST(G3dPersistenceTest, ValuesAndErrorRoundTripThroughAFile) {
+  cls_Archive archive;
+  archive.Add(g3d_Vector(1.5f, -2, 0.1f));
+  archive.Add(g3d_Point(1, 2, 3, 0.5f));
+  archive.Add(g3d_ColorErrorException("Mauve"));
+  const auto path = std::filesystem::path(std::getenv("CVX_TEST_TMP") ? std::getenv("CVX_TEST_TMP") : ".") /
+                    "g3d_values.arc";
+  archive.Save(path);
+  const cls_Archive loaded = cls_Archive::Load(path);
+  EXPECT_EQ(*loaded.Read<g3d_Vector>(0), g3d_Vector(1.5f, -2, 0.1f));
+  EXPECT_EQ(*loaded.Read<g3d_Point>(1), g3d_Point(1, 2, 3, 0.5f));
+  const auto error = loaded.Read<g3d_ColorErrorException>(2);
+  EXPECT_EQ(error->JournalMessage(), "Mauve is not a valid color name.");
+  std::filesystem::remove(path);
+}
+
+template <class T>
+class ListMementoTest : public ::testing::Test {};
+using ListTypes = ::testing::Types<g3d_Point, g3d_Vector>;
+TYPED_TEST_SUITE(ListMementoTest, ListTypes);
+
+TYPED_TEST(ListMementoTest, ListsRoundTrip) {
+  cow_List<TypeParam> list;
+  for (int i = 0; i < 5; ++i) list.Append(TypeParam(float(i), float(-i), 0.5f));
+  cls_Archive archive;
+  const cls_WriteVisitor writer = archive.NewRoot();
+  ASSERT_TRUE(writer.StartWrite(g3d_TypeId(99), cls_Uid()));
+  cls_xo1DArrayList<TypeParam>::Write(writer, "items", list);
+  cls_xo1DArrayList<TypeParam>::Write(writer, "none", cow_List<TypeParam>());
+  const cls_Archive loaded = cls_Archive::FromBytes(archive.ToBytes());
+  const cls_ReadVisitor reader = loaded.Root(0);
+  EXPECT_EQ(cls_xo1DArrayList<TypeParam>::Read(reader, "items"), list);
+  EXPECT_TRUE(cls_xo1DArrayList<TypeParam>::Read(reader, "none").IsEmpty());
+}
+}  // namespace
