@@ -8,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
+#include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <limits>
 #include <random>
 
@@ -26,8 +28,10 @@ mdl_PropertyTable Table(int columns, std::vector<double> cells) {
 bool SameBits(const mdl_PropertyTable& a, const mdl_PropertyTable& b) {
   const auto& x = a.Table().Cells();
   const auto& y = b.Table().Cells();
-  return a.Rows() == b.Rows() && a.Columns() == b.Columns() && x.size() == y.size() &&
-         std::memcmp(x.data(), y.data(), x.size() * sizeof(double)) == 0;
+  return a.Rows() == b.Rows() && a.Columns() == b.Columns() &&
+         std::equal(x.begin(), x.end(), y.begin(), y.end(), [](double u, double v) {
+           return std::bit_cast<std::uint64_t>(u) == std::bit_cast<std::uint64_t>(v);
+         });
 }
 
 // The sort as the model describes it, row by row on a copy, without any shortcut.
