@@ -1,0 +1,184 @@
+#include "LibraryEnvironment.h"
+#include "TestRepository.h"
+
+#include <aio_ostream.h>
+#include <nex_TextException.h>
+#include <omu_AttributeErrorException.h>
+#include <omu_Deprecation.h>
+#include <omu_PrimWrapper.h>
+#include <omu_TypeRegistryCache.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sstream>
+
+namespace {
+std::shared_ptr<TestPartData> NewPart() { return std::make_shared<TestPartData>(); }
+
+std::string Text(omu_Primitive* value) {
+  const std::unique_ptr<omu_Primitive> owned(value);
+  return owned ? owned->AsString(0).StdString() : "null";
+}
+
+// Captures the error stream for the lifetime of the object.
+class CapturedErrors {
+public:
+  CapturedErrors() : m_Previous(aio_cerr().Redirect(&m_Text)) {}
+  ~CapturedErrors() { aio_cerr().Redirect(m_Previous); }
+  std::string Text() const { return m_Text.str(); }
+
+private:
+  std::ostringstream m_Text;
+  std::ostream* m_Previous;
+};
+
+class ScopedEnv {
+public:
+  ScopedEnv(const char* name, const char* value) : m_Name(name) { setenv(name, value, 1); }
+  ~ScopedEnv() { unsetenv(m_Name); }
+
+private:
+  const char* m_Name;
+};
+}  // namespace
+
+TEST(InterfaceObj, TheChainRunsFromBaseToMostDerived) {
+  TestPart part(NewPart());
+  EXPECT_EQ(part.TypeLevels(), 2);
+  EXPECT_EQ(part.TypeString(), "Part");
+  EXPECT_EQ(part.BaseType(), "Feature");
+  EXPECT_EQ(part.BaseTypes(), cow_List<cow_String>{"Feature"});
+  part.DescribeType("Part", nullptr, nullptr);  // described twice: counts once
+  EXPECT_EQ(part.TypeLevels(), 2);
+}
+
+TEST(InterfaceObj, DispatchAnswersFromTheMostDerivedLevel) {
+  const auto data = NewPart();
+  TestPart part(data);
+  bool deprecated = false;
+  EXPECT_EQ(Text(part.GetMember("name", deprecated)), "Part-1Type");  // the part level's row
+  EXPECT_EQ(Text(part.GetMember("kind", deprecated)), "FeatureType");  // inherited
+  EXPECT_EQ(Text(part.GetMember("Name", deprecated)), "null");        // case matters
+  EXPECT_TRUE(part.IsMethod("regenerate", deprecated));
+  EXPECT_FALSE(part.IsMethod("name", deprecated));
+  EXPECT_FALSE(deprecated);
+  EXPECT_EQ(part.MemberList(), (cow_List<cow_String>{"_secret", "kind", "name"}));
+  EXPECT_EQ(part.MethodList(), cow_List<cow_String>{"regenerate"});
+  EXPECT_EQ(part.MemberListForQry(), part.MemberList());
+}
+
+TEST(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {
+  TestPart part(NewPart());
+  bool deprecated = false;
+  EXPECT_EQ(Text(part.GetMember("partName", deprecated)), "null");
+  EXPECT_FALSE(deprecated);
+  omu_Deprecation::SetAllowed(true);
+  {
+    CapturedErrors errors;
+    EXPECT_EQ(Text(part.GetMember("partName", deprecated)), "Part-1Type");
+    EXPECT_TRUE(deprecated);
+    EXPECT_EQ(errors.Text(), "Warning: 'partName' is deprecated; use 'name' instead.\n");
+  }
+  omu_Deprecation::SetAllowed(false);
+}
+
+TEST(InterfaceObj, ReadOnlyMembersAndDeletionAreRefused) {
+  TestPart part(NewPart());
+  EXPECT_THROW(part.DeleteMember("name"), omu_AttributeErrorException);
+}
+
+TEST(InterfaceObj, IllegalArithmeticKeepsItsTwoTexts) {
+  TestPart a(NewPart());
+  TestPart b(NewPart());
+  auto textOf = [](auto&& operation) {
+    try {
+      operation();
+    } catch (const nex_TextException& e) {
+      return e.Text().StdString();
+    }
+    return std::string("no error");
+  };
+  EXPECT_EQ(textOf([&] { a.AddOperation(&b); }), "Error: Illegal operation for type");
+  EXPECT_EQ(textOf([&] { a.DivOperation(&b); }), "Error: Illegal operation for type");
+  EXPECT_EQ(textOf([&] { a.UnaryNegative(); }), "Error: Illegal operation for type.");
+  EXPECT_EQ(textOf([&] { a.Absolute(); }), "Error: Illegal operation for type.");
+  EXPECT_EQ(a.NonZero(), 1);
+}
+
+TEST(InterfaceObj, StaleHandlesReportWhenAsked) {
+  TestPart part(NewPart());
+  {
+    CapturedErrors errors;
+    part.SetStale(true);
+    EXPECT_TRUE(part.IsStale());
+    EXPECT_EQ(errors.Text(), "");  // silent without the variable
+  }
+  ScopedEnv info("CVX_STALEHANDLE_INFO", "2");
+  CapturedErrors errors;
+  EXPECT_TRUE(part.IsStale());
+  part.SetStale(false);
+  part.IsStale();
+  const std::string text = errors.Text();
+  EXPECT_NE(text.find("omu_InterfaceObj::IsStale  stale:1   this:0x"), std::string::npos) << text;
+  EXPECT_NE(text.find("  <stale handle>\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("omu_InterfaceObj::SetStale(value=0)  this:0x"), std::string::npos) << text;
+  EXPECT_NE(text.find("  mdb.models['M'].parts['Part-1']\n"), std::string::npos) << text;
+}
+
+TEST(InterfaceObj, PathsCompareAndDecideEqualityWhenTheRulesSaySo) {
+  const auto data = NewPart();
+  TestPart first(data);
+  TestPart second(data);
+  EXPECT_EQ(first.Compare(&second), 0);
+  EXPECT_EQ(first.ComparePath("mdb.models['M'].parts['Part-2']"), -1);
+  EXPECT_FALSE(first == static_cast<const omu_Primitive&>(second));  // other handle
+  EXPECT_TRUE(first == static_cast<const omu_Primitive&>(first));
+  TestPart byPath(data, omu_OperationRules(true));
+  EXPECT_TRUE(byPath == static_cast<const omu_Primitive&>(second));
+  ScopedEnv info("CVX_STALEHANDLE_INFO", "1");
+  CapturedErrors errors;
+  first.Compare(&second);
+  EXPECT_EQ(errors.Text(), "omu_InterfaceObj::ComparePath mdb.models['M'].parts['Part-1']  "
+                           "mdb.models['M'].parts['Part-1'] -> 0\n");
+}
+
+TEST(InterfaceObj, DefaultReprNamesTheObjectAndWarnsWhenUsed) {
+  TestPart part(NewPart());
+  EXPECT_EQ(part.DefaultRepr(), "<Part object named Part-1Type>");
+  TestFeature feature(NewPart(), omu_Shortcut("f"));
+  CapturedErrors errors;
+  EXPECT_EQ(feature.AsRepr(), "<Feature object named featureType>");
+  EXPECT_EQ(errors.Text(),
+            "WARNING omu_InterfaceObj::AsRepr - repr not implemented: <Feature object named "
+            "featureType>\n");
+}
+
+TEST(InterfaceObj, TypeTestsGoThroughTheExposedTypeRegistry) {
+  TestPart part(NewPart());
+  omu_TypeRegistryCache& registry = omu_TypeRegistryCache::Instance();
+  EXPECT_TRUE(part.IsA("CorvexObject"));
+  EXPECT_TRUE(part.IsA("Feature"));
+  EXPECT_FALSE(part.IsA("Assembly"));
+  registry.AddAlias("PartLike", "Part");
+  EXPECT_TRUE(part.IsA("PartLike"));
+  EXPECT_EQ(part.ExposedTypeName(), "");
+  registry.Expose("Feature");
+  EXPECT_EQ(part.ExposedTypeName(), "Feature");
+  registry.Expose("Part");
+  EXPECT_EQ(part.ExposedTypeName(), "Part");
+  omu_TypeRegistryCache::Release();
+  EXPECT_FALSE(omu_TypeRegistryCache::Instance().IsExposed("Part"));
+}
+
+TEST(InterfaceObj, CopiesAreHandlesOnTheSameRepositoryObject) {
+  const auto data = NewPart();
+  TestPart part(data);
+  const std::unique_ptr<omu_Primitive> copy(part.Copy());
+  bool deprecated = false;
+  EXPECT_EQ(Text(static_cast<TestPart&>(*copy).GetMember("name", deprecated)), "Part-1Type");
+  data->name = "Renamed";
+  EXPECT_EQ(Text(static_cast<TestPart&>(*copy).GetMember("name", deprecated)), "RenamedType");
+  const std::unique_ptr<omu_PrimWrapper> wrapper(part.ConstGetWrapper());
+  EXPECT_EQ(wrapper->Object(), &part);
+}
