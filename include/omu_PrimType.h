@@ -4,10 +4,14 @@
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 
+class omu_InterfaceObj;
+
 class CVX_EXPORT omu_PrimType : public omu_PrimLeaf<omu_PrimType, omu_Primitive> {
 public:
   omu_PrimType() noexcept : omu_PrimLeaf('t') {}
   explicit omu_PrimType(const cow_String& typeString) : omu_PrimLeaf('t'), m_TypeString(typeString) {}
+  // The type of an interface object: its own type string.
+  explicit omu_PrimType(const omu_InterfaceObj& object);
   omu_PrimType(const omu_PrimType& other) = default;
   explicit omu_PrimType(const cls_ReadVisitor& reader);
 

@@ -2,6 +2,7 @@
 #include <cls_ReadVisitor.h>
 #include <cls_TypeAdapter.h>
 #include <cls_WriteVisitor.h>
+#include <omu_InterfaceObj.h>
 #include <omu_PrimType.h>
 
 #include <array>
@@ -10,6 +11,9 @@ namespace {
 constexpr std::array<const char*, 8> kDisplayNames = {
     "None", "Part", "Assembly", "Sketch", "Odb", "XYPlot", "Stub", "DetailPlot"};
 }
+
+omu_PrimType::omu_PrimType(const omu_InterfaceObj& object)
+    : omu_PrimLeaf('t'), m_TypeString(object.TypeString()) {}
 
 omu_PrimType::omu_PrimType(const cls_ReadVisitor& reader)
     : omu_PrimLeaf(cls_ReadVisitor(reader, omu_Primitive::TypeId())),

@@ -49,6 +49,7 @@ TEST(InterfaceObj, TheChainRunsFromBaseToMostDerived) {
   EXPECT_EQ(part.TypeString(), "Part");
   EXPECT_EQ(part.BaseType(), "Feature");
   EXPECT_EQ(part.BaseTypes(), cow_List<cow_String>{"Feature"});
+  EXPECT_EQ(omu_PrimType(part).AsString(0), "PartType");
   part.DescribeType("Part", nullptr, nullptr);  // described twice: counts once
   EXPECT_EQ(part.TypeLevels(), 2);
 }
