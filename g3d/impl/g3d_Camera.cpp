@@ -430,8 +430,13 @@ void g3d_Camera::GenerateVOM() const {
   g3d_Vector right, up, back;
   Axes(right, up, back);
   m_VOM.Set(right, up, back).Transpose();  // rows: right, up, back
+  // Post-multiplying by T(-eye) only fills column 3 with the rotated, negated eye: write it
+  // directly instead of multiplying whole matrices.
   const g3d_Vector eye = m_Eye - g3d_Point();
-  m_VOM.Translate(-eye.x, -eye.y, -eye.z);
+  const g3d_Vector axes[3] = {right, up, back};
+  for (int i = 0; i < 3; ++i) {
+    m_VOM.M(i, 3) = -axes[i].x * eye.x + -axes[i].y * eye.y + -axes[i].z * eye.z;
+  }
   if (IsLayerMode()) m_VOM *= m_Layer;
   m_VOMStale = false;
 }
