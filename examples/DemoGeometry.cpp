@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <numbers>
 #include <vector>
 
 namespace {
@@ -25,9 +26,9 @@ constexpr float kPicture = 600;  // pixels
 std::vector<g3d_Point> TorusPoints() {
   std::vector<g3d_Point> points;
   for (int i = 0; i < kRings; ++i) {
-    const double u = 2 * M_PI * i / kRings;
+    const double u = 2 * std::numbers::pi * i / kRings;
     for (int j = 0; j < kRingPoints; ++j) {
-      const double v = 2 * M_PI * j / kRingPoints;
+      const double v = 2 * std::numbers::pi * j / kRingPoints;
       const double r = 3 + std::cos(v);
       points.emplace_back(float(r * std::cos(u)), float(std::sin(v)), float(r * std::sin(u)));
     }
