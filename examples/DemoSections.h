@@ -3,3 +3,5 @@
 void DemoFoundation();
 // Model attributes across analysis steps, property tables, progress reporting.
 void DemoModel();
+// A small model framed by the camera, projected and drawn as a picture.
+void DemoGeometry();

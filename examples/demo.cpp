@@ -12,6 +12,7 @@ int main() {
   std::cout << "CaeUtils started (" << count << " components)\n";
   DemoFoundation();
   DemoModel();
+  DemoGeometry();
   UTI_CaeUtils_finalize(count);
   std::cout << "CaeUtils stopped (" << count << " components left)\n";
 }

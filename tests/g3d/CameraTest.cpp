@@ -1,0 +1,358 @@
+// The camera: repairs, window limits, zoom, projection switches, fitting, rotation.
+#include <g3d_Camera.h>
+
+#include <aio_ostream.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <limits>
+#include <sstream>
+
+namespace {
+// Position of a world point as a fraction of the window: what the user sees.
+std::pair<float, float> OnScreen(const g3d_Camera& camera, const g3d_Point& p) {
+  float x = 0, y = 0;
+  EXPECT_TRUE(camera.ToWindow(p, x, y));
+  return {x / camera.GetWindowWidth(), y / camera.GetWindowHeight()};
+}
+
+void ExpectSameSpot(std::pair<float, float> a, std::pair<float, float> b, float tol = 1e-5f) {
+  EXPECT_NEAR(a.first, b.first, tol);
+  EXPECT_NEAR(a.second, b.second, tol);
+}
+
+TEST(CameraTest, Defaults) {
+  const g3d_Camera camera;
+  EXPECT_EQ(camera.GetEye(), g3d_Point(2, 0, 0));
+  EXPECT_TRUE(camera.IsPerspective());
+  EXPECT_FLOAT_EQ(camera.GetFieldOfView(), float(2 * std::atan(0.5) * 180 / 3.141592653589793));
+  EXPECT_NEAR(camera.GetFieldOfView(), 53.13f, 1e-2f);
+}
+
+TEST(CameraTest, SetLocationRepairsDegenerateInput) {
+  struct Case {
+    g3d_Point eye, target;
+    g3d_Vector up, expectedUp;
+    g3d_Point expectedEye;
+  };
+  const Case cases[] = {
+      {{1, 2, 3}, {1, 2, 3}, {0, 1, 0}, {0, 1, 0}, {1, 2, 3 * 1.1f}},
+      {{0, 0, 5}, {0, 0, 0}, {0, 0, 0}, {0, 1, 0}, {0, 0, 5}},
+      {{0, 5, 0}, {0, 0, 0}, {0, 1, 0}, {0, 0, 1}, {0, 5, 0}},
+      {{0, 0, 5}, {0, 0, 0}, {0, 0, 2}, {0, 1, 0}, {0, 0, 5}},
+  };
+  for (const Case& c : cases) {
+    g3d_Camera camera;
+    camera.SetViewOffset(1, 1);
+    camera.SetLocation(c.eye, c.target, c.up);
+    EXPECT_EQ(camera.GetEye(), c.expectedEye);
+    EXPECT_EQ(camera.GetUp(), c.expectedUp);
+    EXPECT_EQ(camera.GetViewOffsetX(), 0.0f);
+  }
+}
+
+TEST(CameraTest, ViewMatrixIsRebuiltLazily) {
+  g3d_Camera camera;
+  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+  g3d_Point probe(0, 0, 0);
+  camera.GetVOM().XForm(&probe, 1);
+  EXPECT_EQ(probe, g3d_Point(0, 0, -10));  // looking down -z
+  camera.SetLocation({10, 0, 0}, {0, 0, 0}, {0, 1, 0});
+  g3d_Point right(0, 0, -1);  // from +x, -z is on the right
+  camera.GetVOM().XForm(&right, 1);
+  EXPECT_NEAR(right.x, 1, 1e-6);
+  EXPECT_NEAR(right.z, -10, 1e-6);
+  camera.SetWindow(4, 2);
+  g3d_XForm expected;
+  expected.SetPerspectiveProjection(-2, 2, 1, -1, 1, 10000);
+  EXPECT_EQ(camera.GetPM(), expected);
+}
+
+TEST(CameraTest, WindowLimits) {
+  g3d_Camera camera;
+  camera.SetProjection(PARALLEL_PROJECTION);
+  struct Case {
+    float w, h, expectedW, expectedH;
+  };
+  const Case cases[] = {{0, 0, 0.0001f, 0.0001f},
+                        {1000, 1, 1000, 2},
+                        {1, 1000, 2, 1000},
+                        {1e38f, 1e38f, 3.4028235e31f, 3.4028235e31f}};
+  for (const Case& c : cases) {
+    camera.SetWindow(c.w, c.h);
+    EXPECT_EQ(camera.GetWindowWidth(), c.expectedW);
+    EXPECT_EQ(camera.GetWindowHeight(), c.expectedH);
+  }
+  g3d_Camera perspective;
+  perspective.SetNearFar(10, 100);  // eye 2 from the target: least size 10 * 1e-4 / 2
+  perspective.SetWindow(0, 0);
+  EXPECT_FLOAT_EQ(perspective.GetWindowWidth(), 0.0005f);
+}
+
+TEST(CameraTest, ZoomPercentagesAndLimits) {
+  struct Case {
+    float percent, scale;
+  };
+  const Case cases[] = {{50, 0.5f}, {-50, 2}, {150, 0.01f}, {-150, 100}, {99, 0.01f}, {0, 1}};
+  for (const Case& c : cases) {
+    g3d_Camera camera;
+    camera.SetWindow(2, 1);
+    camera.Zoom(c.percent, false);
+    EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 2 * c.scale) << c.percent;
+    EXPECT_FLOAT_EQ(camera.GetWindowHeight(), c.scale) << c.percent;
+  }
+}
+
+TEST(CameraTest, DollyZoomMovesTheEyeAndKeepsTheFieldOfView) {
+  g3d_Camera camera;
+  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+  camera.SetNearFar(1, 20);
+  const float fov = camera.GetFieldOfView();
+  const auto spot = OnScreen(camera, {0.5f, 0, 0});
+  camera.Zoom(50, true);
+  EXPECT_FLOAT_EQ(camera.GetEye().z, 5);
+  EXPECT_FLOAT_EQ(camera.GetFieldOfView(), fov);
+  EXPECT_FLOAT_EQ(camera.GetFar(), 15);  // far stays 10 beyond the target
+  EXPECT_NEAR(OnScreen(camera, {0.5f, 0, 0}).first, 2 * spot.first, 1e-5);
+}
+
+TEST(CameraTest, ProjectionSwitchesKeepTheImage) {
+  g3d_Camera camera;
+  camera.SetLocation({0, 0, 8}, {0, 0, 0}, {0, 1, 0});
+  camera.SetViewOffset(0.1f, 0);
+  EXPECT_FALSE(camera.SetProjection(g3d_Camera::PERSPECTIVE));
+  const g3d_Point atTarget(0.3f, -0.2f, 0);
+  const auto before = OnScreen(camera, atTarget);
+  camera.MakeParallel();
+  EXPECT_FALSE(camera.IsPerspective());
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 8);
+  ExpectSameSpot(OnScreen(camera, atTarget), before);
+  camera.MakeParallel();  // nothing more to do
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 8);
+  camera.MakePerspective();
+  ExpectSameSpot(OnScreen(camera, atTarget), before);
+  EXPECT_TRUE(camera.SetProjection(PARALLEL_PROJECTION));
+  EXPECT_TRUE(camera.SetProjection(PERSPECTIVE_PROJECTION));
+  EXPECT_FALSE(camera.SetProjection(PERSPECTIVE_PROJECTION));
+}
+
+TEST(CameraTest, FieldOfViewBothWays) {
+  g3d_Camera camera;
+  camera.SetFieldOfView(90, true);
+  EXPECT_FLOAT_EQ(camera.GetFieldOfView(), 90);
+  EXPECT_FLOAT_EQ(camera.GetNear(), 1);
+  camera.SetFieldOfView(60, false);
+  EXPECT_NEAR(camera.GetFieldOfView(), 60, 1e-4);
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 2);  // the window stayed
+  g3d_Camera tall;
+  tall.SetWindow(1, 3);
+  tall.SetFieldOfView(90, true);  // the width takes the size in this branch
+  EXPECT_FLOAT_EQ(tall.GetWindowWidth(), 2);
+  EXPECT_FLOAT_EQ(tall.GetWindowHeight(), 2.0f / 3);
+}
+
+TEST(CameraTest, ZoomToKeepsOrPullsThePoint) {
+  for (const bool toward : {false, true}) {
+    g3d_Camera camera;
+    camera.SetProjection(PARALLEL_PROJECTION);
+    camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+    camera.SetWindow(4, 4);
+    const g3d_Point p(1, 0.5f, 0);
+    const auto before = OnScreen(camera, p);
+    camera.ZoomTo(1, 0.5f, 50, toward, false);
+    const auto after = OnScreen(camera, p);
+    const float pull = toward ? 0.5f : 1.0f;  // toward the point: halfway to the centre
+    EXPECT_NEAR(after.first, before.first * pull, 1e-6) << toward;
+    EXPECT_NEAR(after.second, before.second * pull, 1e-6) << toward;
+  }
+}
+
+TEST(CameraTest, ZoomToRectangleFramesIt) {
+  g3d_Camera camera;
+  camera.SetProjection(PARALLEL_PROJECTION);
+  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+  camera.SetWindow(4, 4);
+  const g3d_Camera before = camera;
+  camera.Zoom(1, 1, 0, 2, false);  // empty
+  EXPECT_EQ(camera, before);
+  camera.Zoom(0, 0, 1, 0.5f, false);
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 1);
+  EXPECT_FLOAT_EQ(camera.GetTarget().x, 0.5f);
+  EXPECT_FLOAT_EQ(camera.GetTarget().y, 0.25f);
+}
+
+TEST(CameraTest, RotationTurnsTheScene) {
+  struct Case {
+    float degrees;
+    g3d_Vector axis;
+  };
+  const Case cases[] = {{90, {0, 1, 0}}, {30, {1, 1, 0}}, {-45, {0, 0, 1}}};
+  for (const Case& c : cases) {
+    g3d_Camera camera;
+    camera.SetLocation({1, 2, 9}, {1, 0, 0}, {0, 1, 0});
+    const g3d_Camera original = camera;
+    camera.Rotate(c.degrees, c.axis, false);
+    // What the turned camera sees of p, the original sees of p turned about the target.
+    for (const g3d_Point p : {g3d_Point(2, 1, 0), g3d_Point(0, -1, 1)}) {
+      g3d_XForm turn;
+      turn.Translate(1, 0, 0).Rotate(c.degrees, c.axis).Translate(-1, 0, 0);
+      g3d_Point turned = p;
+      turn.XForm(&turned, 1);
+      ExpectSameSpot(OnScreen(camera, p), OnScreen(original, turned));
+    }
+  }
+  // From one direction to another, about a point.
+  g3d_Camera camera;
+  camera.Rotate(g3d_Vector(1, 0, 0), g3d_Vector(0, 1, 0), g3d_Point(0, 0, 0));
+  EXPECT_NEAR(camera.GetEye().y, -2, 1e-6);
+  // An eye-space quarter turn about the view's up axis brings the right side to the front.
+  g3d_Camera eyeSpace;
+  eyeSpace.SetLocation({0, 0, 5}, {0, 0, 0}, {0, 1, 0});
+  eyeSpace.Rotate(90, g3d_Vector(0, 1, 0), true);
+  EXPECT_NEAR(eyeSpace.GetEye().x, -5, 1e-5);
+}
+
+TEST(CameraTest, FitFramesTheModel) {
+  const g3d_Sphere model(g3d_Point(10, 0, 0), 2);
+  for (const bool perspective : {true, false}) {
+    g3d_Camera camera;
+    camera.SetProjection(perspective ? PERSPECTIVE_PROJECTION : PARALLEL_PROJECTION);
+    camera.SetWindow(2, 1);
+    camera.Fit(model);
+    EXPECT_EQ(camera.GetTarget(), g3d_Point(10, 0, 0));
+    EXPECT_GT(camera.GetEye().x, 10);
+    // The sphere's outline touches the top of the window (in perspective the outline lies
+    // nearer than the top point, which shows at cos(half angle) of the edge); near and far
+    // enclose it.
+    const auto top = OnScreen(camera, g3d_Point(10, 2, 0));
+    const float edge = perspective ? 0.5f * std::cos(std::atan(0.5f)) : 0.5f;
+    EXPECT_NEAR(top.second, edge, 1e-5f);
+    const float distance = camera.GetEye().x - 10;
+    EXPECT_LT(camera.GetNear(), distance - 2);
+    EXPECT_GT(camera.GetFar(), distance + 2);
+    EXPECT_FLOAT_EQ(camera.GetWindowWidth() / camera.GetWindowHeight(), 2);
+  }
+}
+
+TEST(CameraTest, CannedViewsAndViewportFits) {
+  g3d_Camera camera;
+  camera.Canned(g3d_Sphere(g3d_Point(), 1), VIEW_TOP);
+  EXPECT_GT(camera.GetEye().y, 1);
+  EXPECT_EQ(camera.GetUp(), g3d_Vector(0, 0, -1));
+  camera.Canned(g3d_Sphere(g3d_Point(), 1), VIEW_ISO);
+  EXPECT_FLOAT_EQ(camera.GetEye().x, camera.GetEye().z);
+
+  g3d_BoundingVolume model;
+  model.SetToRectangleBox({-1, -1, -1}, {1, 1, 1});
+  camera.SetModelBoundingVolume(model, 1);
+  camera.FitCenterVP(800, 400, 0.5f, false);
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth() / camera.GetWindowHeight(), 2);
+  EXPECT_GT(camera.GetEye().x, 0);  // back to the default direction
+  const auto corner = OnScreen(camera, {0, std::sqrt(3.0f), 0});
+  // The model's sphere fills half the height (its top point shows at cos(half angle)).
+  EXPECT_NEAR(corner.second, 0.25f * std::cos(std::atan(0.5f)), 1e-5f);
+  camera.CorrectAspect(300, 300, 0, 0.5f, 0, 1, 1);
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth() / camera.GetWindowHeight(), 2);
+}
+
+TEST(CameraTest, PanMovesEyeAndTargetInWindowUnits) {
+  g3d_Camera camera;
+  camera.SetProjection(PARALLEL_PROJECTION);
+  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+  camera.Pan(1, 2, 0, false);
+  EXPECT_EQ(camera.GetTarget(), g3d_Point(1, 2, 0));
+  EXPECT_EQ(camera.GetEye(), g3d_Point(1, 2, 10));
+  g3d_BoundingVolume model;
+  model.SetToRectangleBox({-1, -1, -1}, {1, 1, 1});
+  camera.SetModelBoundingVolume(model, 1);
+  camera.Pan(0, 0, -5, true);  // closer, with near and far around the model
+  EXPECT_FLOAT_EQ(camera.GetEye().z, 5);
+  EXPECT_LT(camera.GetFar(), 10);
+  EXPECT_GT(camera.GetFar(), 5 + std::sqrt(3.0f));
+}
+
+TEST(CameraTest, LayerModeScalesAboutTheTarget) {
+  g3d_Camera camera;
+  camera.SetLocation({0, 0, 10}, {1, 0, 0}, {0, 1, 0});
+  g3d_XForm layer;
+  camera.SetLayerXForm(true, nullptr);
+  const g3d_XForm view = camera.GetVOM();
+  camera.Zoom(50, false);
+  EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 1);  // the window stays
+  g3d_Point target(1, 0, 0), other(2, 0, 0), expected(3, 0, 0), fixed(1, 0, 0);
+  camera.GetVOM().XForm(&target, 1);
+  camera.GetVOM().XForm(&other, 1);
+  view.XForm(&expected, 1);
+  view.XForm(&fixed, 1);
+  EXPECT_NEAR(target.x, fixed.x, 1e-6);
+  EXPECT_NEAR(target.z, fixed.z, 1e-5);
+  EXPECT_NEAR(other.x, expected.x, 1e-6);  // twice as far from the target
+  camera.SetLocation({5, 5, 5}, {2, 0, 0}, {0, 1, 0});
+  EXPECT_EQ(camera.GetEye(), g3d_Point(0, 0, 10));
+  EXPECT_EQ(camera.GetTarget(), g3d_Point(2, 0, 0));
+  camera.SetLayerXForm(false, &layer);
+  EXPECT_FLOAT_EQ(layer.GetM(0, 0), 2);
+  EXPECT_FALSE(camera.IsLayerMode());
+}
+
+TEST(CameraTest, Equality) {
+  g3d_Camera a, b;
+  EXPECT_TRUE(a == b);
+  b.SetViewOffset(0.5f, 0);
+  EXPECT_TRUE(a != b);
+  g3d_Camera nan;
+  nan.SetNearFar(std::numeric_limits<float>::quiet_NaN(), 10);
+  EXPECT_FALSE(nan == g3d_Camera(nan));
+  g3d_Camera layered = a;
+  layered.SetLayerXForm(true, nullptr);
+  EXPECT_FALSE(a == layered);
+  g3d_Camera otherEye = layered;
+  otherEye.SetLayerXForm(false, nullptr);
+  otherEye.SetLocation({5, 5, 5}, a.GetTarget(), {0, 1, 0});
+  otherEye.SetLayerXForm(true, nullptr);
+  EXPECT_FALSE(layered == otherEye);  // different view matrices
+  EXPECT_TRUE(layered == g3d_Camera(layered));
+}
+
+TEST(CameraTest, OperationsClearTheUserMark) {
+  const std::function<void(g3d_Camera&)> operations[] = {
+      [](g3d_Camera& c) { c.SetLocation({0, 0, 3}, {0, 0, 0}, {0, 1, 0}); },
+      [](g3d_Camera& c) { c.SetNearFar(0.5f, 100); },
+      [](g3d_Camera& c) { c.SetProjection(PARALLEL_PROJECTION); },
+      [](g3d_Camera& c) { c.Zoom(10, false); },
+      [](g3d_Camera& c) { c.SetFieldOfView(40, true); },
+      [](g3d_Camera& c) { c.Pan(0.1f, 0, 0, false); },
+      [](g3d_Camera& c) { c.Rotate(10, g3d_Vector(0, 1, 0), false); },
+      [](g3d_Camera& c) { c.Fit(g3d_Sphere()); },
+  };
+  for (const auto& operation : operations) {
+    g3d_Camera camera;
+    camera.SetUserMark();
+    operation(camera);
+    EXPECT_EQ(camera.GetFlags() & g3d_Camera::FLAG_USER_MARK, 0);
+  }
+}
+
+TEST(CameraTest, ZoomTowardModeIsReadOnce) {
+  ::testing::FLAGS_gtest_death_test_style = "threadsafe";  // a fresh process
+  EXPECT_EXIT(
+      {
+        std::ostringstream errors;
+        aio_cerr().Redirect(&errors);
+        setenv("CVX_ZOOM_TOWARD", "7", 1);
+        g3d_Camera camera;
+        camera.ZoomTo(0.1f, 0.1f, -20, true, false);
+        setenv("CVX_ZOOM_TOWARD", "2", 1);
+        camera.ZoomTo(0.1f, 0.1f, -20, true, false);
+        const bool ok =
+            g3d_Camera::ZoomOutMode() == 3 &&
+            errors.str() ==
+                "CVX_ZOOM_TOWARD: Zoom-out set to transpose center toward start drag position.\n";
+        std::exit(ok ? 0 : 1);
+      },
+      ::testing::ExitedWithCode(0), "");
+}
+}  // namespace
