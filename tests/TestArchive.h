@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <random>
 #include <string>
 
 inline std::filesystem::path TestFolder() {
@@ -12,8 +13,10 @@ inline std::filesystem::path TestFolder() {
   return folder ? std::filesystem::path(folder) : std::filesystem::temp_directory_path();
 }
 
+// Test binaries run in parallel: each process gets names of its own.
 inline std::filesystem::path TestFile(const std::string& name) {
-  return TestFolder() / (name + ".cvxarch");
+  static const std::string token = std::to_string(std::random_device()());
+  return TestFolder() / (name + "-" + token + ".cvxarch");
 }
 
 // Saves the archive to a file and loads it back.

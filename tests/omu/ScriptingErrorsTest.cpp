@@ -126,7 +126,10 @@ TEST_P(ScriptingErrors, RoundTripThroughAnArchiveFile) {
   EXPECT_EQ(loaded->PythonType(), GetParam().pythonType);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllKinds, ScriptingErrors, ::testing::ValuesIn(kCases));
+INSTANTIATE_TEST_SUITE_P(AllKinds, ScriptingErrors, ::testing::ValuesIn(kCases),
+                         [](const ::testing::TestParamInfo<Case>& info) {
+                           return std::string(info.param.pythonType) + std::to_string(info.index);
+                         });
 
 TEST(ScriptingErrorsRaise, PropagateIsCaughtAsTheMostDerivedClass) {
   const omu_ArgTypeErrorException original(2, "int", "string", "");
