@@ -30,8 +30,8 @@ inline cls_Archive SaveAndLoad(const cls_Archive& archive, const std::string& na
 
 // Writes value into an archive file and reads it back as T (or a base of it).
 template <class T, class V>
-std::unique_ptr<T> RoundTrip(const V& value) {
+std::unique_ptr<T> RoundTrip(const V& value, const std::string& name = "roundtrip") {
   cls_Archive archive;
   archive.Add(value);
-  return SaveAndLoad(archive).template Read<T>(0);
+  return SaveAndLoad(archive, name).template Read<T>(0);
 }

@@ -1,5 +1,6 @@
 // Registration and archive round trips of the persistent g3d classes.
-#include "../LibraryEnvironment.h"
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
 
 #include <g3d_ColorErrorException.h>
 #include <g3d_Point.h>
@@ -30,15 +31,11 @@ TEST(G3dPersistenceTest, ValuesAndErrorRoundTripThroughAFile) {
   archive.Add(g3d_Vector(1.5f, -2, 0.1f));
   archive.Add(g3d_Point(1, 2, 3, 0.5f));
   archive.Add(g3d_ColorErrorException("Mauve"));
-  const auto path = std::filesystem::path(std::getenv("CVX_TEST_TMP") ? std::getenv("CVX_TEST_TMP") : ".") /
-                    "g3d_values.arc";
-  archive.Save(path);
-  const cls_Archive loaded = cls_Archive::Load(path);
+  const cls_Archive loaded = SaveAndLoad(archive, "g3d_values");
   EXPECT_EQ(*loaded.Read<g3d_Vector>(0), g3d_Vector(1.5f, -2, 0.1f));
   EXPECT_EQ(*loaded.Read<g3d_Point>(1), g3d_Point(1, 2, 3, 0.5f));
   const auto error = loaded.Read<g3d_ColorErrorException>(2);
   EXPECT_EQ(error->JournalMessage(), "Mauve is not a valid color name.");
-  std::filesystem::remove(path);
 }
 
 template <class T>

@@ -1,4 +1,4 @@
-#include "ArchiveFile.h"
+#include "TestArchive.h"
 #include "LibraryEnvironment.h"
 
 #include <cls_MetadataRegistrar.h>
@@ -298,7 +298,7 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
         archive.RootValue(0).As<std::shared_ptr<cls_Record>>()->get()->Find("state");
     ASSERT_NE(written, nullptr);
     EXPECT_EQ(written->As<cls_EnumName>()->name, mdl_PropAttributeState(state).Name());
-    const auto read = Reloaded(archive, "propattr").template Read<mdl_PropAttr<TypeParam>>(0);
+    const auto read = SaveAndLoad(archive, "propattr").template Read<mdl_PropAttr<TypeParam>>(0);
     ASSERT_NE(read, nullptr);
     EXPECT_EQ(*read, holder) << state;
     EXPECT_EQ(read->Uid(), holder.Uid());

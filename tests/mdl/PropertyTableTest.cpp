@@ -1,4 +1,4 @@
-#include "ArchiveFile.h"
+#include "TestArchive.h"
 #include "LibraryEnvironment.h"
 
 #include <cls_MetadataRegistrar.h>
