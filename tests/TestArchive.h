@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <random>
 #include <string>
 
 inline std::filesystem::path TestFolder() {
@@ -12,8 +13,10 @@ inline std::filesystem::path TestFolder() {
   return folder ? std::filesystem::path(folder) : std::filesystem::temp_directory_path();
 }
 
+// A file name of this process alone: CTest runs test processes side by side in one folder.
 inline std::filesystem::path TestFile(const std::string& name) {
-  return TestFolder() / (name + ".cvxarch");
+  static const std::string tag = std::to_string(std::random_device()());
+  return TestFolder() / (name + "-" + tag + ".cvxarch");
 }
 
 // Saves the archive to a file and loads it back.

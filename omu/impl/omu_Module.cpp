@@ -14,8 +14,17 @@
 #include <omu_KeywordTypeErrorException.h>
 #include <omu_NameErrorException.h>
 #include <omu_OverflowErrorException.h>
+#include <omu_PrimBool.h>
+#include <omu_PrimBoolean.h>
+#include <omu_PrimComplex.h>
 #include <omu_PrimEnumBase.h>
+#include <omu_PrimException.h>
+#include <omu_PrimExpr.h>
 #include <omu_PrimNone.h>
+#include <omu_PrimNumber.h>
+#include <omu_PrimPath.h>
+#include <omu_PrimString.h>
+#include <omu_PrimTranslatedString.h>
 #include <omu_PrimType.h>
 #include <omu_PrimWrapper.h>
 #include <omu_QueryPathMsg.h>
@@ -59,10 +68,19 @@ void Start() {
                       Register<omu_ValueErrorException>(2),
                       Register<omu_ZeroDivisionErrorException>(2),
                       Register<omu_Primitive>(7),
+                      Register<omu_PrimNumber>(3),
+                      Register<omu_PrimString>(3),
                       Register<omu_PrimEnumBase>(7),
+                      Register<omu_PrimBoolean>(2),
                       Register<omu_PrimType>(2),
                       Register<omu_PrimNone>(2),
+                      Register<omu_PrimPath>(2),
+                      Register<omu_PrimComplex>(2),
+                      Register<omu_PrimExpr>(2),
+                      Register<omu_PrimTranslatedString>(2),
                       Register<omu_PrimWrapper>(2),
+                      Register<omu_PrimException>(2),
+                      {&omu_InitializeBoolConstants, 2},  // omu_OnOffConst and its two siblings
                       Register<omu_QueryPathMsg>(2),
                   });
 }
