@@ -17,7 +17,10 @@
 #include <omu_PrimBool.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimComplex.h>
+#include <omu_PrimDictionary.h>
 #include <omu_PrimEnumBase.h>
+#include <omu_PrimList.h>
+#include <omu_TextRepr.h>
 #include <omu_PrimException.h>
 #include <omu_PrimExpr.h>
 #include <omu_PrimNone.h>
@@ -71,6 +74,8 @@ void Start() {
                       Register<omu_PrimNumber>(3),
                       Register<omu_PrimString>(3),
                       Register<omu_PrimEnumBase>(7),
+                      Register<omu_PrimDictionaryBase>(3),
+                      Register<omu_PrimDictionary<cow_String>>(3),
                       Register<omu_PrimBoolean>(2),
                       Register<omu_PrimType>(2),
                       Register<omu_PrimNone>(2),
@@ -78,6 +83,10 @@ void Start() {
                       Register<omu_PrimComplex>(2),
                       Register<omu_PrimExpr>(2),
                       Register<omu_PrimTranslatedString>(2),
+                      Register<omu_PrimSequence>(2),
+                      Register<omu_PrimTuple>(2),
+                      Register<omu_PrimList>(2),
+                      Register<omu_PrimDictionary<int>>(2),
                       Register<omu_PrimWrapper>(2),
                       Register<omu_PrimException>(2),
                       {&omu_InitializeBoolConstants, 2},  // omu_OnOffConst and its two siblings
