@@ -16,6 +16,7 @@ public:
   // The settings, created on first use and destroyed by omu_finalize.
   static omu_TextRepr& Instance();
   static void Release() noexcept;
+  static bool Exists() noexcept;
 
   int GetSimpleStyle() const noexcept { return m_SimpleStyle; }
   void SetSimpleStyle(int style) noexcept { m_SimpleStyle = style; }

@@ -93,7 +93,16 @@ void Start() {
                       Register<omu_QueryPathMsg>(2),
                   });
 }
+
+// The module's process-wide singletons, released in this order on the last finalise; each
+// release does nothing when its singleton was never made.
+constexpr void (*kReleases[])() noexcept = {&omu_TextRepr::Release};
+
+void Stop() {
+  for (const auto release : kReleases) release();
+  UTI_StopModule(omu_ModuleNumber);
+}
 }  // namespace
 
 void omu_initialize(int& count) { s_Uses.Initialize(count, Start); }
-void omu_finalize(int& count) { s_Uses.Finalize(count, [] { UTI_StopModule(omu_ModuleNumber); }); }
+void omu_finalize(int& count) { s_Uses.Finalize(count, Stop); }

@@ -5,6 +5,8 @@ omu_TextRepr& omu_TextRepr::Instance() { return omi_Singleton<omu_TextRepr>::Ins
 
 void omu_TextRepr::Release() noexcept { omi_Singleton<omu_TextRepr>::Destroy(); }
 
+bool omu_TextRepr::Exists() noexcept { return omi_Singleton<omu_TextRepr>::Exists(); }
+
 cow_String omu_TextRepr::MaxRecursionText(const cow_String& typeName) const {
   // The format is the host's text: only %s (the first one) and %% are expanded, so that a
   // stray conversion cannot read arguments that are not there.
