@@ -9,6 +9,8 @@ template <class Derived, class Base>
 class omu_PrimLeaf : public Base {
 public:
   using Base::Base;
+  // A kind that adds to another takes a copy of the other's value.
+  explicit omu_PrimLeaf(const Base& value) : Base(value) {}
 
   omu_Primitive* Copy() const override { return new Derived(Self()); }
   unsigned int DynTypeId() const override { return Derived::TypeId(); }

@@ -8,6 +8,12 @@ class CVX_EXPORT omu_PrimNone : public omu_PrimLeaf<omu_PrimNone, omu_Primitive>
 public:
   omu_PrimNone() noexcept : omu_PrimLeaf('n') {}
   omu_PrimNone(const omu_PrimNone& other) noexcept : omu_PrimLeaf(other) {}
+  // Like a copy, an assigned None is unset.
+  omu_PrimNone& operator=(const omu_PrimNone& other) noexcept {
+    omu_Primitive::operator=(other);
+    m_IsSet = false;
+    return *this;
+  }
   explicit omu_PrimNone(const cls_ReadVisitor& reader);
 
   cow_String TypeString() const override { return "None"; }

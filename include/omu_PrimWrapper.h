@@ -2,7 +2,9 @@
 // An opaque handle on a persistent object, so that a script can hold a repository object
 // without it being turned into primitives. A wrapper either borrows the object (it must
 // outlive the wrapper) or owns it (a copy, or one read back from an archive). Copies are
-// deep: the object is copied through the persistence layer. Wrappers are never equal.
+// deep: the object is copied through the persistence layer, the member dictionary with its
+// persistence identities. Wrappers are never equal.
+#include <omu_PrimDictionary.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 
@@ -25,6 +27,9 @@ public:
   const void* Object() const noexcept { return m_Object.get(); }
   unsigned int ObjType() const noexcept { return m_ObjType; }
   bool OwnsObject() const noexcept { return m_Owned; }
+  // The members a script set on the wrapped object, by name.
+  const omu_PrimDictionary<cow_String>& MemberDict() const noexcept { return m_MemberDict; }
+  omu_PrimDictionary<cow_String>& MemberDict() noexcept { return m_MemberDict; }
 
   static unsigned int TypeId() noexcept { return omu_TypeId(30); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
@@ -35,5 +40,6 @@ private:
   unsigned int m_ObjType = 0;
   std::shared_ptr<const void> m_Object;
   bool m_Owned = false;
+  omu_PrimDictionary<cow_String> m_MemberDict;
   cls_Uid m_WrapperUid;
 };

@@ -5,8 +5,9 @@ constexpr std::uint32_t E = typ_EXCEPTION_CLASS;
 constexpr std::uint32_t V = typ_VALUE_CLASS;
 }  // namespace
 
-// Row n describes class number n. Class number 36 is unused: the boolean constants take
-// 37-39, so the wrappers and the last value classes sit one number above their listing order.
+// Row n describes class number n. The boolean constants take 37-39 (omu_PrimBool<2> is
+// 19:37), which leaves 36 for omu_PrimComplex, a registered value class without a number
+// of its own in the listing; the wrappers and the last value classes follow from 40.
 const typ_ArchCompTableData<50> omu_ClassTable = {
     typ_TableHeader,
     {
@@ -45,7 +46,7 @@ const typ_ArchCompTableData<50> omu_ClassTable = {
         typ_Row(V, 19, 32, "omu_PrimArray"),                  // 33
         typ_Row(E, 31, 3, "omu_CorNameErrorException"),       // 34
         typ_Row(E, 19, 1, "omu_GenericTypeErrorException"),   // 35
-        typ_UnusedRow,                                        // 36
+        typ_Row(V, 19, 17, "omu_PrimComplex"),                // 36
         typ_Row(V, 19, 27, "omu_OnOffConst"),                 // 37
         typ_Row(V, 19, 27, "omu_TrueFalseConst"),             // 38
         typ_Row(V, 19, 27, "omu_YesNoConst"),                 // 39

@@ -14,8 +14,20 @@
 #include <omu_KeywordTypeErrorException.h>
 #include <omu_NameErrorException.h>
 #include <omu_OverflowErrorException.h>
+#include <omu_PrimBool.h>
+#include <omu_PrimBoolean.h>
+#include <omu_PrimComplex.h>
+#include <omu_PrimDictionary.h>
 #include <omu_PrimEnumBase.h>
+#include <omu_PrimList.h>
+#include <omu_TextRepr.h>
+#include <omu_PrimException.h>
+#include <omu_PrimExpr.h>
 #include <omu_PrimNone.h>
+#include <omu_PrimNumber.h>
+#include <omu_PrimPath.h>
+#include <omu_PrimString.h>
+#include <omu_PrimTranslatedString.h>
 #include <omu_PrimType.h>
 #include <omu_PrimWrapper.h>
 #include <omu_QueryPathMsg.h>
@@ -59,14 +71,38 @@ void Start() {
                       Register<omu_ValueErrorException>(2),
                       Register<omu_ZeroDivisionErrorException>(2),
                       Register<omu_Primitive>(7),
+                      Register<omu_PrimNumber>(3),
+                      Register<omu_PrimString>(3),
                       Register<omu_PrimEnumBase>(7),
+                      Register<omu_PrimDictionaryBase>(3),
+                      Register<omu_PrimDictionary<cow_String>>(3),
+                      Register<omu_PrimBoolean>(2),
                       Register<omu_PrimType>(2),
                       Register<omu_PrimNone>(2),
+                      Register<omu_PrimPath>(2),
+                      Register<omu_PrimComplex>(2),
+                      Register<omu_PrimExpr>(2),
+                      Register<omu_PrimTranslatedString>(2),
+                      Register<omu_PrimSequence>(2),
+                      Register<omu_PrimTuple>(2),
+                      Register<omu_PrimList>(2),
+                      Register<omu_PrimDictionary<int>>(2),
                       Register<omu_PrimWrapper>(2),
+                      Register<omu_PrimException>(2),
+                      {&omu_InitializeBoolConstants, 2},  // omu_OnOffConst and its two siblings
                       Register<omu_QueryPathMsg>(2),
                   });
+}
+
+// The module's process-wide singletons, released in this order on the last finalise; each
+// release does nothing when its singleton was never made.
+constexpr void (*kReleases[])() noexcept = {&omu_TextRepr::Release};
+
+void Stop() {
+  for (const auto release : kReleases) release();
+  UTI_StopModule(omu_ModuleNumber);
 }
 }  // namespace
 
 void omu_initialize(int& count) { s_Uses.Initialize(count, Start); }
-void omu_finalize(int& count) { s_Uses.Finalize(count, [] { UTI_StopModule(omu_ModuleNumber); }); }
+void omu_finalize(int& count) { s_Uses.Finalize(count, Stop); }

@@ -47,7 +47,7 @@ TEST(ClassTable, RowsCarryKindParentAndName) {
       {19, 21, 7, 19, 25, "omu_PrimList"},           {19, 25, 7, 19, 32, "omu_PrimTuple"},
       {19, 27, 7, 19, 17, "omu_PrimEnumBase"},       {19, 28, 7, 0, 1, "omu_QueryPathMsg"},
       {19, 35, 4, 19, 1, "omu_GenericTypeErrorException"},
-      {19, 36, 0, 0, 1, nullptr},                    {19, 37, 7, 19, 27, "omu_OnOffConst"},
+      {19, 36, 7, 19, 17, "omu_PrimComplex"},        {19, 37, 7, 19, 27, "omu_OnOffConst"},
       {19, 40, 4, 31, 3, "omu_GuiAccessErrorException"},
       {19, 42, 7, 19, 45, "omu_DictPyObjectWrapper"}, {19, 47, 7, 19, 17, "omu_PrimException"},
       {19, 48, 7, 19, 17, "omu_PrimTranslatedString"}, {19, 49, 7, 19, 17, "omu_PrimBoolean"},

@@ -1,8 +1,11 @@
 #include "LibraryEnvironment.h"
+#include "TestArchive.h"
 
 #include <mdl_Model.h>
 #include <omu_BoolSelectEnum.h>
+#include <omu_PrimBool.h>
 #include <omu_PrimEnum.h>
+#include <omu_PrimNumber.h>
 
 #include <gtest/gtest.h>
 
@@ -66,4 +69,67 @@ TEST(PrimEnum, EqualityGoesByNameAcrossInstantiations) {
   std::unique_ptr<omu_Primitive> copy(total.Copy());
   EXPECT_TRUE(*copy == total);
   EXPECT_NE(dynamic_cast<Formulation*>(copy.get()), nullptr);
+}
+
+TEST(PrimEnum, OnOffSpellingOfBooleans) {
+  using OnOff = omu_PrimEnum<bool, 2>;
+  EXPECT_EQ(OnOff(true).AsString(0), "ON");
+  EXPECT_EQ(OnOff(false).AsString(0), "OFF");
+  EXPECT_FALSE(static_cast<bool>(OnOff(cow_String("OFF"))));
+  EXPECT_TRUE(static_cast<bool>(OnOff(cow_String("ON"))));
+  EXPECT_EQ(OnOff(true).PermissibleValuesAsString(), "{OFF: 0, ON: 1}");
+  EXPECT_THROW(OnOff(cow_String("on")), omu_ValueErrorException);
+}
+
+TEST(PrimEnum, NumberDataTypesByName) {
+  using DataType = omu_PrimEnum<omu_PrimNumber::DataTypeEnm, 1>;
+  const std::pair<omu_PrimNumber::DataTypeEnm, const char*> rows[] = {
+      {omu_PrimNumber::SCHAR, "SCHAR"}, {omu_PrimNumber::SHORT, "SHORT"},
+      {omu_PrimNumber::INT, "INT"},     {omu_PrimNumber::FLOAT, "FLOAT"},
+      {omu_PrimNumber::DOUBLE, "DOUBLE"}, {omu_PrimNumber::UINT, "UINT"}};
+  for (const auto& [value, name] : rows) {
+    EXPECT_STREQ(DataType(value).GetString(), name);
+    EXPECT_EQ(static_cast<omu_PrimNumber::DataTypeEnm>(DataType(cow_String(name))), value);
+  }
+  EXPECT_EQ(DataType(omu_PrimNumber::INT).TypeString(), "DOUBLE, FLOAT, INT, SCHAR, SHORT or UINT");
+}
+
+TEST(PrimBool, ThreeSpellingsWithTheirOwnClasses) {
+  EXPECT_EQ(omu_OnOffConst::TypeId(), 0x130025u);
+  EXPECT_EQ(omu_TrueFalseConst::TypeId(), 0x130026u);
+  EXPECT_EQ(omu_YesNoConst::TypeId(), 0x130027u);
+  const omu_OnOffConst on(true);
+  const omu_TrueFalseConst no(false);
+  const omu_YesNoConst yes(true);
+  EXPECT_EQ(on.AsString(0), "ON");
+  EXPECT_EQ(no.AsString(0), "FALSE");
+  EXPECT_EQ(yes.AsString(0), "YES");
+  EXPECT_EQ(on.DynTypeId(), omu_OnOffConst::TypeId());
+  EXPECT_TRUE(on.IsA(omu_PrimEnumBase::TypeId()));
+  EXPECT_THROW(omu_YesNoConst(cow_String("ON")), omu_ValueErrorException);
+  std::unique_ptr<omu_Primitive> copy(yes.Copy());
+  EXPECT_EQ(copy->DynTypeId(), omu_YesNoConst::TypeId());
+  EXPECT_TRUE(*copy == yes);
+}
+
+TEST(PrimBool, VisitorsSeeOnOffAsItsOwnKindAndTheOthersAsEnumerations) {
+  struct Seen : omu_PrimVisitor {
+    std::string kind;
+    void Visit(const omu_PrimBool<2>&) override { kind = "onoff"; }
+    void Visit(const omu_PrimEnumBase&) override { kind = "enum"; }
+  } seen;
+  omu_OnOffConst(true).Accept(&seen);
+  EXPECT_EQ(seen.kind, "onoff");
+  omu_TrueFalseConst(true).Accept(&seen);
+  EXPECT_EQ(seen.kind, "enum");
+}
+
+TEST(PrimBool, ConstantsRoundTripAsTheirOwnClass) {
+  const omu_TrueFalseConst value(true);
+  auto back = RoundTrip<omu_Primitive>(value);
+  ASSERT_EQ(back->DynTypeId(), omu_TrueFalseConst::TypeId());
+  EXPECT_TRUE(static_cast<bool>(static_cast<const omu_TrueFalseConst&>(*back)));
+  EXPECT_TRUE(*back == value);
+  auto formulation = RoundTrip<omu_PrimEnumBase>(Formulation(mdl_Model::SCATTERED));
+  EXPECT_STREQ(formulation->GetString(), "SCATTERED");
 }

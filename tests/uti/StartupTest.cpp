@@ -57,8 +57,8 @@ TEST(Startup, AStopBeforeAnyStartSwallowsTheNextStart) {
 TEST(Startup, ModulesStartInOrderAndStopInReverse) {
   int count = 0;
   UTI_CaeUtils_initialize(count);
-  // BasicUtils (31), then g3d (36), omu (19), mdl (10): wip and idb register nothing.
-  const std::map<unsigned int, int> rank = {{31, 0}, {36, 1}, {19, 2}, {10, 3}};
+  // BasicUtils (31, 35), then g3d (36), omu (19), mdl (10): wip and idb register nothing.
+  const std::map<unsigned int, int> rank = {{31, 0}, {35, 0}, {36, 1}, {19, 2}, {10, 3}};
   int last = 0;
   for (const auto& registration : cls_MetadataRegistrar::Instance().Registrations()) {
     const int now = rank.at(cls_ModuleOf(registration.typeIds.front()));

@@ -30,6 +30,8 @@ public:
   void Write(const char* name, const atr_StringBase& text) const;
   void Write(const char* name, const char* text) const;
   void WriteEnum(const char* name, const cow_String& enumeratorName) const;
+  // A plain value in place of a record: an item of a list of values.
+  void WriteValue(cls_Value value) const;
 
   // A nested object written by its own DBWrite (a record, or a reference to one).
   template <class T>

@@ -1,8 +1,9 @@
 #pragma once
 // The BasicUtils text: the same counted, copy-on-write text as atr_StringBase.
+#include <BASIC_Export.h>
 #include <atr_String.h>
 
-class cow_String : public atr_StringBase {
+class BASIC_EXPORT cow_String : public atr_StringBase {
 public:
   using atr_StringBase::atr_StringBase;
   cow_String() noexcept = default;

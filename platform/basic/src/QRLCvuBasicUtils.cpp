@@ -3,6 +3,7 @@
 #include <nex_AssertException.h>
 #include <nex_CommandException.h>
 #include <nex_TextException.h>
+#include <cls_xcMap.h>
 #include <omi_UseCounter.h>
 
 namespace {
@@ -14,6 +15,8 @@ void RegisterClasses() {
   registrar.initClassMetadata(&nex_TextException::InitializeMetadata, 2);
   registrar.initClassMetadata(&nex_CommandException::InitializeMetadata, 2);
   registrar.initClassMetadata(&nex_AssertException::InitializeMetadata, 2);
+  registrar.initClassMetadata(&cls_xcList::InitializeMetadata, 2);
+  registrar.initClassMetadata(&cls_xcMap::InitializeMetadata, 2);
 }
 
 void WithdrawClasses() {

@@ -57,6 +57,11 @@ void cls_WriteVisitor::WriteEnum(const char* name, const cow_String& enumeratorN
   Write(name, cls_Value(cls_EnumName{enumeratorName}));
 }
 
+void cls_WriteVisitor::WriteValue(cls_Value value) const {
+  NEX_ASSERT(m_Current == nullptr, kSource);
+  *m_Slot = std::move(value);
+}
+
 void cls_WriteVisitor::WriteObject(const char* name, unsigned int typeId,
                                    const void* object) const {
   if (!object) {

@@ -1,0 +1,28 @@
+#pragma once
+// A complex number; it prints as the script writes one: 1+2j, 1-2j.
+#include <omi_complex.h>
+#include <omu_PrimLeaf.h>
+#include <omu_Primitive.h>
+
+class CVX_EXPORT omu_PrimComplex : public omu_PrimLeaf<omu_PrimComplex, omu_Primitive> {
+public:
+  explicit omu_PrimComplex(const omi_complex& value = omi_complex()) noexcept
+      : omu_PrimLeaf('x'), m_Value(value) {}
+  omu_PrimComplex(const omu_PrimComplex&) = default;
+  omu_PrimComplex& operator=(const omu_PrimComplex&) = default;
+  explicit omu_PrimComplex(const cls_ReadVisitor& reader);
+
+  cow_String TypeString() const override { return "complex"; }
+  cow_String AsString(int level) const override;
+  bool operator==(const omu_Primitive& other) const override;
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+
+  const omi_complex& Value() const noexcept { return m_Value; }
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(36); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+private:
+  omi_complex m_Value;
+  cls_Uid m_ComplexUid;
+};

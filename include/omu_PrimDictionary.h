@@ -1,0 +1,80 @@
+#pragma once
+// A script dictionary with integer keys (omu_PrimDictionary<int>, "omu_PrimIntDictionary")
+// or text keys (omu_PrimDictionary<cow_String>, "omu_PrimStrDictionary"). Entries are kept
+// in key order in a copy-on-write tree, so copies are O(1); typed reads and writes by key
+// spare command code the primitives inside (the accepted kinds are omu_PrimConvert's).
+//
+// The entries carry a persistence identity of their own, allocated by the constructor and
+// kept by copies; a write to entries that a copy still shares allocates a new one, so that
+// two dictionaries with one identity always hold the same entries.
+#include <cow_Btree.h>
+#include <cow_COW.h>
+#include <omu_PrimConvert.h>
+#include <omu_PrimDictionaryBase.h>
+#include <omu_PrimLeaf.h>
+#include <omu_PrimMake.h>
+#include <omu_PrimNone.h>
+
+#include <type_traits>
+
+template <class K>
+class CVX_EXPORT omu_PrimDictionary : public omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase> {
+  using Leaf = omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase>;
+
+public:
+  using Handle = cow_COW<omu_Primitive, cow_Virtual<omu_Primitive>>;
+  using Entries = cow_Btree<K, Handle>;
+
+  explicit omu_PrimDictionary(char typeCode = '{', char represents = 0);
+  omu_PrimDictionary(const omu_PrimDictionary&) = default;
+  omu_PrimDictionary& operator=(const omu_PrimDictionary&) = default;
+  explicit omu_PrimDictionary(const cls_ReadVisitor& reader);
+
+  // "dictionary with string keys" or "dictionary with integer keys".
+  cow_String TypeString() const override;
+  // {key: value, ...} in key order; text keys quoted as strings are.
+  cow_String AsString(int level) const override;
+  // Same type code, the same keys in order and equal values: the order of the Puts does
+  // not matter.
+  bool operator==(const omu_Primitive& other) const override;
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+  char Kind() const override;
+
+  int Length() const noexcept { return m_Dict.Length(); }
+  bool Contains(const K& key) const { return m_Dict.Contains(key); }
+  const Entries& GetEntries() const noexcept { return m_Dict; }
+  // The value under key, or the dictionary's missing-key value (a None).
+  const omu_Primitive& Get(const K& key) const;
+  // The value under key, or null.
+  const omu_Primitive* Find(const K& key) const;
+  // 1 when out was set from the value under key, 0 (out untouched) when the key is missing
+  // or its value is not of a kind that T accepts.
+  template <class T>
+  int Get(T& out, const K& key) const {
+    return omu_PrimConvert(Find(key), out) ? 1 : 0;
+  }
+  template <class T>
+    requires(!std::is_pointer_v<T>)
+  void Put(const T& value, const K& key) {
+    Store(key, omu_PrimMake(value));
+  }
+  // Takes ownership of value.
+  void Put(omu_Primitive* value, const K& key) { Store(key, omu_PrimOwner(value)); }
+  bool Remove(const K& key);
+  const cls_Uid& EntriesUid() const noexcept { return m_DictUid; }
+
+  static unsigned int TypeId() noexcept;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+private:
+  void Store(const K& key, omu_PrimOwner value);
+  void BeforeWrite();
+
+  Entries m_Dict;
+  omu_PrimNone m_Missing;
+  cls_Uid m_DictUid;
+  cls_Uid m_OwnUid;
+};
+
+extern template class omu_PrimDictionary<int>;
+extern template class omu_PrimDictionary<cow_String>;

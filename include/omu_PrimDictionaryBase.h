@@ -1,0 +1,28 @@
+#pragma once
+// What the two dictionary primitives share: type code '{' and the character that says what
+// kind of object a dictionary stands for (its meaning is the creator's; the library only
+// keeps it).
+#include <omu_Primitive.h>
+
+class CVX_EXPORT omu_PrimDictionaryBase : public omu_Primitive {
+public:
+  // The key kind: 's' for text keys, 'i' for integer keys.
+  virtual char Kind() const = 0;
+  char Represents() const noexcept { return m_Represents; }
+  unsigned int DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(18); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+protected:
+  omu_PrimDictionaryBase(char typeCode, char represents) noexcept
+      : omu_Primitive(typeCode), m_Represents(represents) {}
+  explicit omu_PrimDictionaryBase(const cls_ReadVisitor& reader);
+  omu_PrimDictionaryBase(const omu_PrimDictionaryBase&) = default;
+  omu_PrimDictionaryBase& operator=(const omu_PrimDictionaryBase&) = default;
+
+private:
+  char m_Represents;
+  cls_Uid m_DictionaryBaseUid;
+};

@@ -1,0 +1,33 @@
+#pragma once
+// A path to an object of the application as a list of components ('a.b.c'), with a
+// character saying in which context the path is meant.
+#include <cow_List.h>
+#include <omu_PrimLeaf.h>
+#include <omu_Primitive.h>
+
+class CVX_EXPORT omu_PrimPath : public omu_PrimLeaf<omu_PrimPath, omu_Primitive> {
+public:
+  omu_PrimPath() noexcept : omu_PrimLeaf('p') {}
+  explicit omu_PrimPath(const cow_List<cow_String>& context, char contextType = 0)
+      : omu_PrimLeaf('p'), m_Context(context), m_ContextType(contextType) {}
+  omu_PrimPath(const omu_PrimPath&) = default;
+  omu_PrimPath& operator=(const omu_PrimPath&) = default;
+  explicit omu_PrimPath(const cls_ReadVisitor& reader);
+
+  cow_String TypeString() const override { return "path"; }
+  // The components joined by '.', trailing dots trimmed, in single quotes.
+  cow_String AsString(int level) const override;
+  bool operator==(const omu_Primitive& other) const override;
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+
+  const cow_List<cow_String>& Context() const noexcept { return m_Context; }
+  char ContextType() const noexcept { return m_ContextType; }
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(23); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+private:
+  cow_List<cow_String> m_Context;
+  char m_ContextType = 0;
+  cls_Uid m_PathUid;
+};

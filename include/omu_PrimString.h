@@ -1,0 +1,40 @@
+#pragma once
+// A text value. Its script text is the quoted form of omu_NameString.
+#include <omu_PrimLeaf.h>
+#include <omu_Primitive.h>
+
+class omu_PrimEnumBase;
+
+class CVX_EXPORT omu_PrimString : public omu_PrimLeaf<omu_PrimString, omu_Primitive> {
+public:
+  omu_PrimString() noexcept : omu_PrimLeaf('s') {}
+  explicit omu_PrimString(const cow_String& text) : omu_PrimLeaf('s'), m_Text(text) {}
+  // The constant's symbolic name.
+  explicit omu_PrimString(const omu_PrimEnumBase& constant);
+  // Plain decimal.
+  explicit omu_PrimString(int value);
+  explicit omu_PrimString(unsigned int value);
+  // The text a DOUBLE number prints as.
+  explicit omu_PrimString(double value);
+  omu_PrimString(const omu_PrimString&) = default;
+  omu_PrimString& operator=(const omu_PrimString&) = default;
+  explicit omu_PrimString(const cls_ReadVisitor& reader);
+
+  cow_String TypeString() const override { return "string"; }
+  cow_String AsString(int level) const override;
+  bool operator==(const omu_Primitive& other) const override;
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+
+  const cow_String& Text() const noexcept { return m_Text; }
+  const char* AsCharPtr() const noexcept { return m_Text.CStr(); }
+  char operator[](int index) const noexcept { return m_Text[index]; }
+  int Length() const noexcept { return m_Text.Length(); }
+  void Concat(const omu_PrimString& other) { m_Text += other.m_Text; }
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(24); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+private:
+  cow_String m_Text;
+  cls_Uid m_StringUid;
+};

@@ -1,0 +1,192 @@
+#pragma once
+// A fixed-size sequence of primitives that also reads a script call's arguments: Begin,
+// then one typed Get per argument (Optional() marks where optional ones start), then End,
+// which raises the first fault found. Get never raises: a missing or mistyped value leaves
+// its output untouched and the fault is kept for End. Elements are copy-on-write handles,
+// so copying a tuple is O(1) whatever its size.
+#include <cow_2DArray.h>
+#include <cow_COW.h>
+#include <cow_List.h>
+#include <cow_Map.h>
+#include <omu_PrimLeaf.h>
+#include <omu_PrimSequence.h>
+
+#include <memory>
+#include <string>
+
+class atr_String;
+class cls_xcList;
+class omi_complex;
+class omu_PrimArray;
+class omu_PrimEnumBase;
+class omu_PrimExpr;
+class omu_PrimNone;
+class omu_PrimPath;
+class omu_PrimType;
+class omu_PyObjectWrapper;
+class omu_ListPyObjectWrapper;
+template <class K>
+class omu_DictPyObjectWrapper;
+template <class K>
+class omu_PrimDictionary;
+class utl_FilePath;
+
+using omu_PrimHandle = cow_ArrayCOW<omu_Primitive, cow_Virtual<omu_Primitive>>;
+
+class CVX_EXPORT omu_PrimTuple : public omu_PrimLeaf<omu_PrimTuple, omu_PrimSequence> {
+public:
+  explicit omu_PrimTuple(int size = 0, char typeCode = '(');
+  // The items of a persisted list of primitives.
+  omu_PrimTuple(const cls_xcList& items, char typeCode);
+  omu_PrimTuple(const omu_PrimTuple&) = default;
+  omu_PrimTuple& operator=(const omu_PrimTuple&) = default;
+  explicit omu_PrimTuple(const cls_ReadVisitor& reader);
+
+  cow_String AsString(int level) const override;
+  // Same type code and size, and every element equal to its counterpart.
+  bool operator==(const omu_Primitive& other) const override;
+  void DBWrite(const cls_WriteVisitor& writer) const override;
+
+  int Size() const override { return m_Size; }
+  const omu_Primitive* Index(int index) const override;
+  omu_PrimSequence* Slice(int from, int to) const override;
+  omu_PrimSequence* Repeat(int times) const override;
+  omu_PrimSequence* Concat(omu_PrimSequence* other) const override;
+
+  // Each Put stores into the slot at the cursor and moves the cursor on. Scalars become
+  // the matching primitive, collections nested tuples, a string map a dictionary.
+  virtual void Put(const cow_Map<cow_String, float>& value);
+  virtual void Put(const cow_2DArray<cow_String>& value);
+  virtual void Put(const cow_2DArray<double>& value);
+  virtual void Put(const cow_List<double>& value);
+  virtual void Put(const cow_List<omu_PrimEnumBase>& value);
+  virtual void Put(const cow_List<atr_String>& value);
+  virtual void Put(const cow_List<cow_String>& value);
+  virtual void Put(const cow_List<float>& value);
+  virtual void Put(const cow_List<bool>& value);
+  virtual void Put(const cow_List<int>& value);
+  virtual void Put(omu_ListPyObjectWrapper& value);
+  virtual void Put(omu_DictPyObjectWrapper<int>& value);
+  virtual void Put(omu_DictPyObjectWrapper<cow_String>& value);
+  virtual void Put(const omu_PrimType& value);
+  virtual void Put(const omu_PrimNone& value);
+  virtual void Put(const omu_PrimEnumBase& value);
+  // Takes ownership of value.
+  virtual void Put(omu_Primitive* value);
+  virtual void Put(omu_PyObjectWrapper* value);
+  virtual void Put(const omu_PrimDictionary<cow_String>& value);
+  virtual void Put(const omu_PrimDictionary<int>& value);
+  virtual void Put(const omu_PrimTuple& value);
+  virtual void Put(const omu_PrimPath& value);
+  virtual void Put(const omu_PrimExpr& value);
+  virtual void Put(double value);
+  virtual void Put(const utl_FilePath& value);
+  virtual void Put(const omi_complex& value);
+  virtual void Put(const atr_String& value);
+  virtual void Put(const cow_String& value);
+  virtual void Put(const char* value);
+  virtual void Put(unsigned int value);
+  virtual void Put(bool value);
+  virtual void Put(int value);
+  virtual void Put(short value);
+  virtual void Put(signed char value);
+
+  // Each Get reads the element at the cursor into its output and moves the cursor on.
+  // The wrapper is lent (null when refused).
+  virtual const omu_PyObjectWrapper* Get(const omu_PyObjectWrapper*);
+  virtual void Get(omu_ListPyObjectWrapper& out);
+  virtual void Get(omu_DictPyObjectWrapper<cow_String>& out);
+  virtual void Get(omu_DictPyObjectWrapper<int>& out);
+  virtual void Get(cow_Map<cow_String, float>& out);
+  virtual void Get(cow_2DArray<cow_String>& out);
+  virtual void Get(cow_2DArray<double>& out);
+  virtual void Get(cow_List<double>& out);
+  virtual void Get(cow_List<atr_String>& out);
+  virtual void Get(cow_List<cow_String>& out);
+  virtual void Get(cow_List<float>& out);
+  virtual void Get(cow_List<bool>& out);
+  virtual void Get(cow_List<int>& out);
+  virtual void Get(omu_PrimType& out);
+  virtual void Get(omu_PrimNone& out);
+  // The element's name must be one that out accepts (out.SetValue).
+  virtual void Get(omu_PrimEnumBase& out);
+  virtual void Get(omu_PrimDictionary<cow_String>& out);
+  virtual void Get(omu_PrimDictionary<int>& out);
+  virtual void Get(omu_PrimTuple& out);
+  virtual void Get(omu_PrimPath& out);
+  virtual void Get(utl_FilePath& out);
+  virtual void Get(omi_complex& out);
+  virtual void Get(atr_String& out);
+  virtual void Get(cow_String& out);
+  // Any number.
+  virtual void Get(double& out);
+  // A UINT number, or a non-negative INT number.
+  virtual void Get(unsigned int& out);
+  // An INT number only (SHORT, SCHAR and UINT are refused).
+  virtual void Get(int& out);
+  virtual void Get(short& out);
+  virtual void Get(signed char& out);
+  // A Boolean, or an INT, SCHAR or SHORT number that is 0 or 1.
+  virtual void Get(bool& out);
+  virtual void Begin();
+  // Raises omu_ArgTypeErrorException for the first mistyped value, else
+  // omu_ArgNumberErrorException when too few or too many values were read; an empty
+  // context takes the nested error text.
+  virtual void End(cow_String context);
+
+  // The values read from now on are optional.
+  void Optional() noexcept { m_IsOptional = true; }
+  // Undoes the last read when it recorded a type error, so that another reading of the
+  // same element can be tried; false (and nothing changed) otherwise.
+  bool Alternative() noexcept;
+  void SetNestedErrorStr(const cow_String& text) { m_NestedErrorStr = text; }
+  // The element for writing: it stops sharing with copies of this tuple first.
+  omu_Primitive& operator[](int index);
+
+  int Cursor() const noexcept { return m_Cursor; }
+  int ErrorArg() const noexcept { return m_ErrorArg; }
+  const cow_String& TypeFound() const noexcept { return m_TypeFound; }
+  const cow_String& TypeExpected() const noexcept { return m_TypeExpected; }
+  int NumGets() const noexcept { return m_NumGets; }
+  // Shares one element of another sequence's storage (no copy until written).
+  const omu_PrimHandle& Handle(int index) const { return m_PrimVector[index]; }
+
+  static unsigned int TypeId() noexcept { return omu_TypeId(25); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+
+protected:
+  // The upper bound on slots that Put may grow the tuple to (a list's maximum size).
+  virtual int Capacity() const noexcept { return m_Size; }
+  void Store(std::unique_ptr<omu_Primitive> value);
+  void SetHandle(int index, const omu_PrimHandle& handle);
+  // Slice, Repeat and Concat into a new sequence of type Result; a missing element
+  // raises missingText from source.
+  template <class Result>
+  Result* SliceAs(int from, int to, const char* missingText, const char* source) const;
+  template <class Result>
+  Result* RepeatAs(int times, const char* missingText, const char* source) const;
+  template <class Result>
+  Result* ConcatAs(omu_PrimSequence* other, const char* missingText, const char* source) const;
+
+private:
+  template <class Taker>
+  void Read(const char* expected, Taker&& accept);
+  void ReadTo(omu_Primitive& out, const char* expected, char code);
+  bool Readable() const noexcept { return m_Cursor < m_Size && m_ErrorArg == 0; }
+  void Advance() noexcept;
+  void SetTypeError(int index, const cow_String& expected);
+  void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
+
+  int m_Size = 0;
+  int m_Cursor = 0;
+  int m_ReqCount = 0;
+  int m_ArgCount = 0;
+  bool m_IsOptional = false;
+  int m_ErrorArg = 0;
+  cow_String m_TypeFound;
+  cow_String m_TypeExpected;
+  int m_NumGets = 0;
+  cow_List<omu_PrimHandle> m_PrimVector;
+  cow_String m_NestedErrorStr;
+  cls_Uid m_TupleUid;
+};

@@ -1,0 +1,66 @@
+#pragma once
+// The process-wide limits of the script text of values. Set them on the main thread before
+// printing starts: they are read without locks.
+//
+// Printers of objects and containers of objects follow one rule (BoundedText): simple
+// style prints a fixed short text; at or past the maximum recursion an object prints as
+// GetMaxRecursionString; otherwise the contents print, at most the maximum number of
+// elements, each one level deeper.
+#include <CVX_Export.h>
+#include <cow_String.h>
+
+#include <climits>
+
+class CVX_EXPORT omu_TextRepr {
+public:
+  // The settings, created on first use and destroyed by omu_finalize.
+  static omu_TextRepr& Instance();
+  static void Release() noexcept;
+  static bool Exists() noexcept;
+
+  int GetSimpleStyle() const noexcept { return m_SimpleStyle; }
+  void SetSimpleStyle(int style) noexcept { m_SimpleStyle = style; }
+  int GetMaxRecursion() const noexcept { return m_MaxRecursion; }
+  void SetMaxRecursion(int depth) noexcept { m_MaxRecursion = depth; }
+  int GetMaxElementsInSequence() const noexcept { return m_MaxElements; }
+  void SetMaxElementsInSequence(int count) noexcept { m_MaxElements = count; }
+  // Kept for the host; no printer of this library reads the next three.
+  int GetMaxReprStringSizeMB() const noexcept { return m_MaxTextMB; }
+  void SetMaxReprStringSizeMB(int megabytes) noexcept { m_MaxTextMB = megabytes; }
+  double GetZeroTolerance() const noexcept { return m_ZeroTolerance; }
+  void SetZeroTolerance(double tolerance) noexcept { m_ZeroTolerance = tolerance; }
+  int GetSignificantDigits() const noexcept { return m_SignificantDigits; }
+  void SetSignificantDigits(int digits) noexcept { m_SignificantDigits = digits; }
+  void SetMaxRecursionString(const cow_String& format) { m_MaxRecursionFormat = format; }
+  // The recursion-limit format itself, unformatted (what a null object prints as).
+  const cow_String& GetMaxRecursionString() const noexcept { return m_MaxRecursionFormat; }
+  // What an object of the exposed type name prints as at the recursion limit: the format's
+  // %s replaced by the name, in single quotes ('Part object' by default).
+  cow_String MaxRecursionText(const cow_String& typeName) const;
+  bool ShowPrivateMembers() const noexcept { return m_ShowPrivate; }
+  bool SortMembers() const noexcept { return m_SortMembers; }
+
+  // The bounded printing of an object or a container of objects at nesting level: simple
+  // style gives simpleText, the recursion limit gives MaxRecursionText(typeName), and
+  // otherwise printContents() is answered.
+  template <class PrintContents>
+  cow_String BoundedText(int level, const char* simpleText, const cow_String& typeName,
+                         PrintContents&& printContents) const {
+    if (m_SimpleStyle == 1) return simpleText;
+    if (level >= m_MaxRecursion) return MaxRecursionText(typeName);
+    return printContents();
+  }
+
+private:
+  int m_SimpleStyle = 0;
+  int m_MaxRecursion = 1;
+  int m_MaxElements = INT_MAX;
+  int m_MaxTextMB = 1;
+  double m_ZeroTolerance = 1e-06;
+  int m_SignificantDigits = 3;
+  cow_String m_MaxRecursionFormat = "%s object";
+  bool m_ShowPrivate = false;
+  bool m_SortMembers = true;
+  bool m_Reserved1 = false;  // no reader in this library
+  bool m_Reserved2 = false;
+};

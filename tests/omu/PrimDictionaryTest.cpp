@@ -1,0 +1,123 @@
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
+#include <omi_complex.h>
+#include <omu_PrimBoolean.h>
+#include <omu_PrimDictionary.h>
+#include <omu_PrimList.h>
+#include <omu_PrimNumber.h>
+#include <omu_PrimString.h>
+#include <omu_PrimWrapper.h>
+#include <utl_FilePath.h>
+
+#include <gtest/gtest.h>
+
+using StrDict = omu_PrimDictionary<cow_String>;
+using IntDict = omu_PrimDictionary<int>;
+
+TEST(PrimDictionary, TypedReadsTakeOnlyTheirKinds) {
+  StrDict dict;
+  dict.Put(2.0, "float");
+  dict.Put(3, "int");
+  dict.Put(true, "flag");
+  dict.Put(cow_String("it's"), "text");
+  dict.Put(cow_List<int>{1, 2}, "ints");
+  dict.Put(omi_complex(1, 2), "complex");
+  int i = -1;
+  EXPECT_EQ(dict.Get(i, "float"), 0);  // a floating number is no integer
+  EXPECT_EQ(dict.Get(i, "missing"), 0);
+  EXPECT_EQ(i, -1);
+  EXPECT_EQ(dict.Get(i, "int"), 1);
+  EXPECT_EQ(i, 3);
+  double d = 0;
+  EXPECT_EQ(dict.Get(d, "int"), 1);
+  EXPECT_EQ(d, 3.0);
+  bool flag = false;
+  EXPECT_EQ(dict.Get(flag, "flag"), 1);
+  EXPECT_TRUE(flag);
+  cow_String text;
+  EXPECT_EQ(dict.Get(text, "int"), 0);
+  EXPECT_EQ(dict.Get(text, "text"), 1);
+  EXPECT_EQ(text, "it's");
+  const char* chars = nullptr;
+  EXPECT_EQ(dict.Get(chars, "text"), 1);
+  EXPECT_STREQ(chars, "it's");
+  utl_FilePath path;
+  EXPECT_EQ(dict.Get(path, "text"), 1);
+  cow_List<double> numbers;
+  EXPECT_EQ(dict.Get(numbers, "ints"), 1);
+  EXPECT_EQ(numbers, (cow_List<double>{1.0, 2.0}));
+  omu_PrimList list;
+  EXPECT_EQ(dict.Get(list, "ints"), 1);
+  EXPECT_EQ(list.Size(), 2);
+  omi_complex c;
+  EXPECT_EQ(dict.Get(c, "complex"), 1);
+  EXPECT_EQ(c.Imag(), 2.0);
+  EXPECT_TRUE(dict.Get("missing").IsType('n'));
+}
+
+TEST(PrimDictionary, EqualityAndTextIgnoreInsertionOrder) {
+  StrDict first;
+  first.Put(1, "b");
+  first.Put(cow_String("x"), "a");
+  StrDict second;
+  second.Put(cow_String("x"), "a");
+  second.Put(1, "b");
+  EXPECT_TRUE(first == second);
+  EXPECT_EQ(first.AsString(0), "{'a': 'x', 'b': 1}");
+  EXPECT_EQ(first.AsString(0), second.AsString(0));
+  second.Put(2, "b");
+  EXPECT_FALSE(first == second);
+  second.Put(1, "b");
+  second.Put(1, "c");
+  EXPECT_FALSE(first == second);
+  EXPECT_EQ(StrDict().AsString(0), "{}");
+  EXPECT_FALSE(first == IntDict());
+  IntDict numbers;
+  numbers.Put(0.5, 10);
+  numbers.Put(cow_String("it's"), -2);
+  EXPECT_EQ(numbers.AsString(0), "{-2: \"it's\", 10: 0.5}");
+  EXPECT_EQ(numbers.TypeString(), "dictionary with integer keys");
+  EXPECT_EQ(first.TypeString(), "dictionary with string keys");
+  EXPECT_EQ(numbers.Kind(), 'i');
+  EXPECT_EQ(first.Kind(), 's');
+}
+
+TEST(PrimDictionary, CopiesShareEntriesAndIdentityUntilWritten) {
+  StrDict original;
+  original.Put(1, "a");
+  StrDict copy(original);
+  EXPECT_EQ(copy.EntriesUid(), original.EntriesUid());
+  copy.Put(2, "b");
+  EXPECT_NE(copy.EntriesUid(), original.EntriesUid());
+  EXPECT_EQ(original.Length(), 1);
+  EXPECT_NE(StrDict().EntriesUid(), StrDict().EntriesUid());
+}
+
+TEST(PrimDictionary, RoundTripsKeepEntriesAndIdentity) {
+  StrDict dict('{', 'm');
+  dict.Put(1.5, "x");
+  dict.Put(cow_List<cow_String>{"a", "b"}, "names");
+  const auto back = RoundTrip<StrDict>(dict);
+  EXPECT_TRUE(*back == dict);
+  EXPECT_EQ(back->Represents(), 'm');
+  EXPECT_EQ(back->EntriesUid(), dict.EntriesUid());
+  IntDict numbers;
+  numbers.Put(true, 3);
+  const auto numbersBack = RoundTrip<omu_Primitive>(numbers);
+  EXPECT_EQ(numbersBack->DynTypeId(), IntDict::TypeId());
+  EXPECT_TRUE(*numbersBack == numbers);
+}
+
+TEST(PrimWrapper, MemberDictionaryIsCopiedWithItsIdentityAndPersisted) {
+  omu_PrimWrapper wrapper;
+  wrapper.MemberDict().Put(7, "count");
+  const omu_PrimWrapper copy(wrapper);
+  EXPECT_TRUE(copy.MemberDict() == wrapper.MemberDict());
+  EXPECT_EQ(copy.MemberDict().EntriesUid(), wrapper.MemberDict().EntriesUid());
+  const auto back = RoundTrip<omu_PrimWrapper>(wrapper);
+  int count = 0;
+  EXPECT_EQ(back->MemberDict().Get(count, "count"), 1);
+  EXPECT_EQ(count, 7);
+  EXPECT_FALSE(*back == *back);
+}

@@ -1,0 +1,157 @@
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
+#include <nex_TextException.h>
+#include <omu_PrimBool.h>
+#include <omu_PrimBoolean.h>
+#include <omu_PrimComplex.h>
+#include <omu_PrimException.h>
+#include <omu_PrimExpr.h>
+#include <omu_PrimNumber.h>
+#include <omu_PrimPath.h>
+#include <omu_PrimString.h>
+#include <omu_PrimTranslatedString.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+// Equality as callers holding two primitives see it (the left operand's operator==).
+bool Same(const omu_Primitive& left, const omu_Primitive& right) { return left == right; }
+}  // namespace
+
+TEST(PrimNumber, FloatingText) {
+  const std::pair<double, const char*> cases[] = {
+      {2.0, "2.0"},         {1e20, "1e+20"},     {0.1, "0.1"},
+      {1e-5, "1e-05"},      {1e100, "1e+100"},   {-0.0, "-0.0"},
+      {100000.0, "100000.0"}, {1e15, "1e+15"},   {123456789012345.0, "123456789012345.0"},
+      {0.30000000000000004, "0.3"}, {1.0 / 3.0, "0.333333333333333"},
+      {-2.5e-300, "-2.5e-300"}, {5e-324, "4.94065645841247e-324"},
+      {1.7976931348623157e308, "1.79769313486232e+308"}, {0.0001, "0.0001"},
+      {std::numeric_limits<double>::infinity(), "inf.0"}};
+  for (const auto& [value, text] : cases) {
+    EXPECT_EQ(omu_PrimNumber(value).AsString(0), text) << text;
+    EXPECT_EQ(omu_PrimNumber(value, omu_PrimNumber::FLOAT).AsString(0), text) << text;
+  }
+}
+
+TEST(PrimNumber, IntegerKindsTruncateToThirtyTwoBits) {
+  const std::tuple<double, omu_PrimNumber::DataTypeEnm, const char*> cases[] = {
+      {3.7, omu_PrimNumber::INT, "3"},           {-3.7, omu_PrimNumber::INT, "-3"},
+      {2147483647.0, omu_PrimNumber::INT, "2147483647"},
+      {2147483648.0, omu_PrimNumber::INT, "-2147483648"},
+      {-2147483648.9, omu_PrimNumber::INT, "-2147483648"},
+      {-1e300, omu_PrimNumber::SHORT, "-2147483648"},
+      {std::nan(""), omu_PrimNumber::SCHAR, "-2147483648"},
+      {4294967295.0, omu_PrimNumber::UINT, "4294967295"}};
+  for (const auto& [value, type, text] : cases) {
+    const omu_PrimNumber number(value, type);
+    EXPECT_TRUE(number.IsType('i'));
+    EXPECT_EQ(number.TypeString(), "int");
+    EXPECT_EQ(number.AsString(0), text) << text;
+  }
+}
+
+TEST(PrimNumber, EqualityComparesBothValueFieldsOnly) {
+  EXPECT_TRUE(omu_PrimNumber(2.0) == omu_PrimNumber(2));  // DOUBLE against INT
+  EXPECT_FALSE(omu_PrimNumber(2.0) == omu_PrimNumber(2u));  // UINT keeps the unsigned field
+  EXPECT_TRUE(omu_PrimNumber(7u) == omu_PrimNumber(7.0, omu_PrimNumber::UINT));
+  EXPECT_FALSE(Same(omu_PrimNumber(1), omu_PrimString("1")));
+  EXPECT_EQ(omu_PrimNumber(2.0).TypeString(), "float");
+}
+
+TEST(PrimString, QuotingOfEveryMix) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"plain", "'plain'"},
+      {"", "''"},
+      {"it's", "\"it's\""},
+      {"a'b\"c", "'a\\'b\"c'"},
+      {"say \"hi\"", "'say \"hi\"'"},
+      {"back\\slash", "'back\\\\slash'"},
+      {"line\nbreak", "'line\\nbreak'"},
+      {"it's\\\n", "\"it's\\\\\\n\""},
+      {"tab\there", "'tab\there'"},
+      {"'\"'", "'\\'\"\\''"}};
+  for (const auto& [text, quoted] : cases) {
+    EXPECT_EQ(omu_PrimString(cow_String(text)).AsString(0), quoted) << text;
+    EXPECT_EQ(omu_PrimTranslatedString(atr_String(text)).AsString(0), quoted) << text;
+  }
+}
+
+TEST(PrimString, ConstructorsFromNumbersAndConstants) {
+  EXPECT_EQ(omu_PrimString(-12).Text(), "-12");
+  EXPECT_EQ(omu_PrimString(4000000000u).Text(), "4000000000");
+  EXPECT_EQ(omu_PrimString(2.0).Text(), "2.0");
+  EXPECT_EQ(omu_PrimString(1e-5).Text(), "1e-05");
+  EXPECT_EQ(omu_PrimString(omu_OnOffConst(true)).Text(), "ON");
+  omu_PrimString text(cow_String("ab"));
+  text.Concat(omu_PrimString(cow_String("c")));
+  EXPECT_EQ(text.Length(), 3);
+  EXPECT_EQ(text[2], 'c');
+  EXPECT_STREQ(text.AsCharPtr(), "abc");
+  EXPECT_FALSE(Same(text, omu_PrimTranslatedString(atr_String("abc"))));
+}
+
+TEST(PrimScalars, TextOfComplexPathExpressionAndBoolean) {
+  EXPECT_EQ(omu_PrimComplex(omi_complex(1, -2)).AsString(0), "1-2j");
+  EXPECT_EQ(omu_PrimComplex(omi_complex(0.5, 0)).AsString(0), "0.5+0j");
+  EXPECT_EQ(omu_PrimComplex(omi_complex(1, -0.0)).AsString(0), "1+-0j");
+  EXPECT_EQ(omu_PrimComplex(omi_complex::FromPolar(2, 0)).AsString(0), "2+0j");
+  EXPECT_EQ(omu_PrimPath({"mdb", "models", "Model-1"}).AsString(0), "'mdb.models.Model-1'");
+  EXPECT_EQ(omu_PrimPath({"a", "b.."}).AsString(0), "'a.b'");
+  EXPECT_EQ(omu_PrimPath().AsString(0), "''");
+  EXPECT_EQ(omu_PrimPath({"", ""}).AsString(0), "''");
+  EXPECT_EQ(omu_PrimExpr("x + 1").AsString(0), "x + 1");
+  EXPECT_EQ(omu_PrimBoolean(true).AsString(0), "True");
+  EXPECT_EQ(omu_PrimBoolean(false).TypeString(), "Boolean");
+}
+
+TEST(PrimScalars, EqualityRules) {
+  EXPECT_TRUE(omu_PrimComplex(omi_complex::FromPolar(1, 0)) == omu_PrimComplex(omi_complex(1, 0)));
+  EXPECT_TRUE(omu_PrimPath({"a"}, 'r') == omu_PrimPath({"a"}, 'x'));
+  EXPECT_FALSE(Same(omu_PrimPath({"a"}), omu_PrimExpr("a")));
+  EXPECT_FALSE(Same(omu_PrimExpr("a"), omu_PrimString(cow_String("a"))));
+  const omu_PrimException captured(nex_TextException("boom"), "trace");
+  EXPECT_FALSE(captured == captured);
+  EXPECT_EQ(captured.TypeString(), "primitive");
+  EXPECT_EQ(captured.AsString(0), "omu_PrimException object");
+  std::unique_ptr<omu_Primitive> copy(captured.Copy());
+  const auto& copied = static_cast<const omu_PrimException&>(*copy);
+  ASSERT_NE(copied.Exception(), nullptr);
+  EXPECT_NE(copied.Exception(), captured.Exception());
+  EXPECT_EQ(copied.Exception()->AsString(), "boom");
+}
+
+template <class T>
+void ExpectRoundTrip(const T& value) {
+  const auto back = RoundTrip<omu_Primitive>(value);
+  ASSERT_NE(back, nullptr);
+  EXPECT_EQ(back->DynTypeId(), value.DynTypeId());
+  EXPECT_EQ(back->TypeCode(), value.TypeCode());
+  EXPECT_TRUE(*back == value) << value.AsString(0).StdString();
+  EXPECT_EQ(back->AsString(0), value.AsString(0));
+}
+
+TEST(PrimScalars, EveryKindRoundTripsThroughAnArchiveFile) {
+  ExpectRoundTrip(omu_PrimNumber(0.1));
+  ExpectRoundTrip(omu_PrimNumber(-5, omu_PrimNumber::SHORT));
+  ExpectRoundTrip(omu_PrimNumber(4000000000u));
+  ExpectRoundTrip(omu_PrimBoolean(true));
+  ExpectRoundTrip(omu_PrimString(cow_String("it's \"x\"\n")));
+  ExpectRoundTrip(omu_PrimTranslatedString(atr_String("Hello")));
+  ExpectRoundTrip(omu_PrimComplex(omi_complex(1.5, -2)));
+  ExpectRoundTrip(omu_PrimExpr("a*b"));
+  ExpectRoundTrip(omu_PrimPath({"mdb", "parts"}, 'r'));
+  const auto number = RoundTrip<omu_PrimNumber>(omu_PrimNumber(7, omu_PrimNumber::SCHAR));
+  EXPECT_EQ(number->DataType(), omu_PrimNumber::SCHAR);
+  const auto path = RoundTrip<omu_PrimPath>(omu_PrimPath({"x"}, 'r'));
+  EXPECT_EQ(path->ContextType(), 'r');
+}
+
+TEST(PrimScalars, CapturedExceptionKeepsOnlyItsTracebackInArchives) {
+  const auto back = RoundTrip<omu_PrimException>(omu_PrimException(nex_TextException("x"), "tb"));
+  EXPECT_EQ(back->Exception(), nullptr);
+  EXPECT_EQ(back->Traceback(), "tb");
+}

@@ -1,0 +1,121 @@
+#include "LibraryEnvironment.h"
+
+#include <UTI_CaeUtils.h>
+#include <aio_ostream.h>
+#include <omu_GetBracketKeyPos.h>
+#include <omu_PrimLeaf.h>
+#include <omu_PrimNumber.h>
+#include <omu_PrimTuple.h>
+#include <omu_StringFromQString.h>
+#include <omu_TextRepr.h>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+// An object that prints the way interface objects and object sequences do.
+class ObjectLike : public omu_PrimLeaf<ObjectLike, omu_Primitive> {
+public:
+  ObjectLike() : omu_PrimLeaf('o') {}
+  cow_String AsString(int level) const override {
+    return omu_TextRepr::Instance().BoundedText(level, "interface object", "Part",
+                                                [] { return cow_String("Part(name='p')"); });
+  }
+  bool operator==(const omu_Primitive&) const override { return false; }
+};
+
+class ErrorStream {
+public:
+  ErrorStream() : m_Previous(aio_cerr().Redirect(&m_Text)) {}
+  ~ErrorStream() { aio_cerr().Redirect(m_Previous); }
+  std::string Text() const { return m_Text.str(); }
+
+private:
+  std::ostringstream m_Text;
+  std::ostream* m_Previous;
+};
+
+class TextRepr : public ::testing::Test {
+protected:
+  void TearDown() override { omu_TextRepr::Instance() = omu_TextRepr(); }
+};
+}  // namespace
+
+TEST_F(TextRepr, Defaults) {
+  const omu_TextRepr& repr = omu_TextRepr::Instance();
+  EXPECT_EQ(repr.GetSimpleStyle(), 0);
+  EXPECT_EQ(repr.GetMaxRecursion(), 1);
+  EXPECT_EQ(repr.GetMaxElementsInSequence(), 2147483647);
+  EXPECT_EQ(repr.GetMaxReprStringSizeMB(), 1);
+  EXPECT_EQ(repr.GetZeroTolerance(), 1e-06);
+  EXPECT_EQ(repr.GetSignificantDigits(), 3);
+  EXPECT_EQ(repr.GetMaxRecursionString(), "%s object");
+  EXPECT_FALSE(repr.ShowPrivateMembers());
+  EXPECT_TRUE(repr.SortMembers());
+}
+
+TEST_F(TextRepr, RecursionLimitAndSimpleStyleBoundObjects) {
+  omu_PrimTuple tuple(2);
+  tuple.Put(new ObjectLike);
+  tuple.Put(1);
+  EXPECT_EQ(tuple.AsString(0), "('Part object', 1)");  // nested level 1 reaches the limit 1
+  EXPECT_EQ(ObjectLike().AsString(0), "Part(name='p')");
+  omu_TextRepr& repr = omu_TextRepr::Instance();
+  repr.SetMaxRecursion(2);
+  EXPECT_EQ(tuple.AsString(0), "(Part(name='p'), 1)");
+  repr.SetMaxRecursion(0);
+  EXPECT_EQ(ObjectLike().AsString(0), "'Part object'");
+  repr.SetMaxRecursionString("<%s at %%>");
+  EXPECT_EQ(ObjectLike().AsString(0), "'<Part at %>'");
+  repr.SetMaxRecursionString("%d %s %s");  // stray conversions print as they stand
+  EXPECT_EQ(ObjectLike().AsString(0), "'%d Part %s'");
+  repr.SetSimpleStyle(1);
+  EXPECT_EQ(tuple.AsString(0), "(interface object, 1)");
+}
+
+TEST_F(TextRepr, OmuFinalizeReleasesTheSettings) {
+  omu_TextRepr::Instance().SetMaxRecursion(7);
+  int count = 0;
+  omu_finalize(count);  // the test environment's start is the only other one
+  EXPECT_FALSE(omu_TextRepr::Exists());
+  omu_initialize(count);
+  EXPECT_EQ(omu_TextRepr::Instance().GetMaxRecursion(), 1);
+}
+
+TEST(StringFromQString, UnquotesOnlyTheMatchingQuote) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"'x'", "x"},
+      {"\"x\"", "x"},
+      {"'it\\'s'", "it's"},
+      {"\"say \\\"hi\\\"\"", "say \"hi\""},
+      {"'a\\\\b\\n'", "a\\\\b\\n"},  // no other unescaping
+      {"'\\\"'", "\\\""},
+      {"''", ""},
+      {"", ""}};
+  ErrorStream errors;
+  for (const auto& [quoted, text] : cases) EXPECT_EQ(omu_StringFromQString(quoted), text) << quoted;
+  EXPECT_EQ(errors.Text(), "");
+}
+
+TEST(StringFromQString, ComplainsAboutBadQuoting) {
+  ErrorStream errors;
+  EXPECT_EQ(omu_StringFromQString("'x\""), "'x\"");
+  EXPECT_EQ(errors.Text(), "omu_StringFromQString('x\")  QuotedString does not use ' or \". 'x\"\n");
+  ErrorStream shortOne;
+  EXPECT_EQ(omu_StringFromQString("'"), "'");
+  EXPECT_EQ(shortOne.Text(),
+            "QuotedString length < 2. '\nomu_StringFromQString(')  QuotedString does not use ' or \". '\n");
+}
+
+TEST(GetBracketKeyPos, FindsTheNearerQuotedBracket) {
+  const cow_String path("mdb.models['M-1'].parts[\"P\"]");
+  EXPECT_EQ(omu_GetBracketKeyPos(path, '[', 0), 10);
+  EXPECT_EQ(omu_GetBracketKeyPos(path, ']', 0), 16);
+  EXPECT_EQ(omu_GetBracketKeyPos(path, '[', 11), 23);
+  EXPECT_EQ(omu_GetBracketKeyPos(path, ']', 17), 27);
+  EXPECT_EQ(omu_GetBracketKeyPos("['a']", ']', 0), 4);
+  EXPECT_EQ(omu_GetBracketKeyPos("no keys", '[', 0), 7);
+  EXPECT_EQ(omu_GetBracketKeyPos("['a']", '(', 0), 5);
+  EXPECT_EQ(omu_GetBracketKeyPos("['a']", '[', 99), 5);
+}
