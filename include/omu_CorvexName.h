@@ -15,6 +15,7 @@ public:
   omu_CorvexName(const char* name, omu_CorvexNameEnum kind);
 
   const cow_String& Name() const noexcept { return m_Name; }
+  omu_CorvexNameEnum Kind() const noexcept { return m_Kind; }
   std::string_view LeadingPattern() const noexcept { return m_LeadingPattern; }
   std::string_view WideForbiddenPattern() const noexcept { return m_WidePattern; }
   std::string_view NarrowForbiddenPattern() const noexcept { return m_NarrowPattern; }
@@ -39,4 +40,5 @@ private:
   std::string_view m_WidePattern;
   std::string_view m_NarrowPattern;
   cow_String m_Name;
+  omu_CorvexNameEnum m_Kind = omu_GENERAL_NAME;
 };

@@ -20,6 +20,7 @@
 #include <cow_String.h>
 
 class omi_complex;
+class omu_InterfaceObj;
 class omu_Primitive;
 class omu_PrimArray;
 class omu_PrimEnumBase;
@@ -67,6 +68,8 @@ CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimNone& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimPath& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimType& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, const omu_PyObjectWrapper*& out);
+// Lends the interface object.
+CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, const omu_InterfaceObj*& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, const omu_ListPyObjectWrapper*& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_ListPyObjectWrapper& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_DictPyObjectWrapper<int>& out);

@@ -17,6 +17,7 @@
 class atr_String;
 class cls_xcList;
 class omi_complex;
+class omu_InterfaceObj;
 class omu_PrimArray;
 class omu_PrimEnumBase;
 class omu_PrimExpr;
@@ -74,6 +75,8 @@ public:
   // Takes ownership of value.
   virtual void Put(omu_Primitive* value);
   virtual void Put(omu_PyObjectWrapper* value);
+  // Takes ownership of the object handle.
+  virtual void Put(omu_InterfaceObj* value);
   virtual void Put(const omu_PrimDictionary<cow_String>& value);
   virtual void Put(const omu_PrimDictionary<int>& value);
   virtual void Put(const omu_PrimTuple& value);
@@ -94,6 +97,9 @@ public:
   // Each Get reads the element at the cursor into its output and moves the cursor on.
   // The wrapper is lent (null when refused).
   virtual const omu_PyObjectWrapper* Get(const omu_PyObjectWrapper*);
+  // An interface object of the script type typeName (any object for null); lent, null when
+  // refused.
+  virtual const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*);
   virtual void Get(omu_ListPyObjectWrapper& out);
   virtual void Get(omu_DictPyObjectWrapper<cow_String>& out);
   virtual void Get(omu_DictPyObjectWrapper<int>& out);
@@ -168,14 +174,10 @@ protected:
   template <class Result>
   Result* ConcatAs(omu_PrimSequence* other, const char* missingText, const char* source) const;
 
-private:
-  template <class Taker>
-  void Read(const char* expected, Taker&& accept);
-  void ReadTo(omu_Primitive& out, const char* expected, char code);
+  // The reading state, which argument lists extend with their keywords.
   bool Readable() const noexcept { return m_Cursor < m_Size && m_ErrorArg == 0; }
   void Advance() noexcept;
   void SetTypeError(int index, const cow_String& expected);
-  void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
 
   int m_Size = 0;
   int m_Cursor = 0;
@@ -186,7 +188,14 @@ private:
   cow_String m_TypeFound;
   cow_String m_TypeExpected;
   int m_NumGets = 0;
-  cow_List<omu_PrimHandle> m_PrimVector;
   cow_String m_NestedErrorStr;
+
+private:
+  template <class Taker>
+  void Read(const char* expected, Taker&& accept);
+  void ReadTo(omu_Primitive& out, const char* expected, char code);
+  void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
+
+  cow_List<omu_PrimHandle> m_PrimVector;
   cls_Uid m_TupleUid;
 };

@@ -105,6 +105,7 @@ omu_CorvexName::omu_CorvexName(const cow_String& name, omu_CorvexNameEnum kind) 
   const int error = Check(name.View(), kind);
   if (error >= 0) NEX_THROW(omu_CorNameErrorException(error), "omu/impl/omu_CorvexName");
   m_Name = name;
+  m_Kind = kind;
 }
 
 omu_CorvexName::omu_CorvexName(const char* name, omu_CorvexNameEnum kind)

@@ -3,6 +3,7 @@
 #include <omu_ListPyObjectWrapper.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimComplex.h>
+#include <omu_InterfaceObj.h>
 #include <omu_PrimConvert.h>
 #include <omu_PrimEnumBase.h>
 #include <omu_PrimList.h>
@@ -257,6 +258,13 @@ bool omu_PrimConvert(const omu_Primitive* value, omu_PrimList& out) {
 bool omu_PrimConvert(const omu_Primitive* value, omu_PrimNone& out) { return ConvertKind(value, out, 'n'); }
 bool omu_PrimConvert(const omu_Primitive* value, omu_PrimPath& out) { return ConvertKind(value, out, 'p'); }
 bool omu_PrimConvert(const omu_Primitive* value, omu_PrimType& out) { return ConvertKind(value, out, 't'); }
+
+bool omu_PrimConvert(const omu_Primitive* value, const omu_InterfaceObj*& out) {
+  const auto* object = dynamic_cast<const omu_InterfaceObj*>(value);
+  if (!object) return false;
+  out = object;
+  return true;
+}
 
 bool omu_PrimConvert(const omu_Primitive* value, const omu_PyObjectWrapper*& out) {
   const auto* wrapper = dynamic_cast<const omu_PyObjectWrapper*>(value);

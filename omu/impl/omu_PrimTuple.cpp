@@ -9,6 +9,7 @@
 #include <omu_ArgTypeErrorException.h>
 #include <omu_DictPyObjectWrapper.h>
 #include <omu_IndexErrorException.h>
+#include <omu_InterfaceObj.h>
 #include <omu_ListPyObjectWrapper.h>
 #include <omu_NameString.h>
 #include <omu_PrimBoolean.h>
@@ -22,6 +23,7 @@
 #include <omu_PrimString.h>
 #include <omu_PrimType.h>
 #include <omu_PyObjectWrapper.h>
+#include <omu_ReadTypeName.h>
 #include <omu_TextRepr.h>
 #include <utl_FilePath.h>
 
@@ -219,6 +221,7 @@ void omu_PrimTuple::Put(const omu_PrimNone& value) { Store(omu_PrimMake(value));
 void omu_PrimTuple::Put(const omu_PrimEnumBase& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(omu_Primitive* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(omu_PyObjectWrapper* value) { Store(omu_PrimOwner(value)); }
+void omu_PrimTuple::Put(omu_InterfaceObj* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(const omu_PrimDictionary<cow_String>& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimDictionary<int>& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimTuple& value) { Store(omu_PrimMake(value)); }
@@ -302,35 +305,44 @@ const omu_PyObjectWrapper* omu_PrimTuple::Get(const omu_PyObjectWrapper*) {
   return wrapper;
 }
 
+const omu_InterfaceObj* omu_PrimTuple::Get(const char* typeName, const omu_InterfaceObj*) {
+  const omu_InterfaceObj* object = nullptr;
+  Read(typeName ? typeName : omu_PythonType::Generic, [&](const omu_Primitive& p) {
+    return omu_PrimConvert(&p, object) && (!typeName || object->IsA(typeName));
+  });
+  return object;
+}
+
 // The reads whose acceptance is omu_PrimConvert's, under their expected names.
-#define OMU_TUPLE_CONVERTING_GET(Type, expected)                                          \
-  void omu_PrimTuple::Get(Type& out) {                                                    \
-    Read(expected, [&out](const omu_Primitive& p) { return omu_PrimConvert(&p, out); }); \
+#define OMU_TUPLE_CONVERTING_GET(Type)                                                   \
+  void omu_PrimTuple::Get(Type& out) {                                                   \
+    Read(omu_ReadTypeName(omu_ReadType<Type>()),                                         \
+         [&out](const omu_Primitive& p) { return omu_PrimConvert(&p, out); });           \
   }
-OMU_TUPLE_CONVERTING_GET(omu_ListPyObjectWrapper, "list")
-OMU_TUPLE_CONVERTING_GET(omu_DictPyObjectWrapper<cow_String>, "dictionary with string keys")
-OMU_TUPLE_CONVERTING_GET(omu_DictPyObjectWrapper<int>, "dictionary with integer keys")
-OMU_TUPLE_CONVERTING_GET(StringFloatMap, "dictionary with string keys")
-OMU_TUPLE_CONVERTING_GET(cow_2DArray<cow_String>, "sequence of sequences of string")
-OMU_TUPLE_CONVERTING_GET(cow_2DArray<double>, "sequence of sequences of float")
-OMU_TUPLE_CONVERTING_GET(cow_List<double>, "sequence of float")
-OMU_TUPLE_CONVERTING_GET(cow_List<atr_String>, "sequence of string")
-OMU_TUPLE_CONVERTING_GET(cow_List<cow_String>, "sequence of string")
-OMU_TUPLE_CONVERTING_GET(cow_List<float>, "sequence of float")
-OMU_TUPLE_CONVERTING_GET(cow_List<bool>, "sequence of Boolean")
-OMU_TUPLE_CONVERTING_GET(cow_List<int>, "sequence of int")
-OMU_TUPLE_CONVERTING_GET(omu_PrimType, "type")
-OMU_TUPLE_CONVERTING_GET(omu_PrimNone, "None")
-OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<cow_String>, "dictionary with string keys")
-OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<int>, "dictionary with integer keys")
-OMU_TUPLE_CONVERTING_GET(omu_PrimTuple, "PrimSequence")
-OMU_TUPLE_CONVERTING_GET(omu_PrimPath, "path")
-OMU_TUPLE_CONVERTING_GET(utl_FilePath, "string")
-OMU_TUPLE_CONVERTING_GET(omi_complex, "complex")
-OMU_TUPLE_CONVERTING_GET(atr_String, "string")
-OMU_TUPLE_CONVERTING_GET(cow_String, "string")
-OMU_TUPLE_CONVERTING_GET(double, "float")
-OMU_TUPLE_CONVERTING_GET(unsigned int, "int")
+OMU_TUPLE_CONVERTING_GET(omu_ListPyObjectWrapper)
+OMU_TUPLE_CONVERTING_GET(omu_DictPyObjectWrapper<cow_String>)
+OMU_TUPLE_CONVERTING_GET(omu_DictPyObjectWrapper<int>)
+OMU_TUPLE_CONVERTING_GET(StringFloatMap)
+OMU_TUPLE_CONVERTING_GET(cow_2DArray<cow_String>)
+OMU_TUPLE_CONVERTING_GET(cow_2DArray<double>)
+OMU_TUPLE_CONVERTING_GET(cow_List<double>)
+OMU_TUPLE_CONVERTING_GET(cow_List<atr_String>)
+OMU_TUPLE_CONVERTING_GET(cow_List<cow_String>)
+OMU_TUPLE_CONVERTING_GET(cow_List<float>)
+OMU_TUPLE_CONVERTING_GET(cow_List<bool>)
+OMU_TUPLE_CONVERTING_GET(cow_List<int>)
+OMU_TUPLE_CONVERTING_GET(omu_PrimType)
+OMU_TUPLE_CONVERTING_GET(omu_PrimNone)
+OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<cow_String>)
+OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<int>)
+OMU_TUPLE_CONVERTING_GET(omu_PrimTuple)
+OMU_TUPLE_CONVERTING_GET(omu_PrimPath)
+OMU_TUPLE_CONVERTING_GET(utl_FilePath)
+OMU_TUPLE_CONVERTING_GET(omi_complex)
+OMU_TUPLE_CONVERTING_GET(atr_String)
+OMU_TUPLE_CONVERTING_GET(cow_String)
+OMU_TUPLE_CONVERTING_GET(double)
+OMU_TUPLE_CONVERTING_GET(unsigned int)
 #undef OMU_TUPLE_CONVERTING_GET
 
 void omu_PrimTuple::Get(omu_PrimEnumBase& out) {

@@ -1,0 +1,101 @@
+#pragma once
+// The argument list of one script call: the positional values as a tuple and the keyword
+// values as a dictionary. Command code reads it with Begin, one Get per parameter in
+// declaration order (each naming its keyword: positions are used first, keywords once they
+// run out), and End with the command's name, which raises the one error that best describes
+// what was wrong, in this order: a keyword no Get asked for, a positional value of the wrong
+// type, a keyword value of the wrong type, too few arguments, too many.
+#include <omu_CorvexName.h>
+#include <omu_PrimConvert.h>
+#include <omu_PrimDictionary.h>
+#include <omu_PrimEnumBase.h>
+#include <omu_PrimTuple.h>
+#include <omu_ReadTypeName.h>
+
+class CVX_EXPORT omu_Arguments : public omu_PrimLeaf<omu_Arguments, omu_PrimTuple> {
+public:
+  explicit omu_Arguments(int size = 0);
+  omu_Arguments(const omu_Arguments&) = default;
+  omu_Arguments& operator=(const omu_Arguments&) = default;
+
+  using omu_PrimTuple::Get;
+  using omu_PrimTuple::Put;
+
+  void Begin() override;
+  // Reads the parameter by position while positions last, else by its keyword. A missing
+  // required keyword, or a keyword value that does not convert to T, is kept for End; a
+  // missing optional keyword is no error and leaves out untouched.
+  template <class T>
+  void Get(T& out, const cow_String& keyword) {
+    if (m_ErrorArg == 0) {
+      if (m_Cursor < m_Size) return omu_PrimTuple::Get(out);
+      if (const omu_Primitive* value = Claim(keyword)) {
+        if (!omu_PrimConvert(value, out)) KeywordTypeError(keyword, ExpectedName(out), *value);
+      }
+    }
+    CountKeywordRead(keyword);
+  }
+  // A name validated by its kind (out's kind): an illegal name raises
+  // omu_CorNameErrorException at once.
+  void Get(omu_CorvexName& out, const cow_String& keyword);
+  // An interface object of the script type typeName, by position or keyword; lent.
+  const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*,
+                              const cow_String& keyword);
+
+  // Stores value under keyword, for argument lists built to be passed on.
+  template <class T>
+  void Put(const T& value, const cow_String& keyword) {
+    m_Keywords.Put(value, keyword);
+    m_StoredKeywords.Append(keyword);
+  }
+
+  // Right after a Get of the same parameter that failed, and while deprecated arguments are
+  // allowed: reads the parameter again by the old keyword and gives the deprecation notice
+  // naming `other` as what replaces it.
+  template <class T>
+  void DeprecatedGet(T& out, const cow_String& keyword, cow_String other) {
+    if (!DeprecatedAlternative(other)) return;
+    Get(out, keyword);
+    if (!ErrorOnPrevious()) Deprecated(keyword, other);
+  }
+  bool DeprecatedCheck(cow_String other) const;
+  bool DeprecatedAlternative(cow_String other);
+
+  // Undoes the last Get when it failed, so that the parameter can be read again as another
+  // type; false (and nothing changed) otherwise.
+  bool Alternative();
+  // Whether End would raise.
+  bool Error() const;
+  // Whether the last Get is the one that failed.
+  bool ErrorOnPrevious() const;
+  void End(cow_String context) override;
+
+  const omu_PrimDictionary<cow_String>& Keywords() const noexcept { return m_Keywords; }
+  const cow_List<cow_String>& StoredKeywords() const noexcept { return m_StoredKeywords; }
+  // The call's text: positional values, then keyword=value pairs, in parentheses.
+  cow_String AsString(int level) const override;
+  cow_String AsRepr() const override { return AsString(0); }
+
+private:
+  template <class T>
+    requires(!std::is_base_of_v<omu_PrimEnumBase, T>)
+  static cow_String ExpectedName(const T&) {
+    return omu_ReadTypeName(omu_ReadType<T>());
+  }
+  static cow_String ExpectedName(const omu_PrimEnumBase& out) { return out.TypeString(); }
+  // The keyword's value when the call gives it and no Get has taken it; else records the
+  // missing keyword and answers null.
+  const omu_Primitive* Claim(const cow_String& keyword);
+  void KeywordTypeError(const cow_String& keyword, const cow_String& expected,
+                        const omu_Primitive& found);
+  void CountKeywordRead(const cow_String& keyword);
+  void Deprecated(const cow_String& keyword, const cow_String& other) const;
+
+  omu_PrimDictionary<cow_String> m_Keywords;
+  cow_List<cow_String> m_Unclaimed;
+  cow_List<cow_String> m_StoredKeywords;
+  int m_KeywordsTaken = 0;
+  int m_KeywordErrorAt = 0;
+  cow_String m_KeywordInError;
+  int m_OptionalKeywordMissingAt = 0;
+};

@@ -1,0 +1,161 @@
+#include <nex_Exception.h>
+#include <omu_ArgNumberErrorException.h>
+#include <omu_ArgTypeErrorException.h>
+#include <omu_Arguments.h>
+#include <omu_Deprecation.h>
+#include <omu_InterfaceObj.h>
+#include <omu_KeywordErrorException.h>
+#include <omu_KeywordTypeErrorException.h>
+#include <omu_NameString.h>
+#include <utl_Catenator.h>
+
+namespace {
+constexpr const char* kSource = "omu/impl/omu_Arguments";
+constexpr const char* kUndetermined = "Undetermined";
+}  // namespace
+
+omu_Arguments::omu_Arguments(int size) : omu_PrimLeaf(size, '(') {}
+
+void omu_Arguments::Begin() {
+  m_Unclaimed = m_Keywords.GetEntries().Keys();
+  m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
+  m_KeywordInError = cow_String();
+  omu_PrimTuple::Begin();
+}
+
+const omu_Primitive* omu_Arguments::Claim(const cow_String& keyword) {
+  if (m_Unclaimed.Contains(keyword)) return m_Keywords.Find(keyword);
+  const int at = m_NumGets + 1;
+  m_KeywordInError = keyword;
+  if (m_IsOptional) {
+    m_OptionalKeywordMissingAt = at;  // a missing optional keyword is no error
+  } else {
+    m_TypeExpected = m_TypeFound = kUndetermined;
+    m_ErrorArg = m_KeywordErrorAt = at;
+  }
+  return nullptr;
+}
+
+void omu_Arguments::KeywordTypeError(const cow_String& keyword, const cow_String& expected,
+                                     const omu_Primitive& found) {
+  m_ErrorArg = m_KeywordErrorAt = m_NumGets + 1;
+  m_TypeExpected = expected;
+  m_TypeFound = found.IsType('c') ? found.AsString(0) : found.TypeString();
+  m_KeywordInError = keyword;
+}
+
+void omu_Arguments::CountKeywordRead(const cow_String& keyword) {
+  ++m_NumGets;
+  ++m_ArgCount;
+  if (!m_IsOptional) ++m_ReqCount;
+  const int at = m_Unclaimed.Find(keyword);
+  if (at < 0) return;
+  m_Unclaimed.Remove(at);
+  if (!m_IsOptional) ++m_KeywordsTaken;
+}
+
+void omu_Arguments::Get(omu_CorvexName& out, const cow_String& keyword) {
+  const bool given = m_ErrorArg == 0 && (m_Cursor < m_Size || m_Unclaimed.Contains(keyword));
+  cow_String text;
+  Get(text, keyword);
+  if (given && !ErrorOnPrevious()) out = omu_CorvexName(text, out.Kind());
+}
+
+const omu_InterfaceObj* omu_Arguments::Get(const char* typeName, const omu_InterfaceObj* none,
+                                           const cow_String& keyword) {
+  if (m_ErrorArg == 0 && m_Cursor < m_Size) return omu_PrimTuple::Get(typeName, none);
+  const omu_InterfaceObj* object = nullptr;
+  if (m_ErrorArg == 0) {
+    if (const omu_Primitive* value = Claim(keyword)) {
+      if (!omu_PrimConvert(value, object) || (typeName && !object->IsA(typeName))) {
+        object = nullptr;
+        KeywordTypeError(keyword, typeName ? typeName : omu_PythonType::Generic, *value);
+      }
+    }
+  }
+  CountKeywordRead(keyword);
+  return object;
+}
+
+bool omu_Arguments::DeprecatedCheck(cow_String) const { return omu_Deprecation::IsAllowed(); }
+
+bool omu_Arguments::DeprecatedAlternative(cow_String other) {
+  return DeprecatedCheck(other) && Alternative();
+}
+
+void omu_Arguments::Deprecated(const cow_String& keyword, const cow_String& other) const {
+  omu_Deprecation::Notice(keyword, other);
+}
+
+bool omu_Arguments::Alternative() {
+  const bool lastFailed = (m_KeywordErrorAt != 0 && m_KeywordErrorAt == m_NumGets) ||
+                          (m_OptionalKeywordMissingAt != 0 && m_OptionalKeywordMissingAt == m_NumGets);
+  if (!lastFailed) {
+    if (m_KeywordErrorAt != 0 || m_NumGets > m_Size) return false;
+    return omu_PrimTuple::Alternative();
+  }
+  if (!m_IsOptional) --m_ReqCount;
+  m_OptionalKeywordMissingAt = m_KeywordErrorAt = m_ErrorArg = 0;
+  m_TypeFound = m_TypeExpected = cow_String();
+  if (m_Keywords.Find(m_KeywordInError)) {
+    m_Unclaimed.Append(m_KeywordInError);
+    if (!m_IsOptional) --m_KeywordsTaken;
+  }
+  m_KeywordInError = cow_String();
+  --m_NumGets;
+  --m_ArgCount;
+  return true;
+}
+
+bool omu_Arguments::ErrorOnPrevious() const {
+  return (m_KeywordErrorAt != 0 && m_KeywordErrorAt == m_NumGets) ||
+         (m_OptionalKeywordMissingAt != 0 && m_OptionalKeywordMissingAt == m_NumGets) ||
+         (m_ErrorArg != 0 && m_ErrorArg == m_Cursor);
+}
+
+bool omu_Arguments::Error() const {
+  const int given = m_Keywords.Length();
+  return !m_Unclaimed.IsEmpty() || m_ErrorArg != 0 || m_Size + m_KeywordsTaken < m_ReqCount ||
+         m_Size + given > m_ArgCount;
+}
+
+void omu_Arguments::End(cow_String context) {
+  m_OptionalKeywordMissingAt = 0;
+  if (context.IsEmpty()) context = m_NestedErrorStr;
+  if (!m_Unclaimed.IsEmpty()) {
+    NEX_THROW(omu_KeywordErrorException(m_Unclaimed[0], context), kSource);
+  }
+  if (m_ErrorArg != 0 && m_KeywordInError.IsEmpty()) {
+    NEX_THROW(omu_ArgTypeErrorException(m_ErrorArg, m_TypeExpected, m_TypeFound, context), kSource);
+  }
+  if (m_ErrorArg != 0 && m_TypeExpected != kUndetermined && m_TypeFound != kUndetermined) {
+    NEX_THROW(omu_KeywordTypeErrorException(m_KeywordInError, m_TypeExpected, m_TypeFound, context),
+              kSource);
+  }
+  if (m_Size + m_KeywordsTaken < m_ReqCount) {
+    NEX_THROW(omu_ArgNumberErrorException(m_ReqCount, m_Size + m_KeywordsTaken, context), kSource);
+  }
+  const int given = m_Keywords.Length();
+  if (m_Size + given > m_ArgCount) {
+    NEX_THROW(omu_ArgNumberErrorException(m_ArgCount, m_Size + given, context), kSource);
+  }
+}
+
+cow_String omu_Arguments::AsString(int level) const {
+  if (m_Keywords.Length() == 0) return omu_PrimTuple::AsString(level);
+  utl_Catenator text;
+  text << '(';
+  const char* separator = "";
+  for (int i = 0; i < Size(); ++i) {
+    if (const omu_Primitive* value = Index(i)) {
+      text << separator << value->AsString(0);
+      separator = ", ";
+    }
+  }
+  for (const auto& [keyword, value] : m_Keywords.GetEntries()) {
+    text << separator << keyword << '=' << value.ConstGet()->AsString(0);
+    separator = ", ";
+  }
+  text << ')';
+  return text.String();
+}
