@@ -135,6 +135,10 @@ public:
   // A wrapper borrowing this object, typed by DynTypeId().
   virtual omu_PrimWrapper* ConstGetWrapper() const;
 
+  // The members by name with their values, {'name': value, ...}, within the text limits of
+  // omu_TextRepr: "interface object" in simple style, the quoted type name past the
+  // recursion limit; private members ("_...") only when asked for.
+  cow_String AsString(int level) const override;
   // "<Part object named 'Part-1'>", or "<Part object>" without a name member.
   cow_String DefaultRepr() const;
   // FullRepr(), or the default text with a warning on the error stream when it is empty.
@@ -152,6 +156,7 @@ private:
   template <class Row>
   void CollectNames(const Row* TypeDesc::*table, cow_List<cow_String>& names) const;
   void ReportStale(const char* what) const;
+  cow_String MemberText(int level) const;
 
   std::array<TypeDesc, MaxLevels> m_Types;
   int m_TypeCount = 0;

@@ -11,6 +11,8 @@
 
 #include <climits>
 
+class omu_InterfaceObj;
+
 class CVX_EXPORT omu_TextRepr {
 public:
   // The settings, created on first use and destroyed by omu_finalize.
@@ -37,6 +39,8 @@ public:
   // What an object of the exposed type name prints as at the recursion limit: the format's
   // %s replaced by the name, in single quotes ('Part object' by default).
   cow_String MaxRecursionText(const cow_String& typeName) const;
+  // For an object, MaxRecursionText of its exposed type name; for null, the format itself.
+  cow_String GetMaxRecursionString(const omu_InterfaceObj* object) const;
   bool ShowPrivateMembers() const noexcept { return m_ShowPrivate; }
   bool SortMembers() const noexcept { return m_SortMembers; }
 

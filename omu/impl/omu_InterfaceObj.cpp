@@ -3,6 +3,9 @@
 #include <omu_AttributeErrorException.h>
 #include <omu_Deprecation.h>
 #include <omu_InterfaceObj.h>
+#include <omu_NameString.h>
+#include <omu_TextRepr.h>
+#include <utl_Catenator.h>
 #include <omu_PrimVisitor.h>
 #include <omu_PrimWrapper.h>
 #include <omu_TypeRegistryCache.h>
@@ -262,6 +265,37 @@ int omu_InterfaceObj::Compare(const omu_InterfaceObj* other) const {
 
 omu_PrimWrapper* omu_InterfaceObj::ConstGetWrapper() const {
   return new omu_PrimWrapper(this, DynTypeId());
+}
+
+cow_String omu_InterfaceObj::AsString(int level) const {
+  return omu_TextRepr::Instance().BoundedText(level, "interface object", ExposedTypeName(),
+                                              [this, level] { return MemberText(level); });
+}
+
+cow_String omu_InterfaceObj::MemberText(int level) const {
+  const omu_TextRepr& repr = omu_TextRepr::Instance();
+  std::vector<cow_String> names;
+  for (int i = m_TypeCount - 1; i >= 0; --i) {
+    for (const memberTable* row = m_Types[static_cast<std::size_t>(i)].members; row->name; ++row) {
+      const bool hidden = row->name[0] == '_' && !repr.ShowPrivateMembers();
+      if (!hidden && std::find(names.begin(), names.end(), row->name) == names.end()) {
+        names.emplace_back(row->name);
+      }
+    }
+  }
+  if (repr.SortMembers()) std::sort(names.begin(), names.end());
+  utl_Catenator text;
+  text << '{';
+  const char* separator = "";
+  for (const cow_String& name : names) {
+    bool deprecated = false;
+    const std::unique_ptr<omu_Primitive> value(GetMember(name.CStr(), deprecated));
+    text << separator << omu_NameString(name) << ": "
+         << (value ? value->AsString(level + 1) : cow_String("'unknown'"));
+    separator = ", ";
+  }
+  text << '}';
+  return text.String();
 }
 
 cow_String omu_InterfaceObj::DefaultRepr() const {

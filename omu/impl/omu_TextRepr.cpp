@@ -1,4 +1,5 @@
 #include <omi_Singleton.h>
+#include <omu_InterfaceObj.h>
 #include <omu_TextRepr.h>
 
 omu_TextRepr& omu_TextRepr::Instance() { return omi_Singleton<omu_TextRepr>::Instance(); }
@@ -6,6 +7,10 @@ omu_TextRepr& omu_TextRepr::Instance() { return omi_Singleton<omu_TextRepr>::Ins
 void omu_TextRepr::Release() noexcept { omi_Singleton<omu_TextRepr>::Destroy(); }
 
 bool omu_TextRepr::Exists() noexcept { return omi_Singleton<omu_TextRepr>::Exists(); }
+
+cow_String omu_TextRepr::GetMaxRecursionString(const omu_InterfaceObj* object) const {
+  return object ? MaxRecursionText(object->ExposedTypeName()) : m_MaxRecursionFormat;
+}
 
 cow_String omu_TextRepr::MaxRecursionText(const cow_String& typeName) const {
   // The format is the host's text: only %s (the first one) and %% are expanded, so that a

@@ -6,6 +6,7 @@
 #include <omu_AttributeErrorException.h>
 #include <omu_Deprecation.h>
 #include <omu_PrimWrapper.h>
+#include <omu_TextRepr.h>
 #include <omu_TypeRegistryCache.h>
 
 #include <gtest/gtest.h>
@@ -182,4 +183,22 @@ TEST(InterfaceObj, CopiesAreHandlesOnTheSameRepositoryObject) {
   EXPECT_EQ(Text(static_cast<TestPart&>(*copy).GetMember("name", deprecated)), "RenamedType");
   const std::unique_ptr<omu_PrimWrapper> wrapper(part.ConstGetWrapper());
   EXPECT_EQ(wrapper->Object(), &part);
+}
+
+TEST(InterfaceObj, PrintsItsMembersWithinTheTextLimits) {
+  TestPart part(NewPart());
+  omu_TextRepr& repr = omu_TextRepr::Instance();
+  EXPECT_EQ(part.AsString(0), "{'kind': FeatureType, 'name': Part-1Type}");
+  EXPECT_EQ(part.AsString(1), "' object'");  // nested: the exposed type name, none yet
+  omu_TypeRegistryCache::Instance().Expose("Part");
+  EXPECT_EQ(part.AsString(1), "'Part object'");
+  repr.SetMaxRecursion(0);
+  EXPECT_EQ(part.AsString(0), "'Part object'");
+  repr.SetMaxRecursion(1);
+  repr.SetSimpleStyle(1);
+  EXPECT_EQ(part.AsString(0), "interface object");
+  repr.SetSimpleStyle(0);
+  EXPECT_EQ(repr.GetMaxRecursionString(&part), "'Part object'");
+  EXPECT_EQ(repr.GetMaxRecursionString(nullptr), "%s object");
+  omu_TypeRegistryCache::Release();
 }

@@ -26,7 +26,6 @@ public:
         {nullptr, nullptr, nullptr}};
     DescribeType("Feature", methods, members);
   }
-  cow_String AsString(int) const override { return PathString(); }
   omu_Primitive* Copy() const override { return new TestFeature(*this); }
   omu_Primitive* Regenerate(omu_Arguments&) {
     ++m_Data->regenerations;
