@@ -10,6 +10,7 @@
 #include <omu_DictPyObjectWrapper.h>
 #include <omu_IndexErrorException.h>
 #include <omu_ListPyObjectWrapper.h>
+#include <omu_PrimArray.h>
 #include <omu_NameString.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimConvert.h>
@@ -221,6 +222,7 @@ void omu_PrimTuple::Put(omu_Primitive* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(omu_PyObjectWrapper* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(const omu_PrimDictionary<cow_String>& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimDictionary<int>& value) { Store(omu_PrimMake(value)); }
+void omu_PrimTuple::Put(const omu_PrimArray& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimTuple& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimPath& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimExpr& value) { Store(omu_PrimMake(value)); }
@@ -321,6 +323,7 @@ OMU_TUPLE_CONVERTING_GET(cow_List<bool>, "sequence of Boolean")
 OMU_TUPLE_CONVERTING_GET(cow_List<int>, "sequence of int")
 OMU_TUPLE_CONVERTING_GET(omu_PrimType, "type")
 OMU_TUPLE_CONVERTING_GET(omu_PrimNone, "None")
+OMU_TUPLE_CONVERTING_GET(omu_PrimArray, "omu_PrimArray")
 OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<cow_String>, "dictionary with string keys")
 OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<int>, "dictionary with integer keys")
 OMU_TUPLE_CONVERTING_GET(omu_PrimTuple, "PrimSequence")
