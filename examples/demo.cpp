@@ -11,6 +11,7 @@ int main() {
   UTI_CaeUtils_initialize(count);
   std::cout << "CaeUtils started (" << count << " components)\n";
   DemoFoundation();
+  DemoValues();
   UTI_CaeUtils_finalize(count);
   std::cout << "CaeUtils stopped (" << count << " components left)\n";
 }
