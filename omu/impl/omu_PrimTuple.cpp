@@ -172,7 +172,9 @@ cow_String omu_PrimTuple::AsString(int level) const {
     text.append(", ");
     ++written;
   }
-  text.resize(text.size() - (written == 0 ? 0 : written == 1 ? 1 : 2));  // (x,) but (x, y)
+  // (x,) keeps its comma, (x, y) loses the last separator whole.
+  if (written > 1) text.pop_back();
+  if (written > 0) text.pop_back();
   text.push_back(')');
   return cow_String(std::string_view(text));
 }
