@@ -163,7 +163,9 @@ void omu_PrimTuple::AppendElement(std::string& text, const omu_Primitive& elemen
 
 cow_String omu_PrimTuple::AsString(int level) const {
   const int limit = omu_TextRepr::Instance().GetMaxElementsInSequence();
-  std::string text("(");
+  std::string text;
+  text.reserve(static_cast<std::size_t>(m_Size) * 12 + 2);  // numbers take about that much
+  text.push_back('(');
   int written = 0;
   for (int i = 0; i < m_Size && i < limit; ++i) {
     const omu_Primitive* element = m_PrimVector[i].ConstGet();
