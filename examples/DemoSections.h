@@ -5,3 +5,5 @@ void DemoFoundation();
 void DemoModel();
 // A small model framed by the camera, projected and drawn as a picture.
 void DemoGeometry();
+// Values crossing the boundary: nested sequences, dictionaries, arrays, a mock call.
+void DemoValues();

@@ -11,6 +11,7 @@ int main() {
   UTI_CaeUtils_initialize(count);
   std::cout << "CaeUtils started (" << count << " components)\n";
   DemoFoundation();
+  DemoValues();
   DemoModel();
   DemoGeometry();
   UTI_CaeUtils_finalize(count);

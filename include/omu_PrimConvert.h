@@ -59,6 +59,7 @@ CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, cow_List<atr_String>
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, cow_2DArray<double>& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, cow_2DArray<cow_String>& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, cow_Map<cow_String, float>& out);
+CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimArray& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimEnumBase& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimDictionary<cow_String>& out);
 CVX_EXPORT bool omu_PrimConvert(const omu_Primitive* value, omu_PrimDictionary<int>& out);

@@ -79,6 +79,7 @@ public:
   virtual void Put(omu_InterfaceObj* value);
   virtual void Put(const omu_PrimDictionary<cow_String>& value);
   virtual void Put(const omu_PrimDictionary<int>& value);
+  virtual void Put(const omu_PrimArray& value);
   virtual void Put(const omu_PrimTuple& value);
   virtual void Put(const omu_PrimPath& value);
   virtual void Put(const omu_PrimExpr& value);
@@ -114,6 +115,7 @@ public:
   virtual void Get(cow_List<int>& out);
   virtual void Get(omu_PrimType& out);
   virtual void Get(omu_PrimNone& out);
+  virtual void Get(omu_PrimArray& out);
   // The element's name must be one that out accepts (out.SetValue).
   virtual void Get(omu_PrimEnumBase& out);
   virtual void Get(omu_PrimDictionary<cow_String>& out);

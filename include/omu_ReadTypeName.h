@@ -13,6 +13,7 @@
 class omi_complex;
 class omu_CorvexName;
 class omu_ListPyObjectWrapper;
+class omu_PrimArray;
 class omu_PrimNone;
 class omu_PrimPath;
 class omu_PrimTuple;
@@ -54,6 +55,7 @@ constexpr const char* omu_ReadTypeName(omu_ReadType<cow_List<bool>>) { return "s
 constexpr const char* omu_ReadTypeName(omu_ReadType<cow_List<int>>) { return "sequence of int"; }
 constexpr const char* omu_ReadTypeName(omu_ReadType<omu_PrimType>) { return "type"; }
 constexpr const char* omu_ReadTypeName(omu_ReadType<omu_PrimNone>) { return "None"; }
+constexpr const char* omu_ReadTypeName(omu_ReadType<omu_PrimArray>) { return "omu_PrimArray"; }
 constexpr const char* omu_ReadTypeName(omu_ReadType<omu_PrimDictionary<cow_String>>) {
   return "dictionary with string keys";
 }

@@ -14,6 +14,7 @@
 #include <omu_KeywordTypeErrorException.h>
 #include <omu_NameErrorException.h>
 #include <omu_OverflowErrorException.h>
+#include <omu_PrimArray.h>
 #include <omu_PrimBool.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimComplex.h>
@@ -86,6 +87,7 @@ void Start() {
                       Register<omu_PrimSequence>(2),
                       Register<omu_PrimTuple>(2),
                       Register<omu_PrimList>(2),
+                      Register<omu_PrimArray>(2),
                       Register<omu_PrimDictionary<int>>(2),
                       Register<omu_PrimWrapper>(2),
                       Register<omu_PrimException>(2),

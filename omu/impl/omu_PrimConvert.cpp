@@ -1,6 +1,7 @@
 #include <omi_complex.h>
 #include <omu_DictPyObjectWrapper.h>
 #include <omu_ListPyObjectWrapper.h>
+#include <omu_PrimArray.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimComplex.h>
 #include <omu_InterfaceObj.h>
@@ -255,6 +256,7 @@ bool omu_PrimConvert(const omu_Primitive* value, omu_PrimList& out) {
   return true;
 }
 
+bool omu_PrimConvert(const omu_Primitive* value, omu_PrimArray& out) { return ConvertKind(value, out, 'o'); }
 bool omu_PrimConvert(const omu_Primitive* value, omu_PrimNone& out) { return ConvertKind(value, out, 'n'); }
 bool omu_PrimConvert(const omu_Primitive* value, omu_PrimPath& out) { return ConvertKind(value, out, 'p'); }
 bool omu_PrimConvert(const omu_Primitive* value, omu_PrimType& out) { return ConvertKind(value, out, 't'); }

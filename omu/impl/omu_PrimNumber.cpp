@@ -29,6 +29,73 @@ int FormatWhole(double value, char* out) noexcept {
   }
   return static_cast<int>(end - out);
 }
+
+// "%.15lg" from the shortest digits that read back as value. The shortest digits S lie
+// closer to value than any other decimal of at most 17 digits, so no 15-digit rounding
+// boundary can lie between value and S unless S is that boundary itself: rounding S to 15
+// digits is then rounding value. A tie in S (its digits past the 15th are exactly 5) is
+// left to the general conversion. Answers 0 when it cannot decide. Normal numbers only:
+// a subnormal carries fewer than 15 digits, and "%.15lg" shows digits of its exact value
+// that the shortest form does not have.
+int FormatFromShortest(double value, char* out) noexcept {
+  char scientific[32];
+  const auto result = std::to_chars(scientific, scientific + sizeof scientific, value,
+                                    std::chars_format::scientific);
+  const char* p = scientific;
+  const bool negative = *p == '-';
+  if (negative) ++p;
+  char digits[20];
+  int count = 0;
+  for (; *p != 'e'; ++p) {
+    if (*p != '.') digits[count++] = *p;
+  }
+  int exponent = 0;
+  std::from_chars(p + (p[1] == '+' ? 2 : 1), result.ptr, exponent);
+  if (count > 15) {
+    const bool tie = digits[15] == '5' && (count == 16 || (count == 17 && digits[16] == '0'));
+    if (tie) return 0;
+    const bool up = digits[15] >= '5';
+    count = 15;
+    for (int i = 14; up && i >= 0; --i) {
+      if (digits[i] != '9') {
+        ++digits[i];
+        break;
+      }
+      digits[i] = '0';
+      if (i == 0) {  // 999... rounds to 1000...
+        digits[0] = '1';
+        ++exponent;
+      }
+    }
+  }
+  while (count > 1 && digits[count - 1] == '0') --count;
+  char* o = out;
+  if (negative) *o++ = '-';
+  if (exponent < -4 || exponent >= 15) {
+    *o++ = digits[0];
+    if (count > 1) {
+      *o++ = '.';
+      for (int i = 1; i < count; ++i) *o++ = digits[i];
+    }
+    *o++ = 'e';
+    *o++ = exponent < 0 ? '-' : '+';
+    const int magnitude = exponent < 0 ? -exponent : exponent;
+    if (magnitude < 10) *o++ = '0';
+    o = std::to_chars(o, o + 4, magnitude).ptr;
+  } else if (exponent < 0) {
+    *o++ = '0';
+    *o++ = '.';
+    for (int i = -1; i > exponent; --i) *o++ = '0';
+    for (int i = 0; i < count; ++i) *o++ = digits[i];
+  } else {
+    for (int i = 0; i <= exponent; ++i) *o++ = i < count ? digits[i] : '0';
+    if (count > exponent + 1) {
+      *o++ = '.';
+      for (int i = exponent + 1; i < count; ++i) *o++ = digits[i];
+    }
+  }
+  return static_cast<int>(o - out);
+}
 }  // namespace
 
 const omu_PrimEnumRow* omu_PrimEnumTable<omu_PrimNumber::DataTypeEnm, 1>::Rows() noexcept {
@@ -68,7 +135,7 @@ int omu_PrimNumber::FormatDouble(double value, char* out) noexcept {
   int length = 0;
   if (value > -1e15 && value < 1e15 && value == static_cast<double>(static_cast<long long>(value))) {
     length = FormatWhole(value, out);
-  } else {
+  } else if (!std::isnormal(value) || (length = FormatFromShortest(value, out)) == 0) {
     const auto result = std::to_chars(out, out + MaxDoubleText - 2, value,
                                       std::chars_format::general, 15);
     if (result.ec != std::errc()) return 0;

@@ -11,6 +11,7 @@
 #include <omu_IndexErrorException.h>
 #include <omu_InterfaceObj.h>
 #include <omu_ListPyObjectWrapper.h>
+#include <omu_PrimArray.h>
 #include <omu_NameString.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimConvert.h>
@@ -164,7 +165,9 @@ void omu_PrimTuple::AppendElement(std::string& text, const omu_Primitive& elemen
 
 cow_String omu_PrimTuple::AsString(int level) const {
   const int limit = omu_TextRepr::Instance().GetMaxElementsInSequence();
-  std::string text("(");
+  std::string text;
+  text.reserve(static_cast<std::size_t>(m_Size) * 12 + 2);  // numbers take about that much
+  text.push_back('(');
   int written = 0;
   for (int i = 0; i < m_Size && i < limit; ++i) {
     const omu_Primitive* element = m_PrimVector[i].ConstGet();
@@ -173,7 +176,9 @@ cow_String omu_PrimTuple::AsString(int level) const {
     text.append(", ");
     ++written;
   }
-  text.resize(text.size() - (written == 0 ? 0 : written == 1 ? 1 : 2));  // (x,) but (x, y)
+  // (x,) keeps its comma, (x, y) loses the last separator whole.
+  if (written > 1) text.pop_back();
+  if (written > 0) text.pop_back();
   text.push_back(')');
   return cow_String(std::string_view(text));
 }
@@ -224,6 +229,7 @@ void omu_PrimTuple::Put(omu_PyObjectWrapper* value) { Store(omu_PrimOwner(value)
 void omu_PrimTuple::Put(omu_InterfaceObj* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(const omu_PrimDictionary<cow_String>& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimDictionary<int>& value) { Store(omu_PrimMake(value)); }
+void omu_PrimTuple::Put(const omu_PrimArray& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimTuple& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimPath& value) { Store(omu_PrimMake(value)); }
 void omu_PrimTuple::Put(const omu_PrimExpr& value) { Store(omu_PrimMake(value)); }
@@ -333,6 +339,7 @@ OMU_TUPLE_CONVERTING_GET(cow_List<bool>)
 OMU_TUPLE_CONVERTING_GET(cow_List<int>)
 OMU_TUPLE_CONVERTING_GET(omu_PrimType)
 OMU_TUPLE_CONVERTING_GET(omu_PrimNone)
+OMU_TUPLE_CONVERTING_GET(omu_PrimArray)
 OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<cow_String>)
 OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<int>)
 OMU_TUPLE_CONVERTING_GET(omu_PrimTuple)

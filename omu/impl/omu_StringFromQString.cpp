@@ -10,12 +10,13 @@ cow_String Unquote(const cow_String& quoted, std::string_view escapedQuote, char
 }  // namespace
 
 cow_String omu_StringFromQString(const cow_String& quoted) {
-  if (quoted.IsEmpty()) return quoted;
-  if (quoted.Length() < 2) aio_cerr() << "QuotedString length < 2. " << quoted << '\n';
-  const char first = quoted[0];
-  const char last = quoted[quoted.Length() - 1];
-  if (quoted.Length() >= 2 && first == '\'' && last == '\'') return Unquote(quoted, "\\'", '\'');
-  if (quoted.Length() >= 2 && first == '"' && last == '"') return Unquote(quoted, "\\\"", '"');
+  const std::string_view text = quoted.View();
+  if (text.empty()) return quoted;
+  if (text.size() < 2) aio_cerr() << "QuotedString length < 2. " << quoted << '\n';
+  const char first = text.front();
+  const char last = text.back();
+  if (text.size() >= 2 && first == '\'' && last == '\'') return Unquote(quoted, "\\'", '\'');
+  if (text.size() >= 2 && first == '"' && last == '"') return Unquote(quoted, "\\\"", '"');
   aio_cerr() << "omu_StringFromQString(" << quoted << ")  QuotedString does not use ' or \". "
              << quoted << '\n';
   return quoted;

@@ -1,0 +1,3 @@
+#include <omu_PrimArrayData.h>
+
+omu_PrimArrayData::~omu_PrimArrayData() = default;

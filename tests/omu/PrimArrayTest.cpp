@@ -1,0 +1,167 @@
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
+#include <aio_ostream.h>
+#include <nex_TextException.h>
+#include <omu_PrimArray.h>
+#include <omu_PrimList.h>
+#include <omu_PrimString.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <sstream>
+
+namespace {
+std::string FailureOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const nex_TextException& e) {
+    EXPECT_STREQ(e.SourcePath(), "omu/impl/omu_PrimArray");
+    return e.Text().StdString();
+  }
+  return "no error";
+}
+
+omu_PrimTuple Row(std::initializer_list<omu_Primitive*> values) {
+  omu_PrimTuple row(static_cast<int>(values.size()));
+  for (omu_Primitive* value : values) row.Put(value);
+  return row;
+}
+
+omu_PrimTuple Nest(std::initializer_list<omu_PrimTuple> rows) {
+  omu_PrimTuple outer(static_cast<int>(rows.size()));
+  for (const omu_PrimTuple& row : rows) outer.Put(row);
+  return outer;
+}
+
+const double kMatrix[] = {1, 2, 3, 4};
+const int kTwoByTwo[] = {2, 2};
+}  // namespace
+
+TEST(PrimArray, TextOfOneAndTwoDimensions) {
+  const int ints[] = {1, 2, 3};
+  const int three[] = {3};
+  EXPECT_EQ(omu_PrimArray(1, three, omu_PrimNumber::INT, ints).AsString(0), "array([1, 2, 3], 'l')");
+  EXPECT_EQ(omu_PrimArray(2, kTwoByTwo, kMatrix).AsString(0), "array([[1.0, 2.0], [3.0, 4.0]], 'd')");
+  const float floats[] = {0.5f, 1e-5f};
+  const int two[] = {2};
+  EXPECT_EQ(omu_PrimArray(1, two, floats).AsString(0), "array([0.5, 9.99999974737875e-06], 'f')");
+  const int none[] = {0};
+  EXPECT_EQ(omu_PrimArray(1, none, kMatrix).AsString(0), "array([], 'd')");
+}
+
+TEST(PrimArray, IndexingSharesTheNumbers) {
+  omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
+  EXPECT_EQ(matrix.Length(), 2);
+  EXPECT_EQ(matrix.ConstGetArraySize(), 32);
+  EXPECT_EQ(matrix.ConstGetNumElements(), 4);
+  std::unique_ptr<const omu_Primitive> row(matrix.Index(1));
+  EXPECT_EQ(row->AsString(0), "array([3.0, 4.0], 'd')");
+  matrix.SetItem(omu_PrimNumber(9.5), 1, 0);
+  EXPECT_EQ(row->AsString(0), "array([9.5, 4.0], 'd')");
+  std::unique_ptr<const omu_Primitive> number(static_cast<const omu_PrimArray&>(*row).Index(1));
+  EXPECT_EQ(number->AsString(0), "4.0");
+  EXPECT_EQ(matrix.ConstGetDouble(0, 1), 2.0);
+  EXPECT_EQ(matrix.ConstGetInt(1, 0), 9);
+}
+
+TEST(PrimArray, FailureTexts) {
+  const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
+  const int empty[] = {0};
+  const omu_PrimArray noDims(0, empty, kMatrix);
+  EXPECT_EQ(noDims.Length(), 0);
+  EXPECT_EQ(FailureOf([&] { delete noDims.Index(0); }), "PrimArray index out of bounds");
+  EXPECT_EQ(FailureOf([&] { delete matrix.Index(-1); }), "PrimArray index out of bounds");
+  EXPECT_EQ(FailureOf([&] { delete matrix.Index(2); }), "PrimArray index out of bounds");
+  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1); }), "less indices given than size of array (1<2)");
+  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1, 1, 0); }), "more indices given than size of array (3>2)");
+  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(0, 2); }), "index out of range, dimension 1 (2 >= 2)");
+  std::ostringstream errors;
+  std::ostream* previous = aio_cerr().Redirect(&errors);
+  const int negative[] = {-1};
+  EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, negative, kMatrix); }), "omu_PrimArray ctor failed");
+  EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, kTwoByTwo, omu_PrimNumber::SHORT, nullptr); }),
+            "omu_PrimArray ctor failed");
+  const int huge[] = {65536, 65536};
+  EXPECT_EQ(FailureOf([&] { omu_PrimArray(2, huge, kMatrix); }), "omu_PrimArray ctor failed");
+  aio_cerr().Redirect(previous);
+  EXPECT_EQ(errors.str(),
+            "PrimArray negative dimensions are not allowed\nPrimArray only INT, FLOAT, DOUBLE allowed\n"
+            "PrimArray can't allocate memory for array (data)\n");
+}
+
+TEST(PrimArray, FromNestedSequencesWithTypeFitting) {
+  const auto ints = Nest({Row({new omu_PrimNumber(1), new omu_PrimNumber(2)}),
+                          Row({new omu_PrimNumber(3), new omu_PrimNumber(4)})});
+  const omu_PrimArray intArray(ints);
+  EXPECT_EQ(intArray.DataType(), omu_PrimNumber::INT);
+  EXPECT_EQ(intArray.AsString(0), "array([[1, 2], [3, 4]], 'l')");
+  const omu_PrimArray mixed(Row({new omu_PrimNumber(1), new omu_PrimNumber(2.5)}));
+  EXPECT_EQ(mixed.AsString(0), "array([1.0, 2.5], 'd')");
+  const omu_PrimArray floats(Row({new omu_PrimNumber(1.5f)}));
+  EXPECT_EQ(floats.DataType(), omu_PrimNumber::FLOAT);
+  const omu_PrimArray big(Row({new omu_PrimNumber(4000000000u)}));
+  EXPECT_EQ(big.DataType(), omu_PrimNumber::DOUBLE);
+  const omu_PrimArray fromArray(omu_PrimList(cow_List<int>{5, 6}, '('));
+  const omu_PrimArray again(fromArray);
+  EXPECT_TRUE(omu_PrimArray(static_cast<const omu_PrimSequence&>(again)) == fromArray);
+}
+
+TEST(PrimArray, RaggedOrForeignInputIsRefusedWithItsMessage) {
+  struct Case {
+    omu_PrimTuple input;
+    const char* reason;
+  } cases[] = {
+      {Nest({Row({new omu_PrimNumber(1), new omu_PrimNumber(2)}), Row({new omu_PrimNumber(3)})}),
+       "different dims in child. dimThis=1, j=0\n"},
+      {Nest({Row({new omu_PrimNumber(1)}), Row({Row({new omu_PrimNumber(3)}).Copy()})}),
+       "different num dims in child. nd=1, ndTemp=2, i=1\n"},
+      {Row({new omu_PrimString(cow_String("x"))}), "Child not PrimSequence or PrimNumber\n"},
+  };
+  for (const Case& c : cases) {
+    std::ostringstream errors;
+    std::ostream* previous = aio_cerr().Redirect(&errors);
+    EXPECT_EQ(FailureOf([&] { omu_PrimArray{c.input}; }), "omu_PrimArray from sequence failed - dimensions. ");
+    aio_cerr().Redirect(previous);
+    EXPECT_EQ(errors.str(), c.reason);
+  }
+}
+
+TEST(PrimArray, SliceRepeatConcatAndEquality) {
+  const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
+  std::unique_ptr<omu_PrimSequence> last(matrix.Slice(-1, 10));
+  EXPECT_EQ(last->AsString(0), "array([[3.0, 4.0]], 'd')");
+  std::unique_ptr<omu_PrimSequence> twice(matrix.Repeat(2));
+  EXPECT_EQ(static_cast<omu_PrimArray&>(*twice).Length(), 4);
+  std::unique_ptr<omu_PrimSequence> joined(matrix.Concat(last.get()));
+  EXPECT_EQ(joined->AsString(0), "array([[1.0, 2.0], [3.0, 4.0], [3.0, 4.0]], 'd')");
+  const double other[] = {1, 2, 3, 5};
+  EXPECT_FALSE(matrix == omu_PrimArray(2, kTwoByTwo, other));
+  const int flat[] = {4};
+  EXPECT_FALSE(matrix == omu_PrimArray(1, flat, kMatrix));
+  const float floats[] = {1, 2, 3, 4};
+  EXPECT_FALSE(matrix == omu_PrimArray(2, kTwoByTwo, floats));
+  EXPECT_TRUE(matrix == omu_PrimArray(matrix));
+  const int one[] = {1};
+  omu_PrimArray single(1, one, kMatrix);
+  EXPECT_EQ(FailureOf([&] { delete matrix.Concat(&single); }),
+            "PrimArray Concat needs an array of the same type and shape");
+}
+
+TEST(PrimArray, RoundTripsEveryDataType) {
+  const int ints[] = {1, -2, 3, 4};
+  const float floats[] = {0.5f, 1, 2, 3};
+  for (const omu_PrimArray& array : {omu_PrimArray(2, kTwoByTwo, kMatrix),
+                                     omu_PrimArray(2, kTwoByTwo, omu_PrimNumber::INT, ints),
+                                     omu_PrimArray(2, kTwoByTwo, floats)}) {
+    const auto back = RoundTrip<omu_PrimArray>(array);
+    EXPECT_TRUE(*back == array);
+    EXPECT_EQ(back->AsString(0), array.AsString(0));
+  }
+  const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
+  std::unique_ptr<const omu_Primitive> view(matrix.Index(1));
+  const auto viewBack = RoundTrip<omu_PrimArray>(static_cast<const omu_PrimArray&>(*view));
+  EXPECT_EQ(viewBack->AsString(0), "array([3.0, 4.0], 'd')");
+}
