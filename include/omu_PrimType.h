@@ -13,6 +13,7 @@ public:
   // The type of an interface object: its own type string.
   explicit omu_PrimType(const omu_InterfaceObj& object);
   omu_PrimType(const omu_PrimType& other) = default;
+  omu_PrimType& operator=(const omu_PrimType& other) = default;
   explicit omu_PrimType(const cls_ReadVisitor& reader);
 
   cow_String TypeString() const override;
