@@ -65,6 +65,6 @@ private:
   cow_String m_MaxRecursionFormat = "%s object";
   bool m_ShowPrivate = false;
   bool m_SortMembers = true;
-  bool m_Reserved1 = false;  // no reader in this library
-  bool m_Reserved2 = false;
+  [[maybe_unused]] bool m_Reserved1 = false;  // no reader in this library
+  [[maybe_unused]] bool m_Reserved2 = false;
 };
