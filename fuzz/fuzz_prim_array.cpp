@@ -19,12 +19,12 @@ std::unique_ptr<omu_PrimTuple> Parse(const std::uint8_t* data, std::size_t size,
   std::vector<std::unique_ptr<omu_Primitive>> items;
   while (at < size && data[at] != ')') {
     const std::uint8_t code = data[at++];
+    if (code == '(') {  // the bytes after '(' belong to the nested tuple
+      if (depth < 40) items.push_back(Parse(data, size, at, depth + 1));
+      continue;
+    }
     const double next = at < size ? static_cast<double>(data[at++]) - 100.0 : 0.0;
     switch (code) {
-      case '(':
-        --at;  // the byte after '(' belongs to the nested tuple
-        if (depth < 40) items.push_back(Parse(data, size, at, depth + 1));
-        break;
       case 'i': items.push_back(std::make_unique<omu_PrimNumber>(static_cast<int>(next))); break;
       case 'f': items.push_back(std::make_unique<omu_PrimNumber>(static_cast<float>(next) / 3)); break;
       case 'd': items.push_back(std::make_unique<omu_PrimNumber>(next / 7)); break;
@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (int i = 0; i < array.Length() && i < 8; ++i) delete array.Index(i);
     delete array.Slice(-2, 100);
     delete array.Repeat(2);
-    (void)(array == array);
+    (void)(array == static_cast<const omu_Primitive&>(array));
   } catch (const nex_Exception&) {
   }
   return 0;

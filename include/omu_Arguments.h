@@ -4,7 +4,8 @@
 // declaration order (each naming its keyword: positions are used first, keywords once they
 // run out), and End with the command's name, which raises the one error that best describes
 // what was wrong, in this order: a keyword no Get asked for, a positional value of the wrong
-// type, a keyword value of the wrong type, too few arguments, too many.
+// type, a keyword value of the wrong type, too few arguments, too many. Keywords are taken as
+// text views: reading allocates nothing.
 #include <omu_CorvexName.h>
 #include <omu_PrimConvert.h>
 #include <omu_PrimDictionary.h>
@@ -26,7 +27,7 @@ public:
   // required keyword, or a keyword value that does not convert to T, is kept for End; a
   // missing optional keyword is no error and leaves out untouched.
   template <class T>
-  void Get(T& out, const cow_String& keyword) {
+  void Get(T& out, std::string_view keyword) {
     if (m_ErrorArg == 0) {
       if (m_Cursor < m_Size) return omu_PrimTuple::Get(out);
       if (const omu_Primitive* value = Claim(keyword)) {
@@ -37,10 +38,10 @@ public:
   }
   // A name validated by its kind (out's kind): an illegal name raises
   // omu_CorNameErrorException at once.
-  void Get(omu_CorvexName& out, const cow_String& keyword);
+  void Get(omu_CorvexName& out, std::string_view keyword);
   // An interface object of the script type typeName, by position or keyword; lent.
   const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*,
-                              const cow_String& keyword);
+                              std::string_view keyword);
 
   // Stores value under keyword, for argument lists built to be passed on.
   template <class T>
@@ -53,7 +54,7 @@ public:
   // allowed: reads the parameter again by the old keyword and gives the deprecation notice
   // naming `other` as what replaces it.
   template <class T>
-  void DeprecatedGet(T& out, const cow_String& keyword, cow_String other) {
+  void DeprecatedGet(T& out, std::string_view keyword, cow_String other) {
     if (!DeprecatedAlternative(other)) return;
     Get(out, keyword);
     if (!ErrorOnPrevious()) Deprecated(keyword, other);
@@ -85,11 +86,12 @@ private:
   static cow_String ExpectedName(const omu_PrimEnumBase& out) { return out.TypeString(); }
   // The keyword's value when the call gives it and no Get has taken it; else records the
   // missing keyword and answers null.
-  const omu_Primitive* Claim(const cow_String& keyword);
-  void KeywordTypeError(const cow_String& keyword, const cow_String& expected,
+  const omu_Primitive* Claim(std::string_view keyword);
+  void KeywordTypeError(std::string_view keyword, const cow_String& expected,
                         const omu_Primitive& found);
-  void CountKeywordRead(const cow_String& keyword);
-  void Deprecated(const cow_String& keyword, const cow_String& other) const;
+  void CountKeywordRead(std::string_view keyword);
+  int UnclaimedIndex(std::string_view keyword) const noexcept;
+  void Deprecated(std::string_view keyword, const cow_String& other) const;
 
   omu_PrimDictionary<cow_String> m_Keywords;
   cow_List<cow_String> m_Unclaimed;

@@ -47,6 +47,12 @@ public:
   const omu_Primitive& Get(const K& key) const;
   // The value under key, or null.
   const omu_Primitive* Find(const K& key) const;
+  // The same, from anything that orders against the keys (a text view for text keys).
+  template <class Key>
+  const omu_Primitive* FindKey(const Key& key) const {
+    const Handle* value = m_Dict.FindKey(key);
+    return value ? value->ConstGet() : nullptr;
+  }
   // 1 when out was set from the value under key, 0 (out untouched) when the key is missing
   // or its value is not of a kind that T accepts.
   template <class T>
@@ -76,5 +82,5 @@ private:
   cls_Uid m_OwnUid;
 };
 
-extern template class omu_PrimDictionary<int>;
-extern template class omu_PrimDictionary<cow_String>;
+extern template class CVX_EXPORT omu_PrimDictionary<int>;
+extern template class CVX_EXPORT omu_PrimDictionary<cow_String>;

@@ -14,8 +14,9 @@ for target in "$build"/fuzz/fuzz_*; do
   args=("$corpus")
   [ -d "$seeds" ] && args+=("$seeds")
   echo "fuzz: $name for ${seconds}s"
-  if ! "$target" -max_total_time="$seconds" -print_final_stats=0 "${args[@]}" \
-        >"$build/fuzz/$name.log" 2>&1; then
+  # -timeout turns an input that hangs into a failure instead of an endless run.
+  if ! timeout $((seconds + 120)) "$target" -max_total_time="$seconds" -timeout=10 \
+        -print_final_stats=0 "${args[@]}" >"$build/fuzz/$name.log" 2>&1; then
     echo "fuzz: $name FAILED"; tail -n 60 "$build/fuzz/$name.log"; status=1
   fi
 done

@@ -17,14 +17,23 @@ constexpr const char* kUndetermined = "Undetermined";
 omu_Arguments::omu_Arguments(int size) : omu_PrimLeaf(size, '(') {}
 
 void omu_Arguments::Begin() {
-  m_Unclaimed = m_Keywords.GetEntries().Keys();
+  std::vector<cow_String>& unclaimed = m_Unclaimed.MutableVector();  // keeps its capacity
+  unclaimed.clear();
+  for (const auto& entry : m_Keywords.GetEntries()) unclaimed.push_back(entry.first);
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
   m_KeywordInError = cow_String();
   omu_PrimTuple::Begin();
 }
 
-const omu_Primitive* omu_Arguments::Claim(const cow_String& keyword) {
-  if (m_Unclaimed.Contains(keyword)) return m_Keywords.Find(keyword);
+int omu_Arguments::UnclaimedIndex(std::string_view keyword) const noexcept {
+  for (int i = 0; i < m_Unclaimed.Length(); ++i) {
+    if (m_Unclaimed[i] == keyword) return i;
+  }
+  return -1;
+}
+
+const omu_Primitive* omu_Arguments::Claim(std::string_view keyword) {
+  if (UnclaimedIndex(keyword) >= 0) return m_Keywords.FindKey(keyword);
   const int at = m_NumGets + 1;
   m_KeywordInError = keyword;
   if (m_IsOptional) {
@@ -36,7 +45,7 @@ const omu_Primitive* omu_Arguments::Claim(const cow_String& keyword) {
   return nullptr;
 }
 
-void omu_Arguments::KeywordTypeError(const cow_String& keyword, const cow_String& expected,
+void omu_Arguments::KeywordTypeError(std::string_view keyword, const cow_String& expected,
                                      const omu_Primitive& found) {
   m_ErrorArg = m_KeywordErrorAt = m_NumGets + 1;
   m_TypeExpected = expected;
@@ -44,25 +53,25 @@ void omu_Arguments::KeywordTypeError(const cow_String& keyword, const cow_String
   m_KeywordInError = keyword;
 }
 
-void omu_Arguments::CountKeywordRead(const cow_String& keyword) {
+void omu_Arguments::CountKeywordRead(std::string_view keyword) {
   ++m_NumGets;
   ++m_ArgCount;
   if (!m_IsOptional) ++m_ReqCount;
-  const int at = m_Unclaimed.Find(keyword);
+  const int at = UnclaimedIndex(keyword);
   if (at < 0) return;
   m_Unclaimed.Remove(at);
   if (!m_IsOptional) ++m_KeywordsTaken;
 }
 
-void omu_Arguments::Get(omu_CorvexName& out, const cow_String& keyword) {
-  const bool given = m_ErrorArg == 0 && (m_Cursor < m_Size || m_Unclaimed.Contains(keyword));
+void omu_Arguments::Get(omu_CorvexName& out, std::string_view keyword) {
+  const bool given = m_ErrorArg == 0 && (m_Cursor < m_Size || UnclaimedIndex(keyword) >= 0);
   cow_String text;
   Get(text, keyword);
   if (given && !ErrorOnPrevious()) out = omu_CorvexName(text, out.Kind());
 }
 
 const omu_InterfaceObj* omu_Arguments::Get(const char* typeName, const omu_InterfaceObj* none,
-                                           const cow_String& keyword) {
+                                           std::string_view keyword) {
   if (m_ErrorArg == 0 && m_Cursor < m_Size) return omu_PrimTuple::Get(typeName, none);
   const omu_InterfaceObj* object = nullptr;
   if (m_ErrorArg == 0) {
@@ -83,7 +92,7 @@ bool omu_Arguments::DeprecatedAlternative(cow_String other) {
   return DeprecatedCheck(other) && Alternative();
 }
 
-void omu_Arguments::Deprecated(const cow_String& keyword, const cow_String& other) const {
+void omu_Arguments::Deprecated(std::string_view keyword, const cow_String& other) const {
   omu_Deprecation::Notice(keyword, other);
 }
 

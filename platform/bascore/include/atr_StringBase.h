@@ -80,6 +80,9 @@ public:
                                           const atr_StringBase& b) noexcept {
     return a.View().compare(b.View()) <=> 0;
   }
+  friend std::strong_ordering operator<=>(const atr_StringBase& a, std::string_view b) noexcept {
+    return a.View().compare(b) <=> 0;
+  }
 
 private:
   struct Rep {

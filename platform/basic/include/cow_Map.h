@@ -1,5 +1,6 @@
 #pragma once
-// A copy-on-write map ordered by key (text keys byte-wise, so "OFF" comes before "ON").
+// A copy-on-write map ordered by key (text keys byte-wise, so "OFF" comes before "ON"). Lookups
+// take any type that orders against the keys, so a text key is found from a view.
 #include <cow_List.h>
 
 #include <map>
@@ -7,17 +8,20 @@
 template <class K, class V>
 class cow_Map {
 public:
-  using const_iterator = typename std::map<K, V>::const_iterator;
+  using const_iterator = typename std::map<K, V, std::less<>>::const_iterator;
 
   cow_Map() noexcept = default;
   cow_Map(std::initializer_list<std::pair<const K, V>> entries)
-      : m_Entries(std::map<K, V>(entries)) {}
+      : m_Entries(std::map<K, V, std::less<>>(entries)) {}
 
   int Length() const noexcept { return static_cast<int>(Entries().size()); }
   bool IsEmpty() const noexcept { return Entries().empty(); }
   bool Contains(const K& key) const { return Entries().count(key) != 0; }
   // The value under key, or null.
-  const V* Find(const K& key) const {
+  const V* Find(const K& key) const { return FindKey(key); }
+  // The same from anything that orders against the keys, such as a text view.
+  template <class Key>
+  const V* FindKey(const Key& key) const {
     const auto at = Entries().find(key);
     return at == Entries().end() ? nullptr : &at->second;
   }
@@ -28,7 +32,7 @@ public:
   void Insert(const K& key, const V& value) { m_Entries.Write().insert_or_assign(key, value); }
   void Insert(const K& key, V&& value) { m_Entries.Write().insert_or_assign(key, std::move(value)); }
   bool Remove(const K& key) { return Contains(key) && m_Entries.Write().erase(key) != 0; }
-  void Clear() { m_Entries = cow_Shared<std::map<K, V>>(); }
+  void Clear() { m_Entries = cow_Shared<std::map<K, V, std::less<>>>(); }
   cow_List<K> Keys() const {
     std::vector<K> keys;
     keys.reserve(Entries().size());
@@ -44,7 +48,7 @@ public:
   }
 
 private:
-  const std::map<K, V>& Entries() const noexcept { return m_Entries.Read(); }
+  const std::map<K, V, std::less<>>& Entries() const noexcept { return m_Entries.Read(); }
 
-  cow_Shared<std::map<K, V>> m_Entries;
+  cow_Shared<std::map<K, V, std::less<>>> m_Entries;
 };
