@@ -12,6 +12,7 @@ int main() {
   std::cout << "CaeUtils started (" << count << " components)\n";
   DemoFoundation();
   DemoValues();
+  DemoScriptCall();
   DemoModel();
   DemoGeometry();
   UTI_CaeUtils_finalize(count);

@@ -73,7 +73,8 @@ public:
 
   const omu_PrimDictionary<cow_String>& Keywords() const noexcept { return m_Keywords; }
   const cow_List<cow_String>& StoredKeywords() const noexcept { return m_StoredKeywords; }
-  // The call's text: positional values, then keyword=value pairs, in parentheses.
+  // The call's text as a script writes it: positional values, then keyword=value pairs, in
+  // parentheses (no one-element comma: this is a call, not a tuple).
   cow_String AsString(int level) const override;
   cow_String AsRepr() const override { return AsString(0); }
 

@@ -150,8 +150,7 @@ void omu_Arguments::End(cow_String context) {
   }
 }
 
-cow_String omu_Arguments::AsString(int level) const {
-  if (m_Keywords.Length() == 0) return omu_PrimTuple::AsString(level);
+cow_String omu_Arguments::AsString(int) const {
   utl_Catenator text;
   text << '(';
   const char* separator = "";

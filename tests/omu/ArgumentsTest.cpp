@@ -202,6 +202,7 @@ TEST(Arguments, TextShowsPositionsThenKeywords) {
   EXPECT_EQ(args.AsString(0), "(1, flag=True, name='Part-1')");
   EXPECT_EQ(args.StoredKeywords(), (cow_List<cow_String>{"name", "flag"}));
   EXPECT_EQ(Call({}).AsString(0), "()");
+  EXPECT_EQ(Call({7}).AsString(0), "(7)");
 }
 
 TEST(Collections, ListsReadElementByElementAndRaiseFromTheInnerTuple) {
