@@ -1,4 +1,5 @@
 #include "LibraryEnvironment.h"
+#include "TestRepository.h"
 
 #include <omu_ArgNumberErrorException.h>
 #include <omu_ArgTypeErrorException.h>
@@ -275,4 +276,18 @@ TEST(Collections, ResultsComeBackAsNumbersAndStrings) {
   EXPECT_TRUE(ints->Index(0)->IsType('i'));
   const std::unique_ptr<omu_PrimTuple> rows(omu_ReturnPrim(cow_2DArray<cow_String>(1, 2, "a")));
   EXPECT_EQ(rows->AsString(0), "(('a', 'a'),)");
+}
+
+TEST(Arguments, InterfaceObjectsByScriptType) {
+  const auto data = std::make_shared<TestPartData>();
+  omu_Arguments args(1);
+  args.Put(new TestPart(data));
+  args.Put(new TestFeature(data, omu_Shortcut("f")), "other");
+  args.Begin();
+  const omu_InterfaceObj* part = args.Get("Part", nullptr, "part");
+  ASSERT_NE(part, nullptr);
+  EXPECT_EQ(part->TypeString(), "Part");
+  const omu_InterfaceObj* other = args.Get("Part", nullptr, "other");
+  EXPECT_EQ(other, nullptr);  // a Feature is not a Part
+  EXPECT_EQ(Outcome(args), "TypeError: other; found Feature, expecting Part");
 }
