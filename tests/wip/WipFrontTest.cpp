@@ -1,6 +1,7 @@
 #include "RecordingReporter.h"
 
 #include <nex_AssertException.h>
+#include <omu_PrimTuple.h>
 #include <wip_WIP.h>
 
 #include <gtest/gtest.h>
@@ -38,6 +39,13 @@ const std::vector<Forwarding>& Forwardings() {
       {"Milestone2", [](wip_WIPBase& f) { f.Milestone("inc", -5); }, "Milestone(inc|-5)"},
       {"Interrupted", [](wip_WIPBase& f) { f.Interrupted(); }, "Interrupted()"},
       {"CommandDone", [](wip_WIPBase& f) { f.CommandDone(); }, "CommandDone()"},
+      {"FacilityMessage",
+       [](wip_WIPBase& f) {
+         omu_PrimTuple arguments(1);
+         arguments.Put(3);
+         f.FacilityMessage("thin shell", 3, 1, 2, arguments);
+       },
+       "Warning(thin shell)"},
       {"InterruptedThrow", [](wip_WIPBase& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
   };
   return cases;
