@@ -91,11 +91,17 @@ private:
   void KeywordTypeError(std::string_view keyword, const cow_String& expected,
                         const omu_Primitive& found);
   void CountKeywordRead(std::string_view keyword);
-  int UnclaimedIndex(std::string_view keyword) const noexcept;
+  // The keyword's place in key order, or -1; its value too when asked for.
+  int KeywordSlot(std::string_view keyword, const omu_Primitive** value = nullptr) const;
   void Deprecated(std::string_view keyword, const cow_String& other) const;
+  cow_String FirstUnclaimed() const;
+  bool IsUnclaimed(int slot) const noexcept;
 
   omu_PrimDictionary<cow_String> m_Keywords;
-  cow_List<cow_String> m_Unclaimed;
+  // The unclaimed keywords: one flag per keyword in key order (set once a Get took it), so
+  // that reading claims nothing by copying texts.
+  std::vector<unsigned char> m_Claimed;
+  int m_Unclaimed = 0;
   cow_List<cow_String> m_StoredKeywords;
   int m_KeywordsTaken = 0;
   int m_KeywordErrorAt = 0;

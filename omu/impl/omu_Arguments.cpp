@@ -17,23 +17,35 @@ constexpr const char* kUndetermined = "Undetermined";
 omu_Arguments::omu_Arguments(int size) : omu_PrimLeaf(size, '(') {}
 
 void omu_Arguments::Begin() {
-  std::vector<cow_String>& unclaimed = m_Unclaimed.MutableVector();  // keeps its capacity
-  unclaimed.clear();
-  for (const auto& entry : m_Keywords.GetEntries()) unclaimed.push_back(entry.first);
+  m_Claimed.assign(static_cast<std::size_t>(m_Keywords.Length()), 0);
+  m_Unclaimed = m_Keywords.Length();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
   m_KeywordInError = cow_String();
   omu_PrimTuple::Begin();
 }
 
-int omu_Arguments::UnclaimedIndex(std::string_view keyword) const noexcept {
-  for (int i = 0; i < m_Unclaimed.Length(); ++i) {
-    if (m_Unclaimed[i] == keyword) return i;
+int omu_Arguments::KeywordSlot(std::string_view keyword, const omu_Primitive** value) const {
+  int slot = 0;
+  for (const auto& [name, handle] : m_Keywords.GetEntries()) {
+    if (name == keyword) {
+      if (value) *value = handle.ConstGet();
+      return slot;
+    }
+    ++slot;
   }
   return -1;
 }
 
+// Keywords stored after Begin are not claimable until the next Begin.
+bool omu_Arguments::IsUnclaimed(int slot) const noexcept {
+  return slot >= 0 && static_cast<std::size_t>(slot) < m_Claimed.size() &&
+         !m_Claimed[static_cast<std::size_t>(slot)];
+}
+
 const omu_Primitive* omu_Arguments::Claim(std::string_view keyword) {
-  if (UnclaimedIndex(keyword) >= 0) return m_Keywords.FindKey(keyword);
+  const omu_Primitive* value = nullptr;
+  const int slot = KeywordSlot(keyword, &value);
+  if (IsUnclaimed(slot)) return value;
   const int at = m_NumGets + 1;
   m_KeywordInError = keyword;
   if (m_IsOptional) {
@@ -57,14 +69,17 @@ void omu_Arguments::CountKeywordRead(std::string_view keyword) {
   ++m_NumGets;
   ++m_ArgCount;
   if (!m_IsOptional) ++m_ReqCount;
-  const int at = UnclaimedIndex(keyword);
-  if (at < 0) return;
-  m_Unclaimed.Remove(at);
+  const int slot = KeywordSlot(keyword);
+  if (!IsUnclaimed(slot)) return;
+  m_Claimed[static_cast<std::size_t>(slot)] = 1;
+  --m_Unclaimed;
   if (!m_IsOptional) ++m_KeywordsTaken;
 }
 
 void omu_Arguments::Get(omu_CorvexName& out, std::string_view keyword) {
-  const bool given = m_ErrorArg == 0 && (m_Cursor < m_Size || UnclaimedIndex(keyword) >= 0);
+  const int slot = KeywordSlot(keyword);
+  const bool given = m_ErrorArg == 0 &&
+                     (m_Cursor < m_Size || IsUnclaimed(slot));
   cow_String text;
   Get(text, keyword);
   if (given && !ErrorOnPrevious()) out = omu_CorvexName(text, out.Kind());
@@ -106,14 +121,25 @@ bool omu_Arguments::Alternative() {
   if (!m_IsOptional) --m_ReqCount;
   m_OptionalKeywordMissingAt = m_KeywordErrorAt = m_ErrorArg = 0;
   m_TypeFound = m_TypeExpected = cow_String();
-  if (m_Keywords.Find(m_KeywordInError)) {
-    m_Unclaimed.Append(m_KeywordInError);
+  const int slot = KeywordSlot(m_KeywordInError.View());
+  if (slot >= 0 && static_cast<std::size_t>(slot) < m_Claimed.size() &&
+      m_Claimed[static_cast<std::size_t>(slot)]) {
+    m_Claimed[static_cast<std::size_t>(slot)] = 0;
+    ++m_Unclaimed;
     if (!m_IsOptional) --m_KeywordsTaken;
   }
   m_KeywordInError = cow_String();
   --m_NumGets;
   --m_ArgCount;
   return true;
+}
+
+cow_String omu_Arguments::FirstUnclaimed() const {
+  std::size_t slot = 0;
+  for (const auto& entry : m_Keywords.GetEntries()) {
+    if (IsUnclaimed(static_cast<int>(slot++))) return entry.first;
+  }
+  return cow_String();
 }
 
 bool omu_Arguments::ErrorOnPrevious() const {
@@ -124,15 +150,15 @@ bool omu_Arguments::ErrorOnPrevious() const {
 
 bool omu_Arguments::Error() const {
   const int given = m_Keywords.Length();
-  return !m_Unclaimed.IsEmpty() || m_ErrorArg != 0 || m_Size + m_KeywordsTaken < m_ReqCount ||
+  return m_Unclaimed > 0 || m_ErrorArg != 0 || m_Size + m_KeywordsTaken < m_ReqCount ||
          m_Size + given > m_ArgCount;
 }
 
 void omu_Arguments::End(cow_String context) {
   m_OptionalKeywordMissingAt = 0;
   if (context.IsEmpty()) context = m_NestedErrorStr;
-  if (!m_Unclaimed.IsEmpty()) {
-    NEX_THROW(omu_KeywordErrorException(m_Unclaimed[0], context), kSource);
+  if (m_Unclaimed > 0) {
+    NEX_THROW(omu_KeywordErrorException(FirstUnclaimed(), context), kSource);
   }
   if (m_ErrorArg != 0 && m_KeywordInError.IsEmpty()) {
     NEX_THROW(omu_ArgTypeErrorException(m_ErrorArg, m_TypeExpected, m_TypeFound, context), kSource);
