@@ -21,7 +21,7 @@ std::string Reference(double value) {
 }
 
 // Random bit patterns, integers, powers of ten, values halfway between 15-digit neighbours,
-// subnormals, huge and tiny magnitudes, and short decimals.
+// subnormals, huge and tiny magnitudes, full mantissas of everyday size, and short decimals.
 std::vector<double> VariedDoubles(int count) {
   std::mt19937_64 random(20240611);
   std::vector<double> values;
@@ -29,7 +29,7 @@ std::vector<double> VariedDoubles(int count) {
   for (int i = 0; static_cast<int>(values.size()) < count; ++i) {
     const std::uint64_t bits = random();
     double value = 0;
-    switch (i % 8) {
+    switch (i % 9) {
       case 0: std::memcpy(&value, &bits, sizeof value); break;
       case 1: value = static_cast<double>(static_cast<std::int64_t>(bits) >> (bits % 64)); break;
       case 2: value = std::pow(10.0, static_cast<int>(bits % 640) - 320); break;
@@ -45,6 +45,9 @@ std::vector<double> VariedDoubles(int count) {
       }
       case 5: value = std::ldexp(static_cast<double>(bits >> 11), 960 + static_cast<int>(bits % 60)); break;
       case 6: value = std::ldexp(static_cast<double>(bits >> 11), -1070 + static_cast<int>(bits % 60)); break;
+      case 7:  // full 53-bit mantissas between about 1e-8 and 1e12, where scaling decides
+        value = std::ldexp(static_cast<double>(bits >> 11), static_cast<int>(bits % 93) - 80);
+        break;
       default: value = static_cast<double>(bits % 2000001) / 1000.0 - 1000.0; break;
     }
     if (std::isfinite(value)) values.push_back(i % 3 == 0 ? -value : value);
