@@ -28,49 +28,45 @@
 using mdl_PropAttributeState = omu_PrimEnum<mdl_PropAttributeStateEnm, 1>;
 
 // The registration name and class number of each instantiation.
+template <unsigned int Number>
+struct mdl_PropAttrNumber {
+  static constexpr unsigned int number = Number;
+};
 template <class T>
 struct mdl_PropAttrClass;
 template <>
-struct mdl_PropAttrClass<cow_String> {
+struct mdl_PropAttrClass<cow_String> : mdl_PropAttrNumber<14> {
   static constexpr const char* name = "mdl_PropString";
-  static constexpr unsigned int number = 14;
 };
 template <>
-struct mdl_PropAttrClass<double> {
+struct mdl_PropAttrClass<double> : mdl_PropAttrNumber<15> {
   static constexpr const char* name = "mdl_PropDouble";
-  static constexpr unsigned int number = 15;
 };
 template <>
-struct mdl_PropAttrClass<bool> {
+struct mdl_PropAttrClass<bool> : mdl_PropAttrNumber<16> {
   static constexpr const char* name = "mdl_PropBool";
-  static constexpr unsigned int number = 16;
 };
 template <>
-struct mdl_PropAttrClass<cls_xpListInt> {
+struct mdl_PropAttrClass<cls_xpListInt> : mdl_PropAttrNumber<17> {
   static constexpr const char* name = "mdl_PropListInt";
-  static constexpr unsigned int number = 17;
 };
 template <>
-struct mdl_PropAttrClass<int> {
+struct mdl_PropAttrClass<int> : mdl_PropAttrNumber<19> {
   static constexpr const char* name = "mdl_PropInt";
-  static constexpr unsigned int number = 19;
 };
 template <>
-struct mdl_PropAttrClass<cls_xp1DArrayInt> {
+struct mdl_PropAttrClass<cls_xp1DArrayInt> : mdl_PropAttrNumber<20> {
   static constexpr const char* name = "mdl_Prop1DArrayInt";
-  static constexpr unsigned int number = 20;
 };
 template <>
-struct mdl_PropAttrClass<cls_xpListString> {
+struct mdl_PropAttrClass<cls_xpListString> : mdl_PropAttrNumber<21> {
   static constexpr const char* name = "mdl_PropListString";
-  static constexpr unsigned int number = 21;
 };
 // The class table spells this one "mdl_Prop1DArrayListFloat"; the class has always
 // registered under this name, and archives carry it, so both stay.
 template <>
-struct mdl_PropAttrClass<cls_xp1DArrayListFloat> {
+struct mdl_PropAttrClass<cls_xp1DArrayListFloat> : mdl_PropAttrNumber<22> {
   static constexpr const char* name = "mdl_PropList1DArrayListFloat";
-  static constexpr unsigned int number = 22;
 };
 
 // Final: the destructor is not virtual.
