@@ -1,6 +1,5 @@
 #include <atr_String.h>
 #include <aio_ostream.h>
-#include <omi_UseCounter.h>
 
 #include <gtest/gtest.h>
 
@@ -70,22 +69,3 @@ TEST(AioOstream, RedirectsTheErrorStream) {
   EXPECT_EQ(captured.str(), "n=3 x2.5");
 }
 
-TEST(UseCounter, StartsOnceStopsOnceAndDoesNotClamp) {
-  omi_UseCounter counter;
-  int count = 0;
-  int starts = 0;
-  int stops = 0;
-  counter.Finalize(count, [&] { ++stops; });  // a stop before any start
-  EXPECT_EQ(counter.Uses(), -1);
-  counter.Initialize(count, [&] { ++starts; });
-  EXPECT_EQ(starts, 0);  // the unbalanced stop swallowed this start
-  counter.Initialize(count, [&] { ++starts; });
-  counter.Initialize(count, [&] { ++starts; });
-  EXPECT_EQ(starts, 1);
-  EXPECT_EQ(count, 1);
-  counter.Finalize(count, [&] { ++stops; });
-  EXPECT_EQ(stops, 0);
-  counter.Finalize(count, [&] { ++stops; });
-  EXPECT_EQ(stops, 1);
-  EXPECT_EQ(count, 0);
-}

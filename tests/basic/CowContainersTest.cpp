@@ -1,7 +1,6 @@
 #include <cow_2DArray.h>
 #include <cow_Btree.h>
 #include <cow_COW.h>
-#include <cow_CountedHld.h>
 #include <cow_List.h>
 #include <cow_String.h>
 
@@ -103,10 +102,3 @@ TEST(CowCOW, ClonesThroughTheVirtualCopyOnlyWhenShared) {
   EXPECT_TRUE(cow_COW<Shape>().IsNull());
 }
 
-TEST(CowCountedHld, SharesWithoutCopying) {
-  cow_CountedHld<std::vector<int>> a(new std::vector<int>{1, 2});
-  const cow_CountedHld<std::vector<int>> b(a);
-  a->push_back(3);
-  EXPECT_EQ(b->size(), 3u);
-  EXPECT_EQ(b.Count(), 2);
-}

@@ -24,14 +24,6 @@ void ExpectSameSpot(std::pair<float, float> a, std::pair<float, float> b, float 
   EXPECT_NEAR(a.second, b.second, tol);
 }
 
-TEST(CameraTest, Defaults) {
-  const g3d_Camera camera;
-  EXPECT_EQ(camera.GetEye(), g3d_Point(2, 0, 0));
-  EXPECT_TRUE(camera.IsPerspective());
-  EXPECT_FLOAT_EQ(camera.GetFieldOfView(), float(2 * std::atan(0.5) * 180 / 3.141592653589793));
-  EXPECT_NEAR(camera.GetFieldOfView(), 53.13f, 1e-2f);
-}
-
 TEST(CameraTest, SetLocationRepairsDegenerateInput) {
   struct Case {
     g3d_Point eye, target;

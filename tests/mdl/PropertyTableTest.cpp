@@ -66,18 +66,6 @@ cow_2DArray<double> InsertionSorted(const cow_2DArray<double>& table, int keys) 
 }
 }  // namespace
 
-TEST(PropertyTable, ConstructorsGiveTheirShapeAndAClearedFlag) {
-  const mdl_PropertyTable empty;
-  EXPECT_EQ(empty.Rows(), 0);
-  EXPECT_EQ(empty.Columns(), 0);
-  const mdl_PropertyTable sized(2, 3);
-  EXPECT_EQ(sized.Rows(), 2);
-  EXPECT_EQ(sized.Columns(), 3);
-  EXPECT_EQ(sized(1, 2), 0.0);
-  EXPECT_FALSE(sized.AllowEmptyFirstRow());
-  EXPECT_EQ(Table(2, {1, 2, 3, 4})(1, 0), 3.0);
-}
-
 TEST(PropertyTable, EqualityNeedsFlagShapeAndEveryElementAndNaNIsNeverEqual) {
   const mdl_PropertyTable base = Table(3, {1, 2, 3, 4, 5, 6});
   EXPECT_EQ(base, Table(3, {1, 2, 3, 4, 5, 6}));
