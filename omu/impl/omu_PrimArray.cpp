@@ -8,6 +8,7 @@
 
 #include <climits>
 #include <cstring>
+#include <utility>
 
 namespace {
 constexpr const char* kSource = "omu/impl/omu_PrimArray";
@@ -413,7 +414,7 @@ cow_String omu_PrimArray::AsString(int) const {
   text.append(", '");
   text.push_back(m_PyType);
   text.append("')");
-  return cow_String(std::string_view(text));
+  return cow_String(std::move(text));
 }
 
 bool omu_PrimArray::operator==(const omu_Primitive& other) const {

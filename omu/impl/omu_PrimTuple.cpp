@@ -29,6 +29,7 @@
 #include <utl_FilePath.h>
 
 #include <climits>
+#include <utility>
 
 namespace {
 constexpr const char* kSource = "omu/impl/omu_PrimTuple";
@@ -180,7 +181,7 @@ cow_String omu_PrimTuple::AsString(int level) const {
   if (written > 1) text.pop_back();
   if (written > 0) text.pop_back();
   text.push_back(')');
-  return cow_String(std::string_view(text));
+  return cow_String(std::move(text));
 }
 
 bool omu_PrimTuple::operator==(const omu_Primitive& other) const {

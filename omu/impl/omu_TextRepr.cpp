@@ -2,6 +2,9 @@
 #include <omu_InterfaceObj.h>
 #include <omu_TextRepr.h>
 
+#include <string>
+#include <utility>
+
 omu_TextRepr& omu_TextRepr::Instance() { return omi_Singleton<omu_TextRepr>::Instance(); }
 
 void omu_TextRepr::Release() noexcept { omi_Singleton<omu_TextRepr>::Destroy(); }
@@ -31,5 +34,5 @@ cow_String omu_TextRepr::MaxRecursionText(const cow_String& typeName) const {
     }
   }
   text.push_back('\'');
-  return cow_String(std::string_view(text));
+  return cow_String(std::move(text));
 }

@@ -16,6 +16,8 @@ public:
   atr_StringBase(const char* text, int length);
   atr_StringBase(std::string_view text);
   atr_StringBase(const std::string& text) : atr_StringBase(std::string_view(text)) {}
+  // Adopts a text built elsewhere without copying its characters.
+  atr_StringBase(std::string&& text);
   // Numbers as decimal text; a double takes its shortest form that reads back exactly.
   explicit atr_StringBase(int value);
   explicit atr_StringBase(unsigned int value);

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstdarg>
 #include <cstdio>
+#include <utility>
 
 namespace {
 template <class Number>
@@ -26,6 +27,10 @@ atr_StringBase::atr_StringBase(const char* text, int length)
 
 atr_StringBase::atr_StringBase(std::string_view text) {
   if (!text.empty()) m_Rep = new Rep{1, std::string(text)};
+}
+
+atr_StringBase::atr_StringBase(std::string&& text) {
+  if (!text.empty()) m_Rep = new Rep{1, std::move(text)};
 }
 
 atr_StringBase::atr_StringBase(int value) {
@@ -97,7 +102,7 @@ atr_StringBase atr_StringBase::Format(const char* format, ...) {
   if (needed > 0) {
     std::string text(static_cast<std::size_t>(needed), '\0');
     std::vsnprintf(text.data(), text.size() + 1, format, again);
-    result = atr_StringBase(std::string_view(text));
+    result = atr_StringBase(std::move(text));
   }
   va_end(again);
   return result;
