@@ -9,6 +9,8 @@
 #include <cmath>
 #include <climits>
 #include <cstring>
+#include <string_view>
+#include <utility>
 
 namespace {
 using DataTypeName = omu_PrimEnum<omu_PrimNumber::DataTypeEnm, 1>;
@@ -27,6 +29,8 @@ int FormatWhole(double value, char* out) noexcept {
     out[1] = '0';
     end = out + 2;
   }
+  *end++ = '.';
+  *end++ = '0';
   return static_cast<int>(end - out);
 }
 
@@ -89,12 +93,33 @@ int FormatFromShortest(double value, char* out) noexcept {
     for (int i = 0; i < count; ++i) *o++ = digits[i];
   } else {
     for (int i = 0; i <= exponent; ++i) *o++ = i < count ? digits[i] : '0';
-    if (count > exponent + 1) {
-      *o++ = '.';
-      for (int i = exponent + 1; i < count; ++i) *o++ = digits[i];
-    }
+    *o++ = '.';
+    if (count <= exponent + 1) *o++ = '0';
+    for (int i = exponent + 1; i < count; ++i) *o++ = digits[i];
   }
   return static_cast<int>(o - out);
+}
+
+// The general conversion, for what the shortest digits cannot decide: subnormals, ties,
+// infinities and NaN.
+int FormatGeneral(double value, char* out) noexcept {
+  const auto result = std::to_chars(out, out + omu_PrimNumber::MaxDoubleText - 2, value,
+                                    std::chars_format::general, 15);
+  if (result.ec != std::errc()) return 0;
+  int length = static_cast<int>(result.ptr - out);
+  const std::string_view text(out, static_cast<std::size_t>(length));
+  const std::size_t e = text.find('e');
+  if (e == std::string_view::npos) {
+    if (text.find('.') == std::string_view::npos) {
+      out[length++] = '.';
+      out[length++] = '0';
+    }
+  } else if (length >= 4 && length - static_cast<int>(e) == 5 && out[e + 2] == '0') {
+    // e+005 -> e+05: some runtimes write three exponent digits.
+    std::memmove(out + e + 2, out + e + 3, 2);
+    --length;
+  }
+  return length;
 }
 }  // namespace
 
@@ -132,47 +157,33 @@ int omu_PrimNumber::Truncate(double value) noexcept {
 }
 
 int omu_PrimNumber::FormatDouble(double value, char* out) noexcept {
-  int length = 0;
   if (value > -1e15 && value < 1e15 && value == static_cast<double>(static_cast<long long>(value))) {
-    length = FormatWhole(value, out);
-  } else if (!std::isnormal(value) || (length = FormatFromShortest(value, out)) == 0) {
-    const auto result = std::to_chars(out, out + MaxDoubleText - 2, value,
-                                      std::chars_format::general, 15);
-    if (result.ec != std::errc()) return 0;
-    length = static_cast<int>(result.ptr - out);
+    return FormatWhole(value, out);
   }
-  const std::string_view text(out, static_cast<std::size_t>(length));
-  const std::size_t e = text.find('e');
-  if (e == std::string_view::npos) {
-    if (text.find('.') == std::string_view::npos) {
-      out[length++] = '.';
-      out[length++] = '0';
-    }
-  } else if (length >= 4 && length - static_cast<int>(e) == 5 && out[e + 2] == '0') {
-    // e+005 -> e+05: some runtimes write three exponent digits.
-    std::memmove(out + e + 2, out + e + 3, 2);
-    --length;
-  }
-  return length;
+  const int length = std::isnormal(value) ? FormatFromShortest(value, out) : 0;
+  return length > 0 ? length : FormatGeneral(value, out);
 }
 
 void omu_PrimNumber::AppendText(std::string& out) const {
-  char buffer[MaxDoubleText];
+  // Written in place: large sequences append millions of these.
+  const std::size_t start = out.size();
+  out.resize(start + MaxDoubleText);
+  char* text = out.data() + start;
   int length = 0;
   if (IsType('f')) {
-    length = FormatDouble(m_Value, buffer);
+    length = FormatDouble(m_Value, text);
   } else if (m_DataType == UINT) {
-    length = static_cast<int>(std::to_chars(buffer, buffer + MaxDoubleText, m_UValue).ptr - buffer);
+    length = static_cast<int>(std::to_chars(text, text + MaxDoubleText, m_UValue).ptr - text);
   } else {
-    length = static_cast<int>(std::to_chars(buffer, buffer + MaxDoubleText, AsInt()).ptr - buffer);
+    length = static_cast<int>(std::to_chars(text, text + MaxDoubleText, AsInt()).ptr - text);
   }
-  out.append(buffer, static_cast<std::size_t>(length));
+  out.resize(start + static_cast<std::size_t>(length));
 }
 
 cow_String omu_PrimNumber::AsString(int) const {
   std::string text;
   AppendText(text);
-  return cow_String(std::string_view(text));
+  return cow_String(std::move(text));
 }
 
 bool omu_PrimNumber::operator==(const omu_Primitive& other) const {
