@@ -1,6 +1,7 @@
 #include <omu_NameString.h>
 
 #include <string>
+#include <utility>
 
 cow_String omu_NameString(const cow_String& text) {
   const std::string_view in = text.View();
@@ -21,5 +22,5 @@ cow_String omu_NameString(const cow_String& text) {
     }
   }
   out.push_back(quote);
-  return cow_String(std::string_view(out));
+  return cow_String(std::move(out));
 }

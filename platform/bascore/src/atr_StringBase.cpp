@@ -174,7 +174,7 @@ atr_StringBase& atr_StringBase::ReplaceAll(std::string_view from, std::string_vi
     result.append(text.substr(start, at - start)).append(to);
   }
   result.append(text.substr(start));
-  return *this = atr_StringBase(std::string_view(result));
+  return *this = atr_StringBase(std::move(result));
 }
 
 atr_StringBase operator+(const atr_StringBase& a, std::string_view b) {
