@@ -6,9 +6,8 @@
 #include <omu_PrimNumber.h>
 
 #include <charconv>
-#include <cmath>
 #include <climits>
-#include <cstring>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -107,28 +106,24 @@ int FormatGeneral(double value, char* out) noexcept {
                                     std::chars_format::general, 15);
   if (result.ec != std::errc()) return 0;
   int length = static_cast<int>(result.ptr - out);
-  const std::string_view text(out, static_cast<std::size_t>(length));
-  const std::size_t e = text.find('e');
-  if (e == std::string_view::npos) {
-    if (text.find('.') == std::string_view::npos) {
-      out[length++] = '.';
-      out[length++] = '0';
-    }
-  } else if (length >= 4 && length - static_cast<int>(e) == 5 && out[e + 2] == '0') {
-    // e+005 -> e+05: some runtimes write three exponent digits.
-    std::memmove(out + e + 2, out + e + 3, 2);
-    --length;
+  // to_chars already writes two-digit exponents; only ".0" may be missing.
+  if (std::string_view(out, static_cast<std::size_t>(length)).find_first_of("e.") ==
+      std::string_view::npos) {
+    out[length++] = '.';
+    out[length++] = '0';
   }
   return length;
 }
 }  // namespace
 
 const omu_PrimEnumRow* omu_PrimEnumTable<omu_PrimNumber::DataTypeEnm, 1>::Rows() noexcept {
-  static constexpr omu_PrimEnumRow rows[] = {
-      {"SCHAR", omu_PrimNumber::SCHAR}, {"SHORT", omu_PrimNumber::SHORT},
-      {"INT", omu_PrimNumber::INT},     {"FLOAT", omu_PrimNumber::FLOAT},
-      {"DOUBLE", omu_PrimNumber::DOUBLE}, {"UINT", omu_PrimNumber::UINT},
-      {nullptr, 0}};
+  static constexpr omu_PrimEnumRow rows[] = {{"SCHAR", omu_PrimNumber::SCHAR},
+                                             {"SHORT", omu_PrimNumber::SHORT},
+                                             {"INT", omu_PrimNumber::INT},
+                                             {"FLOAT", omu_PrimNumber::FLOAT},
+                                             {"DOUBLE", omu_PrimNumber::DOUBLE},
+                                             {"UINT", omu_PrimNumber::UINT},
+                                             {nullptr, 0}};
   return rows;
 }
 
@@ -146,7 +141,8 @@ omu_PrimNumber::omu_PrimNumber(const cls_ReadVisitor& reader)
       m_Value(reader.Get<double>("value")),
       m_UValue(reader.Get<unsigned int>("uvalue")) {
   DataTypeName dataType(SCHAR);
-  if (!dataType.SetValue(reader.ReadEnum("dataType").CStr())) reader.Fail("unknown number data type");
+  if (!dataType.SetValue(reader.ReadEnum("dataType").CStr()))
+    reader.Fail("unknown number data type");
   m_DataType = dataType;
   if (!IsType(CodeOf(m_DataType))) reader.Fail("the number's type code does not fit its data type");
   m_NumberUid = reader.Uid();
@@ -157,7 +153,8 @@ int omu_PrimNumber::Truncate(double value) noexcept {
 }
 
 int omu_PrimNumber::FormatDouble(double value, char* out) noexcept {
-  if (value > -1e15 && value < 1e15 && value == static_cast<double>(static_cast<long long>(value))) {
+  if (value > -1e15 && value < 1e15 &&
+      value == static_cast<double>(static_cast<long long>(value))) {
     return FormatWhole(value, out);
   }
   const int length = std::isnormal(value) ? FormatFromShortest(value, out) : 0;
@@ -200,7 +197,8 @@ void omu_PrimNumber::DBWrite(const cls_WriteVisitor& writer) const {
 
 void omu_PrimNumber::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimNumber>("omu_PrimNumber", 835, omu_Primitive::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimNumber>("omu_PrimNumber", 835, omu_Primitive::TypeId()))
       .AddAttribute({0, "value"}, cls_KIND_DOUBLE)
       .AddAttribute({1, "uvalue"}, cls_KIND_UINT)
       .AddAttribute({2, "dataType"}, cls_KIND_ENUM);
