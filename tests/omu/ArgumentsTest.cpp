@@ -36,19 +36,6 @@ omu_Arguments Call(std::initializer_list<int> positional) {
 }
 }  // namespace
 
-TEST(Arguments, PositionsFirstThenKeywords) {
-  omu_Arguments args = Call({1});
-  args.Put(2, "b");
-  int a = 0, b = 0;
-  args.Begin();
-  args.Get(a, "a");
-  args.Get(b, "b");
-  EXPECT_FALSE(args.Error());
-  EXPECT_EQ(Outcome(args), "ok");
-  EXPECT_EQ(a, 1);
-  EXPECT_EQ(b, 2);
-}
-
 TEST(Arguments, AKeywordAlsoGivenByPositionStaysUnclaimed) {
   omu_Arguments args = Call({1, 2});
   args.Put(3, "b");
@@ -148,19 +135,6 @@ TEST(Arguments, EndReportsTheFirstFaultInItsOrder) {
     args.Get(b, "b");
     EXPECT_EQ(Outcome(args, "f"), "TypeError: f; too many arguments; expected 2, got 3");
   }
-}
-
-TEST(Arguments, ErrorOnlyAtEndAndOutputsUntouched) {
-  omu_Arguments args(2);
-  args.Put(cow_String("s"));
-  args.Put(5);
-  int a = 11, b = 12;
-  args.Begin();
-  args.Get(a, "a");
-  args.Get(b, "b");  // not examined once an error is recorded
-  EXPECT_EQ(a, 11);
-  EXPECT_EQ(b, 12);
-  EXPECT_THROW(args.End(""), omu_ArgTypeErrorException);
 }
 
 TEST(Arguments, NamesAreValidatedAsTheyAreRead) {

@@ -2,9 +2,7 @@
 
 #include <UTI_Modules.h>
 #include <cls_MetadataRegistrar.h>
-#include <mdl_Extension.h>
 #include <nex_Exception.h>
-#include <omu_PrimNone.h>
 #include <typ_ArchCompTable.h>
 
 #include <gtest/gtest.h>
@@ -91,12 +89,6 @@ TEST(ClassTable, EveryRegisteredClassMatchesItsRow) {
     EXPECT_EQ(md->ParentTypeId(), cls_MakeTypeId(row->parentModule, row->parentClass));
     EXPECT_EQ(row->kind == 4, Registry().IsA(md->TypeId(), nex_Exception::TypeId()));
   }
-}
-
-TEST(ClassTable, TypeIdentifiers) {
-  EXPECT_EQ(omu_Primitive::TypeId(), 0x130011u);
-  EXPECT_EQ(omu_PrimNone::TypeId(), 0x13001du);
-  EXPECT_EQ(mdl_Extension::TypeId(), 0xa000du);
 }
 
 TEST(Registration, TheOmuListKeepsItsOrderPhasesAndWords) {

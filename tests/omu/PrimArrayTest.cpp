@@ -1,7 +1,7 @@
+#include "CapturedErrors.h"
 #include "LibraryEnvironment.h"
 #include "TestArchive.h"
 
-#include <aio_ostream.h>
 #include <nex_TextException.h>
 #include <omu_PrimArray.h>
 #include <omu_PrimList.h>
@@ -11,7 +11,6 @@
 
 #include <functional>
 #include <memory>
-#include <sstream>
 
 namespace {
 std::string FailureOf(const std::function<void()>& action) {
@@ -78,16 +77,14 @@ TEST(PrimArray, FailureTexts) {
   EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1); }), "less indices given than size of array (1<2)");
   EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1, 1, 0); }), "more indices given than size of array (3>2)");
   EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(0, 2); }), "index out of range, dimension 1 (2 >= 2)");
-  std::ostringstream errors;
-  std::ostream* previous = aio_cerr().Redirect(&errors);
+  const CapturedErrors errors;
   const int negative[] = {-1};
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, negative, kMatrix); }), "omu_PrimArray ctor failed");
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, kTwoByTwo, omu_PrimNumber::SHORT, nullptr); }),
             "omu_PrimArray ctor failed");
   const int huge[] = {65536, 65536};
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(2, huge, kMatrix); }), "omu_PrimArray ctor failed");
-  aio_cerr().Redirect(previous);
-  EXPECT_EQ(errors.str(),
+  EXPECT_EQ(errors.Text(),
             "PrimArray negative dimensions are not allowed\nPrimArray only INT, FLOAT, DOUBLE allowed\n"
             "PrimArray can't allocate memory for array (data)\n");
 }
@@ -121,11 +118,9 @@ TEST(PrimArray, RaggedOrForeignInputIsRefusedWithItsMessage) {
       {Row({new omu_PrimString(cow_String("x"))}), "Child not PrimSequence or PrimNumber\n"},
   };
   for (const Case& c : cases) {
-    std::ostringstream errors;
-    std::ostream* previous = aio_cerr().Redirect(&errors);
+    const CapturedErrors errors;
     EXPECT_EQ(FailureOf([&] { omu_PrimArray{c.input}; }), "omu_PrimArray from sequence failed - dimensions. ");
-    aio_cerr().Redirect(previous);
-    EXPECT_EQ(errors.str(), c.reason);
+    EXPECT_EQ(errors.Text(), c.reason);
   }
 }
 

@@ -2,7 +2,6 @@
 #include "TestArchive.h"
 
 #include <nex_TextException.h>
-#include <omu_PrimEnumBase.h>
 #include <omu_PrimNone.h>
 #include <omu_PrimType.h>
 #include <omu_PrimWrapper.h>
@@ -21,13 +20,6 @@ struct SetNone {
     w.Write("isSet", true);
   }
 };
-
-struct KindRecorder : omu_PrimVisitor {
-  std::string seen;
-  void Visit(const omu_PrimNone&) override { seen += "none "; }
-  void Visit(const omu_PrimType&) override { seen += "type "; }
-  void Visit(const omu_PrimEnumBase&) override { seen += "enum "; }
-};
 }  // namespace
 
 TEST(PrimNone, CopiesAreAlwaysUnset) {
@@ -42,17 +34,11 @@ TEST(PrimNone, CopiesAreAlwaysUnset) {
   EXPECT_FALSE(omu_PrimNone() == static_cast<const omu_Primitive&>(omu_PrimType()));  // other kinds differ
 }
 
-TEST(PrimType, PrintsItsTypeStringWithTypeAppended) {
-  EXPECT_EQ(omu_PrimType("Part").AsString(0), "PartType");
+TEST(PrimType, TextAndDisplayKinds) {
   EXPECT_EQ(omu_PrimType("Part").TypeString(), "PartType");
   EXPECT_EQ(omu_PrimType().AsString(0), "Type");
   EXPECT_EQ(omu_PrimType().TypeString(), "type");
-  EXPECT_TRUE(omu_PrimType("Odb") == omu_PrimType("Odb"));
-  EXPECT_TRUE(omu_PrimType("Odb") != omu_PrimType("odb"));
   EXPECT_TRUE(*RoundTrip<omu_Primitive>(omu_PrimType("Sketch")) == omu_PrimType("Sketch"));
-}
-
-TEST(PrimType, ConvertsDisplayKindsExactly) {
   const char* names[] = {"None", "Part", "Assembly", "Sketch", "Odb", "XYPlot", "Stub", "DetailPlot"};
   for (int i = 0; i < 8; ++i) {
     const auto kind = static_cast<omu_ObjectToDisplayTypeEnm>(i);
@@ -93,36 +79,4 @@ TEST(PrimWrapper, AWrapperThatWrapsItselfInAnArchiveIsRefused) {
     }
   };
   EXPECT_THROW(RoundTrip<omu_Primitive>(SelfWrapper()), nex_TextException);
-}
-
-TEST(Primitive, DynamicTypeAndIsAThroughTheRoot) {
-  const std::unique_ptr<omu_Primitive> values[] = {
-      std::make_unique<omu_PrimNone>(), std::make_unique<omu_PrimType>("Part"),
-      std::make_unique<omu_PrimWrapper>(), std::make_unique<omu_PrimEnumBase>("ON")};
-  const unsigned int ids[] = {omu_PrimNone::TypeId(), omu_PrimType::TypeId(),
-                              omu_PrimWrapper::TypeId(), omu_PrimEnumBase::TypeId()};
-  for (std::size_t i = 0; i < std::size(values); ++i) {
-    const omu_Primitive& value = *values[i];
-    EXPECT_EQ(value.DynTypeId(), ids[i]);
-    EXPECT_TRUE(value.IsA(omu_Primitive::TypeId()));
-    EXPECT_TRUE(value.IsA(ids[i]));
-    EXPECT_EQ(value.AsRepr(), value.AsString(0));
-    EXPECT_TRUE(value != static_cast<const omu_Primitive&>(omu_PrimType("Other")));
-  }
-  EXPECT_FALSE(omu_PrimNone().IsA(omu_PrimType::TypeId()));
-}
-
-TEST(Primitive, AcceptCallsTheVisitOfItsKindOnly) {
-  KindRecorder recorder;
-  omu_PrimNone().Accept(&recorder);
-  omu_PrimType().Accept(&recorder);
-  omu_PrimEnumBase("X").Accept(&recorder);
-  omu_PrimWrapper().Accept(&recorder);  // visits nothing
-  EXPECT_EQ(recorder.seen, "none type enum ");
-}
-
-TEST(Primitive, EnumerationValuesPersistByName) {
-  const auto loaded = RoundTrip<omu_Primitive>(omu_PrimEnumBase("UNCHANGED"));
-  EXPECT_EQ(loaded->DynTypeId(), omu_PrimEnumBase::TypeId());
-  EXPECT_EQ(loaded->AsString(0), "UNCHANGED");
 }

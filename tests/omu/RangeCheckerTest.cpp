@@ -77,18 +77,3 @@ TEST(RangeChecker, FloatingLimitsSentinelsAndNaN) {
   EXPECT_EQ(Outcome([&] { R::CheckGreaterThan("x", 0.0, false, inf); }), "x must be a Float > 0");
   EXPECT_EQ(Outcome([&] { R::CheckGreaterThan("x", 0.0, false, kNoUpper); }), "x must be a Float > 0");
 }
-
-TEST(RangeChecker, TheErrorCarriesItsFields) {
-  try {
-    omu_RangeChecker::CheckInRange("n", 1, false, 1, 10, true);
-    FAIL();
-  } catch (const omu_RangeErrorException& e) {
-    EXPECT_EQ(e.Keyword(), "n");
-    EXPECT_EQ(e.KeywordType(), 1);
-    EXPECT_EQ(e.LowerLimit(), "1");
-    EXPECT_EQ(e.LowerQualifier(), 2);
-    EXPECT_EQ(e.HigherLimit(), "10");
-    EXPECT_EQ(e.HigherQualifier(), 1);
-    EXPECT_EQ(e.PythonType(), "RangeError");
-  }
-}

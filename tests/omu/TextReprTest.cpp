@@ -1,7 +1,7 @@
+#include "CapturedErrors.h"
 #include "LibraryEnvironment.h"
 
 #include <UTI_CaeUtils.h>
-#include <aio_ostream.h>
 #include <omu_GetBracketKeyPos.h>
 #include <omu_PrimLeaf.h>
 #include <omu_PrimNumber.h>
@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 
 namespace {
 // An object that prints the way interface objects and object sequences do.
@@ -25,35 +24,11 @@ public:
   bool operator==(const omu_Primitive&) const override { return false; }
 };
 
-class ErrorStream {
-public:
-  ErrorStream() : m_Previous(aio_cerr().Redirect(&m_Text)) {}
-  ~ErrorStream() { aio_cerr().Redirect(m_Previous); }
-  std::string Text() const { return m_Text.str(); }
-
-private:
-  std::ostringstream m_Text;
-  std::ostream* m_Previous;
-};
-
 class TextRepr : public ::testing::Test {
 protected:
   void TearDown() override { omu_TextRepr::Instance() = omu_TextRepr(); }
 };
 }  // namespace
-
-TEST_F(TextRepr, Defaults) {
-  const omu_TextRepr& repr = omu_TextRepr::Instance();
-  EXPECT_EQ(repr.GetSimpleStyle(), 0);
-  EXPECT_EQ(repr.GetMaxRecursion(), 1);
-  EXPECT_EQ(repr.GetMaxElementsInSequence(), 2147483647);
-  EXPECT_EQ(repr.GetMaxReprStringSizeMB(), 1);
-  EXPECT_EQ(repr.GetZeroTolerance(), 1e-06);
-  EXPECT_EQ(repr.GetSignificantDigits(), 3);
-  EXPECT_EQ(repr.GetMaxRecursionString(), "%s object");
-  EXPECT_FALSE(repr.ShowPrivateMembers());
-  EXPECT_TRUE(repr.SortMembers());
-}
 
 TEST_F(TextRepr, RecursionLimitAndSimpleStyleBoundObjects) {
   omu_PrimTuple tuple(2);
@@ -93,16 +68,16 @@ TEST(StringFromQString, UnquotesOnlyTheMatchingQuote) {
       {"'\\\"'", "\\\""},
       {"''", ""},
       {"", ""}};
-  ErrorStream errors;
+  CapturedErrors errors;
   for (const auto& [quoted, text] : cases) EXPECT_EQ(omu_StringFromQString(quoted), text) << quoted;
   EXPECT_EQ(errors.Text(), "");
 }
 
 TEST(StringFromQString, ComplainsAboutBadQuoting) {
-  ErrorStream errors;
+  CapturedErrors errors;
   EXPECT_EQ(omu_StringFromQString("'x\""), "'x\"");
   EXPECT_EQ(errors.Text(), "omu_StringFromQString('x\")  QuotedString does not use ' or \". 'x\"\n");
-  ErrorStream shortOne;
+  CapturedErrors shortOne;
   EXPECT_EQ(omu_StringFromQString("'"), "'");
   EXPECT_EQ(shortOne.Text(),
             "QuotedString length < 2. '\nomu_StringFromQString(')  QuotedString does not use ' or \". '\n");
