@@ -1,7 +1,6 @@
 #include "TestArchive.h"
 #include "LibraryEnvironment.h"
 
-#include <cls_MetadataRegistrar.h>
 #include <mdl_PropertyTable.h>
 #include <nex_TextException.h>
 
@@ -94,12 +93,6 @@ TEST(PropertyTable, SortOrdersByTheTrailingColumnsLastMostSignificant) {
   EXPECT_TRUE(SameBits(clipped, Table(2, {2, 1, 3, 1, 1, 2})));
 }
 
-TEST(PropertyTable, SortKeepsEqualKeysInOrderAndTreatsMinusZeroAsZero) {
-  mdl_PropertyTable table = Table(2, {1, 0.0, 2, -0.0, 3, -1, 4, 0.0});
-  table.Sort(1);
-  EXPECT_TRUE(SameBits(table, Table(2, {3, -1, 1, 0.0, 2, -0.0, 4, 0.0})));
-}
-
 TEST(PropertyTable, ANaNKeyStopsARowWhereTheComparisonReachesIt) {
   mdl_PropertyTable table = Table(1, {3, NaN, 1});
   table.Sort(1);
@@ -107,20 +100,6 @@ TEST(PropertyTable, ANaNKeyStopsARowWhereTheComparisonReachesIt) {
   mdl_PropertyTable past = Table(2, {NaN, 5, 0, 1});
   past.Sort(2);  // decided by the last column before the NaN is reached
   EXPECT_TRUE(SameBits(past, Table(2, {0, 1, NaN, 5})));
-}
-
-TEST(PropertyTable, SortWithoutKeysOrRowsChangesNothing) {
-  for (int keys : {0, -1}) {
-    mdl_PropertyTable table = Table(2, {3, 2, 1, 0});
-    table.Sort(keys);
-    EXPECT_TRUE(SameBits(table, Table(2, {3, 2, 1, 0}))) << keys;
-  }
-  mdl_PropertyTable empty;
-  empty.Sort(2);
-  EXPECT_EQ(empty.Rows(), 0);
-  mdl_PropertyTable single = Table(3, {NaN, 2, 1});
-  single.Sort(3);
-  EXPECT_TRUE(SameBits(single, Table(3, {NaN, 2, 1})));
 }
 
 TEST(PropertyTable, SortGivesTheInsertionSortsExactResultOnRandomTables) {
@@ -216,15 +195,4 @@ TEST(PropertyTable, AForeignTableIsRefusedAsATextFailure) {
   for (const ForgedTable& table : forged) {
     EXPECT_THROW(RoundTrip<mdl_PropertyTable>(table, "forgedtable"), nex_TextException);
   }
-}
-
-TEST(PropertyTable, RegistersItsNameAndAttributes) {
-  const cls_ClassMetadata& metadata =
-      cls_MetadataRegistrar::Instance().Registrar().Get(mdl_PropertyTable::TypeId());
-  EXPECT_EQ(mdl_PropertyTable::TypeId(), 0xA0012u);
-  EXPECT_EQ(metadata.Name(), "mdl_PropertyTable");
-  ASSERT_EQ(metadata.Attributes().size(), 2u);
-  EXPECT_EQ(metadata.Attributes()[0].name, "table");
-  EXPECT_EQ(metadata.Attributes()[1],
-            (cls_Attribute{1, "allowEmptyFirstRow", cls_KIND_BOOL, 1, 0}));
 }
