@@ -50,6 +50,8 @@ function(cvx_test_suite name)
   add_executable(test_${name} ${sources})
   target_link_libraries(test_${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gmock GTest::gtest_main Threads::Threads)
   target_include_directories(test_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_compile_definitions(test_${name} PRIVATE
+    CVX_TEST_FIXTURES="${CMAKE_CURRENT_SOURCE_DIR}/fixtures")
   cvx_warnings(test_${name})
   set(labels)
   if(ARG_LABELS)

@@ -2,6 +2,8 @@
 // crash or leak. Inputs whose first byte is odd are taken as the payload of a well-formed file
 // (the fuzzer could not otherwise get past the checksum), so decoding and building objects
 // from records are exercised deeply; what is accepted is dumped and built into objects.
+// What could be read is saved again: the records' bytes decode to the same bytes, and the
+// objects built, written and read back write the same bytes again.
 #include <UTI_CaeUtils.h>
 #include <cls_Archive.h>
 #include <cls_MetadataRegistrar.h>
@@ -9,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <sstream>
 #include <string>
 
@@ -28,16 +31,30 @@ std::string WithHeader(std::string_view payload) {
   return file.append(payload);
 }
 
-void BuildEveryRecord(const cls_Archive& archive) {
-  const cls_ClassRegistrar& registry = cls_MetadataRegistrar::Instance().Registrar();
+const cls_ClassRegistrar& Registry() { return cls_MetadataRegistrar::Instance().Registrar(); }
+
+// Builds every object the archive's records allow and writes it into a new archive.
+cls_Archive Rewrite(const cls_Archive& archive) {
+  cls_Archive rewritten;
   for (int i = 0; i < archive.RootCount(); ++i) {
+    unsigned int typeId = 0;
+    void* object = nullptr;
     try {
-      unsigned int typeId = 0;
-      void* object = archive.Root(i).Construct(archive.RootValue(i), cls_RootTypeId, typeId);
-      if (object) registry.Get(typeId).Destroy(object);
+      object = archive.Root(i).Construct(archive.RootValue(i), cls_RootTypeId, typeId);
     } catch (const nex_Exception&) {
+      continue;
     }
+    if (!object) continue;
+    const cls_ClassMetadata& metadata = Registry().Get(typeId);
+    const auto destroy = [&metadata](void* built) { metadata.Destroy(built); };
+    const std::unique_ptr<void, decltype(destroy)> owned(object, destroy);
+    metadata.Write(owned.get(), rewritten.NewRoot());
   }
+  return rewritten;
+}
+
+void Check(bool holds) {
+  if (!holds) __builtin_trap();
 }
 }  // namespace
 
@@ -55,7 +72,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const cls_Archive archive = cls_Archive::FromBytes(bytes);
     std::ostringstream dump;
     archive.Dump(dump);
-    BuildEveryRecord(archive);
+    const std::string saved = archive.ToBytes();
+    Check(cls_Archive::FromBytes(saved).ToBytes() == saved);
+    const std::string objects = Rewrite(archive).ToBytes();
+    Check(Rewrite(cls_Archive::FromBytes(objects)).ToBytes() == objects);
   } catch (const nex_Exception&) {
   }
   return 0;

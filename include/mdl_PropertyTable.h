@@ -32,6 +32,7 @@ public:
   double operator()(int row, int column) const { return m_Table(row, column); }
   void Set(int row, int column, double value) { m_Table.Set(row, column, value); }
   const cow_2DArray<double>& Table() const noexcept { return m_Table; }
+  const cls_Uid& Uid() const noexcept { return m_Uid; }
   bool AllowEmptyFirstRow() const noexcept { return m_AllowEmptyFirstRow; }
   void SetAllowEmptyFirstRow(bool allow) noexcept { m_AllowEmptyFirstRow = allow; }
 

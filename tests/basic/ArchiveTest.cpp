@@ -13,6 +13,8 @@
 #include <cmath>
 #include <fstream>
 #include <limits>
+#include <thread>
+#include <vector>
 
 namespace {
 class BasicLibrary : public ::testing::Environment {
@@ -65,7 +67,7 @@ TEST(Archive, EveryValueKindRoundTripsBitForBit) {
   const cls_Archive loaded = SaveAndLoad(archive, "allkinds");
   const cls_ReadVisitor r = loaded.Root(0);
   EXPECT_EQ(r.TypeId(), AllKinds::TypeId());
-  EXPECT_EQ(r.Uid(), cls_Uid(42));
+  EXPECT_FALSE(r.Uid().IsNull());
   EXPECT_TRUE(r.Get<bool>("bool"));
   EXPECT_EQ(r.Get<char>("char"), 'q');
   EXPECT_EQ(r.Get<int>("int"), -7);
@@ -103,29 +105,58 @@ TEST(Archive, ReadingTheWrongFieldSaysWhatAndWhere) {
   EXPECT_THROW(cls_ReadVisitor(r, 0x12345u), nex_TextException);  // not its parent
 }
 
-TEST(Archive, AUidWrittenTwiceBecomesAReferenceThatReadsBack) {
+TEST(Archive, AUidWrittenTwiceIsStoredOnceUnlessItsContentsDiffer) {
   struct Item {
+    const char* text;
     static unsigned int TypeId() { return 0x7fff0003u; }
     void DBWrite(const cls_WriteVisitor& w) const {
       if (!w.StartWrite(TypeId(), cls_Uid(9))) return;
-      w.Write("text", "one object");
+      w.Write("text", text);
     }
   };
-  struct Twice {
+  struct Thrice {
     static unsigned int TypeId() { return 0x7fff0002u; }
     void DBWrite(const cls_WriteVisitor& w) const {
       w.StartWrite(TypeId(), cls_Uid());
-      w.WriteObject("first", Item());
-      w.WriteObject("second", Item());
+      w.WriteObject("first", Item{"one object"});
+      w.WriteObject("second", Item{"one object"});
+      w.WriteObject("changed", Item{"changed since"});
     }
   };
   cls_Archive archive;
-  archive.Add(Twice());
+  archive.Add(Thrice());
   const cls_Archive loaded = SaveAndLoad(archive, "twice");
   const cls_ReadVisitor r = loaded.Root(0);
-  EXPECT_NE(r.Field("first").As<std::shared_ptr<cls_Record>>(), nullptr);
-  EXPECT_EQ(*r.Field("second").As<cls_Ref>(), cls_Ref{cls_Uid(9)});
+  const cls_Uid first = r.Nested("first").Uid();
+  EXPECT_EQ(*r.Field("second").As<cls_Ref>(), cls_Ref{first});
   EXPECT_EQ(r.Nested("second").Get<cow_String>("text"), "one object");
+  EXPECT_EQ(r.Nested("changed").Get<cow_String>("text"), "changed since");
+  EXPECT_NE(r.Nested("changed").Uid(), first);
+}
+
+TEST(Archive, EveryClassLevelKeepsItsOwnContents) {
+  // Two objects of a two-level class: different outer identities, one inner identity.
+  struct Level {
+    unsigned int typeId;
+    std::uint64_t uid;
+    int value;
+    const Level* parent;
+    void DBWrite(const cls_WriteVisitor& w) const {
+      if (!w.StartWrite(typeId, cls_Uid(uid))) return;
+      if (parent) parent->DBWrite(cls_WriteVisitor(w, parent->typeId));
+      w.Write("value", value);
+    }
+  };
+  const Level innerOne{0x7fff0004u, 5, 1, nullptr}, innerTwo{0x7fff0004u, 5, 2, nullptr};
+  cls_Archive archive;
+  archive.Add(Level{0x7fff0005u, 7, 10, &innerOne});
+  archive.Add(Level{0x7fff0005u, 8, 20, &innerTwo});
+  const cls_Archive loaded = SaveAndLoad(archive, "levels");
+  for (int i = 0; i < 2; ++i) {
+    const cls_ReadVisitor outer = loaded.Root(i);
+    EXPECT_EQ(outer.Get<int>("value"), 10 * (i + 1));
+    EXPECT_EQ(cls_ReadVisitor(outer, 0x7fff0004u).Get<int>("value"), i + 1) << "object " << i;
+  }
 }
 
 TEST(Archive, AReferenceToItselfResolvesToTheSameRecord) {
@@ -143,7 +174,21 @@ TEST(Archive, AReferenceToItselfResolvesToTheSameRecord) {
   // The record lacks the parent level that nex_TextException reads first.
   EXPECT_THROW(loaded.Read<nex_TextException>(0), nex_TextException);
   const cls_ReadVisitor r = loaded.Root(0);
-  EXPECT_EQ(r.Nested("self").Uid(), cls_Uid(7));
+  EXPECT_EQ(r.Nested("self").Uid(), r.Uid());
+}
+
+TEST(Archive, OneArchiveIsReadFromSeveralThreadsAtOnce) {
+  cls_Archive archive;
+  archive.Add(AllKinds());
+  std::vector<std::thread> readers;
+  for (int t = 0; t < 4; ++t) {
+    readers.emplace_back([&archive] {
+      for (int i = 0; i < 200; ++i) {
+        EXPECT_EQ(archive.Root(0).ReadObject<nex_TextException>("error")->Text(), "nested");
+      }
+    });
+  }
+  for (std::thread& reader : readers) reader.join();
 }
 
 TEST(ArchiveFile, EveryTruncationIsRefusedClearly) {

@@ -14,6 +14,9 @@
 #include <string>
 #include <string_view>
 
+//
+// Threads: an archive being written belongs to one thread; once written (or loaded), any
+// number of threads may read it at once, since reading changes nothing.
 class BASIC_EXPORT cls_Archive {
 public:
   static constexpr std::uint32_t Version = 1;
@@ -54,10 +57,8 @@ public:
 private:
   friend class cls_WriteVisitor;
   friend class cls_ArchiveCodec;
-  friend class cls_ReadVisitor;
   bool Claim(const cls_Uid& uid, cls_Record* record);
 
   std::vector<std::unique_ptr<cls_Value>> m_Roots;  // stable addresses for writers' slots
   std::map<cls_Uid, cls_Record*> m_ByUid;
-  mutable int m_ReadDepth = 0;  // guards cyclic references while reading
 };

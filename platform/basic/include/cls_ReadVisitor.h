@@ -1,6 +1,7 @@
 #pragma once
 // Reads one record of an archive: the parent level through Parent(), fields by name, then
 // the uid. A missing field or one of another kind raises nex_TextException naming both.
+// Readers of one archive may be used from several threads at once: reading changes nothing.
 #include <BASIC_Export.h>
 #include <cls_Value.h>
 
@@ -64,6 +65,9 @@ private:
   template <class T>
   const T& Expect(const char* name, cls_Value::Kind kind) const;
 
+  cls_ReadVisitor(const cls_ReadVisitor& outer, const cls_Record& record);
+
   const cls_Archive* m_Archive;
   const cls_Record* m_Record;
+  int m_Depth = 0;  // readers this one is nested in: cyclic references end in an error
 };

@@ -1,6 +1,7 @@
 #pragma once
 // One field value of a persisted record: a scalar, a text, an enumerator name, a list, a
 // two-dimensional array, a nested record, or a reference (by uid) to a record written earlier.
+#include <BASIC_Export.h>
 #include <cls_Uid.h>
 #include <cow_String.h>
 
@@ -70,3 +71,8 @@ struct cls_Record {
     return nullptr;
   }
 };
+
+// The same kind and the same contents, floating-point numbers bit for bit, nested records
+// field by field, uids included: what decides whether one record may stand for another.
+BASIC_EXPORT bool Identical(const cls_Value& a, const cls_Value& b) noexcept;
+BASIC_EXPORT bool Identical(const cls_Record& a, const cls_Record& b) noexcept;

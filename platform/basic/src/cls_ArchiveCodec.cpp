@@ -7,6 +7,7 @@
 #include <bit>
 #include <cstring>
 #include <ostream>
+#include <unordered_map>
 
 namespace {
 constexpr const char* kSource = "cls/impl/cls_ArchiveCodec";
@@ -25,6 +26,41 @@ std::uint32_t Crc32(std::string_view bytes) {
   for (unsigned char b : bytes) crc = table[(crc ^ b) & 0xFFu] ^ (crc >> 8);
   return crc ^ 0xFFFFFFFFu;
 }
+
+// Numbers the identities of one archive file 1, 2, ... in write order, so its bytes depend
+// only on what is saved, and finds the earlier record that a record is identical to.
+class LocalIds {
+public:
+  // The number of the record a reference points to.
+  std::uint64_t OfReference(cls_Uid uid) {
+    if (uid.IsNull()) return 0;
+    Written& written = m_Written[uid.Value()];
+    if (written.first == 0) written.first = ++m_Last;
+    return written.first;
+  }
+  // The record's number, and whether an identical record was written under it already.
+  std::pair<std::uint64_t, bool> OfRecord(const cls_Record& record) {
+    if (record.uid.IsNull()) return {0, false};
+    Written& written = m_Written[record.uid.Value()];
+    for (const auto& [earlier, id] : written.records) {
+      if (Identical(*earlier, record)) return {id, true};
+    }
+    // A copy changed since the first record of its uid gets a number of its own.
+    const std::uint64_t id =
+        written.records.empty() && written.first != 0 ? written.first : ++m_Last;
+    if (written.first == 0) written.first = id;
+    written.records.emplace_back(&record, id);
+    return {id, false};
+  }
+
+private:
+  struct Written {
+    std::uint64_t first = 0;  // what references to the uid point to
+    std::vector<std::pair<const cls_Record*, std::uint64_t>> records;
+  };
+  std::unordered_map<std::uint64_t, Written> m_Written;
+  std::uint64_t m_Last = 0;
+};
 
 class Encoder {
 public:
@@ -48,11 +84,30 @@ public:
     bytes.append(text);
   }
   void Value(const cls_Value& value) {
+    if (const auto* record = value.As<std::shared_ptr<cls_Record>>()) return Record(**record);
     bytes.push_back(static_cast<char>(value.GetKind()));
     std::visit([this](const auto& data) { Data(data); }, value.GetData());
   }
 
 private:
+  void Record(const cls_Record& record) {
+    const auto [id, written] = m_Ids.OfRecord(record);
+    if (written) {
+      bytes.push_back(static_cast<char>(cls_Value::REF));
+      Put<std::uint64_t>(id);
+      return;
+    }
+    bytes.push_back(static_cast<char>(cls_Value::RECORD));
+    Put<std::uint32_t>(record.typeId);
+    Put<std::uint64_t>(id);
+    Value(record.parent);
+    Put(static_cast<std::uint32_t>(record.fields.size()));
+    for (const auto& [name, value] : record.fields) {
+      Text(name.View());
+      Value(value);
+    }
+  }
+
   void Data(std::monostate) {}
   void Data(bool b) { Put<std::uint8_t>(b ? 1 : 0); }
   void Data(char c) { Put(static_cast<std::uint8_t>(c)); }
@@ -72,17 +127,10 @@ private:
     Put<std::int32_t>(matrix.columns);
     for (const cls_Value& cell : matrix.cells) Value(cell);
   }
-  void Data(const std::shared_ptr<cls_Record>& record) {
-    Put<std::uint32_t>(record->typeId);
-    Put<std::uint64_t>(record->uid.Value());
-    Value(record->parent);
-    Put(static_cast<std::uint32_t>(record->fields.size()));
-    for (const auto& [name, value] : record->fields) {
-      Text(name.View());
-      Value(value);
-    }
-  }
-  void Data(const cls_Ref& ref) { Put<std::uint64_t>(ref.uid.Value()); }
+  void Data(const std::shared_ptr<cls_Record>&) {}  // written by Record
+  void Data(const cls_Ref& ref) { Put<std::uint64_t>(m_Ids.OfReference(ref.uid)); }
+
+  LocalIds m_Ids;
 };
 
 class Decoder {
@@ -145,7 +193,7 @@ public:
       case cls_Value::LIST: return List(depth);
       case cls_Value::MATRIX: return Matrix(depth);
       case cls_Value::RECORD: return Record(depth);
-      case cls_Value::REF: return cls_Ref{cls_Uid(Get<std::uint64_t>())};
+      case cls_Value::REF: return cls_Ref{Fresh(Get<std::uint64_t>())};
     }
     --m_At;
     Fail("an unknown value kind");
@@ -155,6 +203,14 @@ public:
 private:
   void Need(std::size_t n) const {
     if (n > m_Bytes.size() - m_At) Fail("the data ends early (truncated)");
+  }
+  // The process's own identity for an identity of the file: objects that shared one in the
+  // file share one again, and none collides with an object the process made itself.
+  cls_Uid Fresh(std::uint64_t fileUid) {
+    if (fileUid == 0) return cls_Uid();
+    const auto [at, added] = m_Fresh.try_emplace(fileUid);
+    if (added) at->second = cls_Uid::AllocateUid();
+    return at->second;
   }
   cls_Value Bool() {
     const std::uint8_t b = Get<std::uint8_t>();
@@ -181,7 +237,7 @@ private:
   cls_Value Record(int depth) {
     auto record = std::make_shared<cls_Record>();
     record->typeId = Get<std::uint32_t>();
-    record->uid = cls_Uid(Get<std::uint64_t>());
+    record->uid = Fresh(Get<std::uint64_t>());
     m_Claim(m_Archive, record->uid, record.get());
     record->parent = Value(depth + 1);
     const auto parentKind = record->parent.GetKind();
@@ -203,6 +259,7 @@ private:
   std::size_t m_At = 0;
   cls_Archive& m_Archive;
   bool (*m_Claim)(cls_Archive&, const cls_Uid&, cls_Record*);
+  std::unordered_map<std::uint64_t, cls_Uid> m_Fresh;
 };
 
 cow_String ClassLabel(unsigned int typeId) {

@@ -4,6 +4,9 @@
 // payload: u32 record count, then each top-level value. A value is a one-byte kind
 // (cls_Value::Kind) and its data; a record is u32 type id, u64 uid, its parent level as a
 // value, u32 field count and the fields as (u32 length, name bytes, value).
+// Uids in a file are its own: 1, 2, ... in the order records are written (0 is none). A
+// record identical to one written earlier under the same uid is stored as a reference to it;
+// reading gives each file uid a freshly allocated one.
 #include <cls_Archive.h>
 
 #include <iosfwd>

@@ -11,24 +11,12 @@ cow_String ClassLabel(unsigned int typeId) {
   if (const cls_ClassMetadata* metadata = Registry().Find(typeId)) return metadata->Name();
   return atr_StringBase::Format("0x%x", typeId);
 }
-
-// Counts nested object reads so that cyclic references end in an error, not a crash.
-class DepthGuard {
-public:
-  DepthGuard(int& depth, const cls_ReadVisitor& reader) : m_Depth(depth) {
-    if (++m_Depth > cls_Archive::MaxDepth) {
-      --m_Depth;
-      reader.Fail("objects nest too deeply (a cyclic reference?)");
-    }
-  }
-  ~DepthGuard() { --m_Depth; }
-  DepthGuard(const DepthGuard&) = delete;
-  DepthGuard& operator=(const DepthGuard&) = delete;
-
-private:
-  int& m_Depth;
-};
 }  // namespace
+
+cls_ReadVisitor::cls_ReadVisitor(const cls_ReadVisitor& outer, const cls_Record& record)
+    : m_Archive(outer.m_Archive), m_Record(&record), m_Depth(outer.m_Depth + 1) {
+  if (m_Depth > cls_Archive::MaxDepth) outer.Fail("objects nest too deeply (a cyclic reference?)");
+}
 
 cls_ReadVisitor::cls_ReadVisitor(const cls_ReadVisitor& outer, unsigned int parentTypeId)
     : cls_ReadVisitor(outer.Nested(outer.m_Record->parent)) {
@@ -101,12 +89,10 @@ const cls_Value::List& cls_ReadVisitor::ReadList(const char* name) const {
 
 cls_ReadVisitor cls_ReadVisitor::Nested(const cls_Value& value) const {
   if (const auto* record = value.As<std::shared_ptr<cls_Record>>()) {
-    return cls_ReadVisitor(*m_Archive, **record);
+    return cls_ReadVisitor(*this, **record);
   }
   if (const cls_Ref* ref = value.As<cls_Ref>()) {
-    if (const cls_Record* target = m_Archive->FindUid(ref->uid)) {
-      return cls_ReadVisitor(*m_Archive, *target);
-    }
+    if (const cls_Record* target = m_Archive->FindUid(ref->uid)) return cls_ReadVisitor(*this, *target);
     Fail(atr_StringBase::Format("it refers to uid %llu, which no record has",
                                 static_cast<unsigned long long>(ref->uid.Value()))
              .CStr());
@@ -129,7 +115,6 @@ void* cls_ReadVisitor::Construct(const cls_Value& value, unsigned int baseTypeId
                     .CStr());
   }
   if (metadata->IsAbstract()) reader.Fail("its class is abstract");
-  DepthGuard guard(m_Archive->m_ReadDepth, reader);
   void* object = metadata->Construct(reader);
   typeId = reader.TypeId();
   return object;

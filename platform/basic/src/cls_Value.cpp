@@ -1,5 +1,8 @@
 #include <cls_Value.h>
 
+#include <algorithm>
+#include <bit>
+
 const char* cls_Value::KindName(Kind kind) noexcept {
   static constexpr const char* names[] = {"nothing", "a bool",   "a character", "an int",
                                           "an unsigned int", "a double", "a text",
@@ -7,4 +10,40 @@ const char* cls_Value::KindName(Kind kind) noexcept {
                                           "an object",       "a reference", "a float",
                                           "a 64-bit int"};
   return kind < std::size(names) ? names[kind] : "an unknown value";
+}
+
+namespace {
+template <class T>
+bool SameData(const T& a, const T& b) noexcept {
+  if constexpr (std::is_floating_point_v<T>) {
+    return std::bit_cast<std::conditional_t<sizeof(T) == 8, std::uint64_t, std::uint32_t>>(a) ==
+           std::bit_cast<std::conditional_t<sizeof(T) == 8, std::uint64_t, std::uint32_t>>(b);
+  } else if constexpr (std::is_same_v<T, cls_Value::List>) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const cls_Value& x, const cls_Value& y) { return Identical(x, y); });
+  } else if constexpr (std::is_same_v<T, cls_Matrix>) {
+    return a.rows == b.rows && a.columns == b.columns && SameData(a.cells, b.cells);
+  } else if constexpr (std::is_same_v<T, std::shared_ptr<cls_Record>>) {
+    return a == b || Identical(*a, *b);
+  } else {
+    return a == b;
+  }
+}
+}  // namespace
+
+bool Identical(const cls_Value& a, const cls_Value& b) noexcept {
+  return a.GetKind() == b.GetKind() &&
+         std::visit(
+             [&b](const auto& data) {
+               return SameData(data, *std::get_if<std::decay_t<decltype(data)>>(&b.GetData()));
+             },
+             a.GetData());
+}
+
+bool Identical(const cls_Record& a, const cls_Record& b) noexcept {
+  return a.typeId == b.typeId && a.uid == b.uid && Identical(a.parent, b.parent) &&
+         std::equal(a.fields.begin(), a.fields.end(), b.fields.begin(), b.fields.end(),
+                    [](const auto& x, const auto& y) {
+                      return x.first == y.first && Identical(x.second, y.second);
+                    });
 }

@@ -14,12 +14,15 @@ cls_WriteVisitor::cls_WriteVisitor(cls_Archive& archive)
 }
 
 cls_WriteVisitor::cls_WriteVisitor(const cls_WriteVisitor& outer, unsigned int parentTypeId)
-    : m_Archive(outer.m_Archive), m_Slot(&outer.Current().parent), m_ExpectedTypeId(parentTypeId) {}
+    : m_Archive(outer.m_Archive),
+      m_Outer(&outer),
+      m_Slot(&outer.Current().parent),
+      m_ExpectedTypeId(parentTypeId) {}
 
 bool cls_WriteVisitor::StartWrite(unsigned int typeId, const cls_Uid& uid) const {
   NEX_ASSERT(m_Current == nullptr, kSource);
   NEX_ASSERT(m_ExpectedTypeId == 0 || m_ExpectedTypeId == typeId, kSource);
-  if (!uid.IsNull() && m_Archive->FindUid(uid)) {
+  if (IsNestedIn(uid)) {
     *m_Slot = cls_Ref{uid};
     return false;
   }
@@ -30,6 +33,14 @@ bool cls_WriteVisitor::StartWrite(unsigned int typeId, const cls_Uid& uid) const
   m_Archive->Claim(uid, m_Current);
   *m_Slot = std::move(record);
   return true;
+}
+
+bool cls_WriteVisitor::IsNestedIn(const cls_Uid& uid) const noexcept {
+  if (uid.IsNull()) return false;
+  for (const cls_WriteVisitor* outer = m_Outer; outer; outer = outer->m_Outer) {
+    if (outer->m_Current && outer->m_Current->uid == uid) return true;
+  }
+  return false;
 }
 
 cls_Record& cls_WriteVisitor::Current() const {
@@ -74,7 +85,7 @@ void cls_WriteVisitor::WriteObject(const char* name, unsigned int typeId,
 cls_WriteVisitor cls_WriteVisitor::Field(const char* name) const {
   auto& fields = Current().fields;
   fields.emplace_back(cow_String(name), cls_Value());
-  return cls_WriteVisitor(m_Archive, &fields.back().second, 0);
+  return cls_WriteVisitor(this, &fields.back().second);
 }
 
 cls_Value::List& cls_WriteVisitor::BeginList(const char* name, int count) const {
@@ -88,5 +99,5 @@ cls_Value::List& cls_WriteVisitor::BeginList(const char* name, int count) const 
 cls_WriteVisitor cls_WriteVisitor::Item(cls_Value::List& items) const {
   NEX_ASSERT(items.size() < items.capacity(), kSource);
   items.emplace_back();
-  return cls_WriteVisitor(m_Archive, &items.back(), 0);
+  return cls_WriteVisitor(this, &items.back());
 }

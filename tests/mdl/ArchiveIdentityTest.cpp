@@ -1,0 +1,323 @@
+// Identities in archives: a copy keeps its identity, yet no two objects with different
+// contents ever share a record; archive bytes depend only on what is saved; objects read back
+// take identities that cannot collide with the process's own.
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
+#include <g3d_ColorErrorException.h>
+#include <mdl_JaggedArray.h>
+#include <mdl_PropagatingAttribute.h>
+#include <mdl_PropertyTable.h>
+#include <mdl_Repository.h>
+#include <omu_PrimArray.h>
+#include <omu_PrimDictionary.h>
+#include <omu_PrimList.h>
+#include <omu_PrimWrapper.h>
+#include <omu_RangeErrorException.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <random>
+
+namespace {
+using Rng = std::mt19937;
+
+int Pick(Rng& rng, int count) { return std::uniform_int_distribution<int>(0, count - 1)(rng); }
+
+mdl_PropertyTable Table(std::initializer_list<double> keys) {
+  mdl_PropertyTable table(static_cast<int>(keys.size()), 2);
+  int row = 0;
+  for (double key : keys) {
+    table.Set(row, 0, key);
+    table.Set(row++, 1, 10 * key);
+  }
+  return table;
+}
+
+// The bytes of an archive holding the object alone: its contents, whatever its identities.
+template <class T>
+std::string SoloBytes(const T& object) {
+  cls_Archive archive;
+  archive.Add(object);
+  return archive.ToBytes();
+}
+
+std::string FileBytes(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+// One object of the model under test, whatever its class.
+class Item {
+public:
+  virtual ~Item() = default;
+  virtual std::unique_ptr<Item> Copy() const = 0;  // keeps the identities
+  virtual void Change(Rng& rng) = 0;               // new contents, same identities
+  virtual void Write(cls_Archive& archive) const = 0;
+  virtual std::unique_ptr<Item> ReadBack(const cls_Archive& archive, int index) const = 0;
+  virtual std::string Contents() const = 0;
+  virtual const char* Name() const = 0;
+};
+
+template <class T>
+class Held final : public Item {
+public:
+  using ChangeFn = void (*)(T&, Rng&);
+  Held(const char* name, T value, ChangeFn change)
+      : m_Name(name), m_Value(std::move(value)), m_Change(change) {}
+  std::unique_ptr<Item> Copy() const override { return std::make_unique<Held>(*this); }
+  void Change(Rng& rng) override { m_Change(m_Value, rng); }
+  void Write(cls_Archive& archive) const override { archive.Add(m_Value); }
+  std::unique_ptr<Item> ReadBack(const cls_Archive& archive, int index) const override {
+    return std::make_unique<Held>(m_Name, T(*archive.Read<T>(index)), m_Change);
+  }
+  std::string Contents() const override { return SoloBytes(m_Value); }
+  const char* Name() const override { return m_Name; }
+
+private:
+  const char* m_Name;
+  T m_Value;
+  ChangeFn m_Change;
+};
+
+double Number(Rng& rng) { return std::uniform_int_distribution<int>(-50, 50)(rng) / 4.0; }
+
+mdl_PropertyTable RandomTable(Rng& rng) {
+  mdl_PropertyTable table(1 + Pick(rng, 4), 1 + Pick(rng, 3));
+  for (int r = 0; r < table.Rows(); ++r) {
+    for (int c = 0; c < table.Columns(); ++c) table.Set(r, c, Number(rng));
+  }
+  return table;
+}
+
+omu_PrimDictionary<cow_String> RandomDictionary(Rng& rng) {
+  omu_PrimDictionary<cow_String> dictionary;
+  for (int i = Pick(rng, 4); i >= 0; --i) dictionary.Put(Number(rng), atr_StringBase::Format("k%d", Pick(rng, 6)));
+  return dictionary;
+}
+
+template <class T>
+void Unchanging(T&, Rng&) {}
+
+// Every persistent class a model holds, with a way to change it in place where it has one.
+using Maker = std::function<std::unique_ptr<Item>(Rng&)>;
+const std::vector<Maker>& Kinds() {
+  static const std::vector<Maker> kinds = {
+      [](Rng& rng) {
+        return std::make_unique<Held<mdl_PropertyTable>>(
+            "table", RandomTable(rng), [](mdl_PropertyTable& t, Rng& r) {
+              if (Pick(r, 2) == 0) return t.Sort(1);
+              t.Set(Pick(r, t.Rows()), Pick(r, t.Columns()), Number(r));
+            });
+      },
+      [](Rng& rng) {
+        mdl_PropAttr<double> attribute;
+        attribute = Number(rng);
+        return std::make_unique<Held<mdl_PropAttr<double>>>(
+            "double attribute", attribute, [](mdl_PropAttr<double>& a, Rng& r) {
+              if (Pick(r, 3) == 0) return a.NewUid();
+              a = Number(r);
+            });
+      },
+      [](Rng& rng) {
+        mdl_PropAttr<cow_String> attribute;
+        attribute = atr_StringBase::Format("v%d", Pick(rng, 9));
+        return std::make_unique<Held<mdl_PropAttr<cow_String>>>(
+            "text attribute", attribute, [](mdl_PropAttr<cow_String>& a, Rng& r) {
+              a = atr_StringBase::Format("w%d", Pick(r, 9));
+            });
+      },
+      [](Rng& rng) {
+        mdl_PropAttr<int> attribute;
+        attribute = Pick(rng, 100);
+        return std::make_unique<Held<mdl_PropAttr<int>>>(
+            "int attribute", attribute,
+            [](mdl_PropAttr<int>& a, Rng& r) { a = mdl_PropAttributeStateEnm(Pick(r, 5)); });
+      },
+      [](Rng& rng) {
+        mdl_JaggedArray rows;
+        rows.AppendRow(cow_List<double>{Number(rng)});
+        return std::make_unique<Held<mdl_JaggedArray>>(
+            "jagged array", rows,
+            [](mdl_JaggedArray& a, Rng& r) { a.AppendRow(cow_List<double>{Number(r), 1}); });
+      },
+      [](Rng& rng) {
+        return std::make_unique<Held<mdl_Repository>>(
+            "repository", mdl_Repository(atr_StringBase::Format("r%d", Pick(rng, 9))),
+            Unchanging<mdl_Repository>);
+      },
+      [](Rng& rng) {
+        return std::make_unique<Held<omu_PrimDictionary<cow_String>>>(
+            "dictionary", RandomDictionary(rng), [](omu_PrimDictionary<cow_String>& d, Rng& r) {
+              d.Put(Number(r), atr_StringBase::Format("k%d", Pick(r, 6)));
+            });
+      },
+      [](Rng& rng) {
+        omu_PrimWrapper wrapper;
+        wrapper.MemberDict() = RandomDictionary(rng);
+        return std::make_unique<Held<omu_PrimWrapper>>(
+            "wrapper", wrapper,
+            [](omu_PrimWrapper& w, Rng& r) { w.MemberDict().Put(Pick(r, 7), "count"); });
+      },
+      [](Rng& rng) {
+        omu_PrimList list(0, 8, '[');
+        list.Put(RandomDictionary(rng));
+        list.Put(Number(rng));
+        return std::make_unique<Held<omu_PrimList>>(
+            "list", list, [](omu_PrimList& l, Rng& r) {
+              if (l.Size() < 8) l.Put(Number(r));
+            });
+      },
+      [](Rng& rng) {
+        const int dims[] = {2};
+        const double numbers[] = {Number(rng), Number(rng)};
+        return std::make_unique<Held<omu_PrimArray>>("array", omu_PrimArray(1, dims, numbers),
+                                                     Unchanging<omu_PrimArray>);
+      },
+      [](Rng& rng) {
+        return std::make_unique<Held<omu_RangeErrorException>>(
+            "range error",
+            omu_RangeErrorException("size", 1, atr_StringBase::Format("%d", Pick(rng, 9)), 1, "9", 2),
+            Unchanging<omu_RangeErrorException>);
+      },
+      [](Rng& rng) {
+        return std::make_unique<Held<g3d_ColorErrorException>>(
+            "colour error", g3d_ColorErrorException(atr_StringBase::Format("c%d", Pick(rng, 9))),
+            Unchanging<g3d_ColorErrorException>);
+      },
+  };
+  return kinds;
+}
+
+using Model = std::vector<std::unique_ptr<Item>>;
+
+// Saves the whole model in one archive file and reads it back, checking every object.
+Model SaveAndLoadChecked(const Model& model, int step) {
+  cls_Archive archive;
+  for (const auto& item : model) item->Write(archive);
+  const cls_Archive loaded = SaveAndLoad(archive, "identity-model");
+  Model back;
+  for (std::size_t i = 0; i < model.size(); ++i) {
+    back.push_back(model[i]->ReadBack(loaded, static_cast<int>(i)));
+    EXPECT_EQ(back.back()->Contents(), model[i]->Contents())
+        << "step " << step << ": object " << i << " (" << model[i]->Name() << ") changed";
+  }
+  return back;
+}
+
+// What the fixture file of the first identity scheme holds: a table and its unchanged copy
+// (one record and a reference), a set attribute, a dictionary and its copy.
+struct FixtureModel {
+  mdl_PropertyTable table = Table({3, 1, 2});
+  mdl_PropertyTable copy = table;
+  mdl_PropAttr<double> attribute;
+  omu_PrimDictionary<cow_String> dictionary;
+  FixtureModel() {
+    attribute = 2.5;
+    dictionary.Put(cow_List<int>{1, 2}, "ids");
+    dictionary.Put(1.5, "x");
+  }
+};
+
+std::filesystem::path ThisProgram() { return std::filesystem::read_symlink("/proc/self/exe"); }
+}  // namespace
+
+TEST(ArchiveIdentity, ACopyChangedAfterCopyingKeepsItsOwnContents) {
+  const mdl_PropertyTable table = Table({3, 1, 2});
+  mdl_PropertyTable sorted = table;
+  sorted.Sort(1);
+  cls_Archive archive;
+  archive.Add(table);
+  archive.Add(sorted);
+  archive.Add(table);  // unchanged: stored as a reference
+  const cls_Archive loaded = SaveAndLoad(archive, "sorted-copy");
+  EXPECT_EQ(*loaded.Read<mdl_PropertyTable>(0), table);
+  EXPECT_EQ(*loaded.Read<mdl_PropertyTable>(1), Table({1, 2, 3}));
+  EXPECT_NE(loaded.RootValue(2).As<cls_Ref>(), nullptr);
+  EXPECT_EQ(loaded.Read<mdl_PropertyTable>(2)->Uid(), loaded.Read<mdl_PropertyTable>(0)->Uid());
+}
+
+TEST(ArchiveIdentity, ObjectsReadBackTakeIdentitiesTheProcessNeverGaveOut) {
+  // The fixture was written by another process, whose identities started at 1 as ours did.
+  const cls_Uid before = cls_Uid::AllocateUid();
+  const cls_Archive loaded = cls_Archive::Load(CVX_TEST_FIXTURES "/model-first-identities.cvxarch");
+  const auto back = loaded.Read<mdl_PropertyTable>(0);
+  EXPECT_GT(back->Uid(), before);
+  const mdl_PropertyTable made = Table({2});
+  EXPECT_NE(made.Uid(), back->Uid());
+}
+
+// The property the three cases above are instances of, on random histories.
+TEST(ArchiveIdentity, RandomHistoriesOfCopiesChangesSavesAndLoadsLoseNothing) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    Rng rng(seed);
+    Model model;
+    for (int step = 0; step < 60; ++step) {
+      const int op = model.empty() ? 0 : Pick(rng, 8);
+      if (op == 0) {
+        model.push_back(Kinds()[static_cast<std::size_t>(Pick(rng, static_cast<int>(Kinds().size())))](rng));
+      } else if (op <= 3) {
+        model.push_back(model[static_cast<std::size_t>(Pick(rng, static_cast<int>(model.size())))]->Copy());
+      } else if (op <= 6) {
+        model[static_cast<std::size_t>(Pick(rng, static_cast<int>(model.size())))]->Change(rng);
+      } else {
+        model = SaveAndLoadChecked(model, step);
+      }
+      if (HasFailure()) FAIL() << "seed " << seed;
+    }
+  }
+}
+
+TEST(ArchiveIdentity, TheSameModelSavedByProcessesWithDifferentHistoriesHasTheSameBytes) {
+  const auto program = ThisProgram().string();
+  std::string files[2];
+  for (int history = 0; history < 2; ++history) {
+    const auto path = TestFile("history" + std::to_string(history));
+    const std::string command = "CVX_SAVE_MODEL='" + path.string() + "' CVX_HISTORY=" +
+                                std::to_string(history * 1000) + " '" + program +
+                                "' --gtest_filter=ArchiveIdentity.SaveModelInThisProcess"
+                                " >/dev/null 2>&1";
+    ASSERT_EQ(std::system(command.c_str()), 0) << command;
+    files[history] = FileBytes(path);
+    std::filesystem::remove(path);
+  }
+  EXPECT_FALSE(files[0].empty());
+  EXPECT_EQ(files[0], files[1]);
+}
+
+// The child of the test above: allocates as many identities as its history says, then saves.
+TEST(ArchiveIdentity, SaveModelInThisProcess) {
+  const char* path = std::getenv("CVX_SAVE_MODEL");
+  if (!path) GTEST_SKIP() << "run by the test above";
+  for (int i = std::atoi(std::getenv("CVX_HISTORY")); i > 0; --i) (void)Table({1.0 * i});
+  cls_Archive archive;
+  const FixtureModel model;
+  archive.Add(model.table);
+  archive.Add(model.copy);
+  archive.Add(model.attribute);
+  archive.Add(model.dictionary);
+  archive.Add(omu_PrimDictionary<cow_String>(model.dictionary));
+  archive.Save(path);
+}
+
+TEST(ArchiveIdentity, ArchivesOfTheFirstIdentitySchemeStillLoad) {
+  const cls_Archive loaded =
+      cls_Archive::Load(CVX_TEST_FIXTURES "/model-first-identities.cvxarch");
+  const FixtureModel model;
+  ASSERT_EQ(loaded.RootCount(), 5);
+  const auto table = loaded.Read<mdl_PropertyTable>(0);
+  const auto copy = loaded.Read<mdl_PropertyTable>(1);
+  EXPECT_EQ(*table, model.table);
+  EXPECT_EQ(*copy, model.copy);
+  EXPECT_EQ(copy->Uid(), table->Uid());
+  EXPECT_EQ(*loaded.Read<mdl_PropAttr<double>>(2), model.attribute);
+  const auto dictionary = loaded.Read<omu_PrimDictionary<cow_String>>(3);
+  const auto dictionaryCopy = loaded.Read<omu_PrimDictionary<cow_String>>(4);
+  EXPECT_TRUE(*dictionary == model.dictionary);
+  EXPECT_TRUE(*dictionaryCopy == model.dictionary);
+  EXPECT_EQ(dictionaryCopy->EntriesUid(), dictionary->EntriesUid());
+}
