@@ -28,11 +28,16 @@ public:
   cls_Archive(const cls_Archive&) = delete;
   cls_Archive& operator=(const cls_Archive&) = delete;
 
-  // Writing: one top-level record per writer.
+  // Writing: one top-level record per writer. An Add that raises adds nothing.
   cls_WriteVisitor NewRoot();
   template <class T>
   void Add(const T& object) {
-    object.DBWrite(NewRoot());
+    try {
+      object.DBWrite(NewRoot());
+    } catch (...) {
+      m_Roots.pop_back();
+      throw;
+    }
   }
 
   // Reading.
@@ -43,7 +48,7 @@ public:
   std::unique_ptr<T> Read(int index) const {
     return Root(index).ReadObject<T>(RootValue(index));
   }
-  // The first record written with a uid, or null.
+  // The first record read from a file with a uid, or null (written records refer to none).
   const cls_Record* FindUid(cls_Uid uid) const noexcept;
 
   // The file form.

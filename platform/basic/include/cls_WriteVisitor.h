@@ -5,9 +5,9 @@
 // Every object is written in full, even when its uid was written before in this pass: the
 // archive file stores a record identical to one written earlier under the same uid as a
 // reference to it, so an unchanged object shared by several owners is stored once, while a copy
-// changed since keeps its own contents under an identity of its own. StartWrite answers false
-// only for a cycle, when the object being started is one this writer is nested in (same uid):
-// the slot then holds a reference to it. A null uid is always written.
+// changed since keeps its own contents under an identity of its own. StartWrite therefore
+// answers true; records nested deeper than an archive can read back (cls_Archive::MaxDepth, an
+// object that writes itself) raise nex_TextException instead.
 // A writer and the archive it fills belong to one thread.
 #include <BASIC_Export.h>
 #include <cls_Value.h>
@@ -56,17 +56,16 @@ public:
   unsigned int CurrentTypeId() const noexcept;
 
 private:
-  cls_WriteVisitor(const cls_WriteVisitor* outer, cls_Value* slot) noexcept
-      : m_Archive(outer->m_Archive), m_Outer(outer), m_Slot(slot), m_ExpectedTypeId(0) {}
+  cls_WriteVisitor(const cls_WriteVisitor& outer, cls_Value* slot, int levels) noexcept
+      : m_Archive(outer.m_Archive), m_Slot(slot), m_ExpectedTypeId(0), m_Depth(outer.m_Depth + levels) {}
   cls_WriteVisitor Field(const char* name) const;
   cls_WriteVisitor Item(cls_Value::List& items) const;
   cls_Value::List& BeginList(const char* name, int count) const;
   cls_Record& Current() const;
-  bool IsNestedIn(const cls_Uid& uid) const noexcept;
 
   cls_Archive* m_Archive;
-  const cls_WriteVisitor* m_Outer = nullptr;  // the writer this one's record is nested in
   cls_Value* m_Slot;                // where StartWrite puts the record or the reference
   unsigned int m_ExpectedTypeId;    // 0: any class
+  int m_Depth = 0;  // how deep its slot lies in the archive's values, as the reader counts
   mutable cls_Record* m_Current = nullptr;
 };

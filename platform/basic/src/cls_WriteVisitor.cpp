@@ -2,6 +2,7 @@
 #include <cls_MetadataRegistrar.h>
 #include <cls_WriteVisitor.h>
 #include <nex_AssertException.h>
+#include <nex_TextException.h>
 
 namespace {
 constexpr const char* kSource = "cls/impl/cls_WriteVisitor";
@@ -15,32 +16,24 @@ cls_WriteVisitor::cls_WriteVisitor(cls_Archive& archive)
 
 cls_WriteVisitor::cls_WriteVisitor(const cls_WriteVisitor& outer, unsigned int parentTypeId)
     : m_Archive(outer.m_Archive),
-      m_Outer(&outer),
       m_Slot(&outer.Current().parent),
-      m_ExpectedTypeId(parentTypeId) {}
+      m_ExpectedTypeId(parentTypeId),
+      m_Depth(outer.m_Depth + 1) {}
 
 bool cls_WriteVisitor::StartWrite(unsigned int typeId, const cls_Uid& uid) const {
   NEX_ASSERT(m_Current == nullptr, kSource);
   NEX_ASSERT(m_ExpectedTypeId == 0 || m_ExpectedTypeId == typeId, kSource);
-  if (IsNestedIn(uid)) {
-    *m_Slot = cls_Ref{uid};
-    return false;
+  if (m_Depth > cls_Archive::MaxDepth) {
+    NEX_THROW(nex_TextException("archive: objects nest too deeply to be read back (an object "
+                                "that writes itself?)"),
+              kSource);
   }
   auto record = std::make_shared<cls_Record>();
   record->typeId = typeId;
   record->uid = uid;
   m_Current = record.get();
-  m_Archive->Claim(uid, m_Current);
   *m_Slot = std::move(record);
   return true;
-}
-
-bool cls_WriteVisitor::IsNestedIn(const cls_Uid& uid) const noexcept {
-  if (uid.IsNull()) return false;
-  for (const cls_WriteVisitor* outer = m_Outer; outer; outer = outer->m_Outer) {
-    if (outer->m_Current && outer->m_Current->uid == uid) return true;
-  }
-  return false;
 }
 
 cls_Record& cls_WriteVisitor::Current() const {
@@ -85,7 +78,7 @@ void cls_WriteVisitor::WriteObject(const char* name, unsigned int typeId,
 cls_WriteVisitor cls_WriteVisitor::Field(const char* name) const {
   auto& fields = Current().fields;
   fields.emplace_back(cow_String(name), cls_Value());
-  return cls_WriteVisitor(this, &fields.back().second);
+  return cls_WriteVisitor(*this, &fields.back().second, 1);
 }
 
 cls_Value::List& cls_WriteVisitor::BeginList(const char* name, int count) const {
@@ -99,5 +92,5 @@ cls_Value::List& cls_WriteVisitor::BeginList(const char* name, int count) const 
 cls_WriteVisitor cls_WriteVisitor::Item(cls_Value::List& items) const {
   NEX_ASSERT(items.size() < items.capacity(), kSource);
   items.emplace_back();
-  return cls_WriteVisitor(this, &items.back());
+  return cls_WriteVisitor(*this, &items.back(), 2);  // in the list, in the record
 }
