@@ -3,7 +3,23 @@
 #include <cls_Archive.h>
 #include <nex_Exception.h>
 
+#include <exception>
 #include <iostream>
+#include <string>
+
+namespace {
+// Prints one archive; answers why it cannot, or nothing.
+std::string DumpOne(const char* path) {
+  try {
+    cls_Archive::Load(path).Dump(std::cout);
+  } catch (const nex_Exception& error) {
+    return error.UserReport().StdString();
+  } catch (const std::exception& error) {  // e.g. out of memory: the other files may still go
+    return error.what();
+  }
+  return {};
+}
+}  // namespace
 
 int main(int argc, char** argv) {
   if (argc < 2) {
@@ -14,12 +30,11 @@ int main(int argc, char** argv) {
   UTI_CaeUtils_initialize(count);  // so that records show their class names
   int status = 0;
   for (int i = 1; i < argc; ++i) {
-    try {
-      std::cout << argv[i] << ": ";
-      cls_Archive::Load(argv[i]).Dump(std::cout);
-    } catch (const nex_Exception& error) {
+    std::cout << argv[i] << ": ";
+    const std::string failure = DumpOne(argv[i]);
+    if (!failure.empty()) {
       std::cout << '\n';
-      std::cerr << error.UserReport().View() << '\n';
+      std::cerr << failure << '\n';
       status = 1;
     }
   }

@@ -54,6 +54,13 @@ public:
   // The file form.
   std::string ToBytes() const;
   static cls_Archive FromBytes(std::string_view bytes, std::string_view origin = "memory");
+  // Save replaces the file at path, or the file a symbolic link there points to (the link
+  // stays), keeping its permission bits; a crash at any moment leaves the old or the new file
+  // complete, and a failed save leaves the old file and no temporary file. Load reads only a
+  // regular file of at most MaxFileBytes (1 GiB). Either raises nex_TextException naming the
+  // path and the system's reason ("archive 'a.cvxarch': cannot be written: No space left on
+  // device"); a directory, device or FIFO is refused untouched.
+  static constexpr std::uintmax_t MaxFileBytes = std::uintmax_t{1} << 30;
   void Save(const std::filesystem::path& path) const;
   static cls_Archive Load(const std::filesystem::path& path);
   // A readable listing of every record, for people.

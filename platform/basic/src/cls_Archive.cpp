@@ -1,11 +1,7 @@
 #include <cls_Archive.h>
 #include "cls_ArchiveCodec.h"
+#include "cls_FileSystem.h"
 #include <nex_TextException.h>
-
-#include <fstream>
-#include <iterator>
-#include <random>
-#include <system_error>
 
 namespace {
 constexpr const char* kSource = "cls/impl/cls_Archive";
@@ -57,31 +53,20 @@ cls_Archive cls_Archive::FromBytes(std::string_view bytes, std::string_view orig
 
 void cls_Archive::Save(const std::filesystem::path& path) const {
   const std::string bytes = ToBytes();
-  std::filesystem::path temporary = path;
-  temporary += ".tmp" + std::to_string(std::random_device()());
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.flush();
-    if (!out) {
-      std::error_code ignored;
-      std::filesystem::remove(temporary, ignored);
-      FileError("cannot be written", path);
-    }
-  }
-  std::error_code error;
-  std::filesystem::rename(temporary, path, error);
-  if (error) {
-    std::filesystem::remove(temporary, error);
-    FileError("cannot be put in place", path);
+  try {
+    cls_FileSystem::ReplaceFile(path, bytes);
+  } catch (const cls_FileSystem::Failure& failure) {
+    FileError(failure.what(), path);
   }
 }
 
 cls_Archive cls_Archive::Load(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) FileError("cannot be opened", path);
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) FileError("cannot be read", path);
+  std::string bytes;
+  try {
+    bytes = cls_FileSystem::ReadFile(path, MaxFileBytes);
+  } catch (const cls_FileSystem::Failure& failure) {
+    FileError(failure.what(), path);
+  }
   return FromBytes(bytes, path.string());
 }
 

@@ -1,0 +1,194 @@
+#include "cls_FileSystem.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <cstdio>
+#include <optional>
+#include <random>
+#include <system_error>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace {
+constexpr int kMaxLinks = 40;  // as many as the kernel follows in one path
+constexpr std::size_t kRandomDigits = 16;
+
+[[noreturn]] void Fail(const char* what, int error = errno) {
+  throw cls_FileSystem::Failure(std::string(what) + ": " + std::system_category().message(error));
+}
+
+[[noreturn]] void NotRegular(const char* what) {
+  throw cls_FileSystem::Failure(std::string(what) + ": it is not a regular file");
+}
+
+[[noreturn]] void TooLarge(std::uintmax_t maxBytes) {
+  throw cls_FileSystem::Failure("cannot be read: it is larger than " + std::to_string(maxBytes) +
+                                " bytes");
+}
+
+// Closes the descriptor on every way out.
+class Descriptor {
+public:
+  explicit Descriptor(int fd) noexcept : m_Fd(fd) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (m_Fd >= 0) ::close(m_Fd);
+  }
+  int Get() const noexcept { return m_Fd; }
+  // Closes now: some file systems report a failed write only here.
+  bool Close() noexcept { return ::close(std::exchange(m_Fd, -1)) == 0; }
+
+private:
+  int m_Fd;
+};
+
+// What a path names once symbolic links are followed.
+struct Target {
+  fs::path path;
+  std::optional<mode_t> mode;  // the permission bits of the file there, if there is one
+};
+
+Target Resolve(fs::path path) {
+  for (int links = 0; links <= kMaxLinks; ++links) {
+    struct stat info {};
+    if (::lstat(path.c_str(), &info) != 0) {
+      if (errno == ENOENT) return {path, std::nullopt};  // a new file, maybe through a link
+      Fail("cannot be written");
+    }
+    if (S_ISREG(info.st_mode)) return {path, info.st_mode & 07777};
+    if (!S_ISLNK(info.st_mode)) NotRegular("cannot be written");
+    std::error_code error;
+    const fs::path link = fs::read_symlink(path, error);
+    if (error) Fail("cannot be written", error.value());
+    path = path.parent_path() / link;  // an absolute link replaces the whole path
+  }
+  Fail("cannot be written", ELOOP);
+}
+
+bool IsTemporaryOf(std::string_view name, std::string_view prefix) {
+  return name.size() == prefix.size() + kRandomDigits && name.starts_with(prefix) &&
+         std::all_of(name.begin() + static_cast<std::ptrdiff_t>(prefix.size()), name.end(),
+                     [](unsigned char c) { return std::isxdigit(c) != 0; });
+}
+
+// Best effort: a temporary file that cannot be listed or removed does no harm.
+void RemoveStale(const fs::path& folder, std::string_view prefix) {
+  const auto now = fs::file_time_type::clock::now();
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    if (!IsTemporaryOf(entry->path().filename().native(), prefix)) continue;
+    std::error_code unreadable;
+    const auto written = entry->last_write_time(unreadable);
+    if (!unreadable && now - written > cls_FileSystem::StaleAfter) {
+      fs::remove(entry->path(), unreadable);
+    }
+  }
+}
+
+std::string RandomDigits() {
+  std::random_device device;
+  const std::uint64_t value = (std::uint64_t{device()} << 32) | device();
+  char digits[kRandomDigits + 1];
+  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(value));
+  return digits;
+}
+
+// The new contents on their way in; removed again unless put in place.
+class Temporary {
+public:
+  Temporary(const fs::path& folder, const std::string& prefix)
+      : m_Path(folder / (prefix + RandomDigits())),
+        m_File(::open(m_Path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
+    if (m_File.Get() < 0) Fail("cannot be written");
+  }
+  Temporary(const Temporary&) = delete;
+  Temporary& operator=(const Temporary&) = delete;
+  ~Temporary() {
+    if (!m_Placed) ::unlink(m_Path.c_str());
+  }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t written = ::write(m_File.Get(), bytes.data(), bytes.size());
+      if (written >= 0) {
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+      } else if (errno != EINTR) {
+        Fail("cannot be written");
+      }
+    }
+  }
+
+  // Gives the file its permission bits and makes its contents durable.
+  void Finish(std::optional<mode_t> mode) {
+    if (mode && ::fchmod(m_File.Get(), *mode) != 0) Fail("cannot be written");
+    if (::fsync(m_File.Get()) != 0 || !m_File.Close()) Fail("cannot be written");
+  }
+
+  void PutInPlace(const fs::path& target) {
+    if (::rename(m_Path.c_str(), target.c_str()) != 0) Fail("cannot be put in place");
+    m_Placed = true;
+  }
+
+private:
+  fs::path m_Path;
+  Descriptor m_File;
+  bool m_Placed = false;
+};
+
+// Makes the rename durable.
+void SyncFolder(const fs::path& folder) {
+  const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (directory.Get() < 0) Fail("was replaced but cannot be synced");
+  // EINVAL: a file system that cannot sync a folder, where the rename is as durable as it gets.
+  if (::fsync(directory.Get()) != 0 && errno != EINVAL) Fail("was replaced but cannot be synced");
+}
+}  // namespace
+
+std::string cls_FileSystem::ReadFile(const fs::path& path, std::uintmax_t maxBytes) {
+  // Non-blocking, so that opening a FIFO does not wait for a writer (it is refused below);
+  // reads of a regular file ignore the flag.
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (file.Get() < 0) Fail("cannot be opened");
+  struct stat info {};
+  if (::fstat(file.Get(), &info) != 0) Fail("cannot be read");
+  if (!S_ISREG(info.st_mode)) NotRegular("cannot be read");
+  if (static_cast<std::uintmax_t>(info.st_size) > maxBytes) TooLarge(maxBytes);
+  // Room for one byte more shows a file that grew meanwhile; some say they are empty and aren't.
+  std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
+  std::size_t done = 0;
+  for (;;) {
+    if (done == bytes.size()) {
+      if (done > maxBytes) TooLarge(maxBytes);
+      bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(2 * done, maxBytes + 1)));
+    }
+    const ssize_t got = ::read(file.Get(), bytes.data() + done, bytes.size() - done);
+    if (got == 0) break;
+    if (got > 0) {
+      done += static_cast<std::size_t>(got);
+    } else if (errno != EINTR) {
+      Fail("cannot be read");
+    }
+  }
+  bytes.resize(done);
+  return bytes;
+}
+
+void cls_FileSystem::ReplaceFile(const fs::path& path, std::string_view bytes) {
+  const Target target = Resolve(path);
+  const fs::path folder = target.path.has_parent_path() ? target.path.parent_path() : ".";
+  const std::string prefix = "." + target.path.filename().string() + ".tmp";
+  RemoveStale(folder, prefix);
+  Temporary temporary(folder, prefix);
+  temporary.Write(bytes);
+  temporary.Finish(target.mode);
+  temporary.PutInPlace(target.path);
+  SyncFolder(folder);
+}
