@@ -6,37 +6,37 @@ if(CVX_SANITIZE)
   add_link_options(-fsanitize=${CVX_SANITIZE})
 endif()
 
-# Warnings as errors on our own code only.
+# Warnings on our own code only; errors only where the project's presets ask for them, so a
+# consumer building from source with another compiler is not stopped by a new warning.
 function(cvx_warnings target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${CVX_WERROR}>:-Werror>)
   # g++ 12 at -O3 wrongly reports overlapping copies inside std::string concatenation.
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(${target} PRIVATE -Wno-restrict)
   endif()
 endfunction()
 
-# A shared library whose sources are every .cpp under the given folders, with a generated
-# export header <PREFIX>_Export.h that defines <PREFIX>_EXPORT.
-function(cvx_shared_library target prefix)
-  cmake_parse_arguments(ARG "" "" "SOURCE_DIRS;PUBLIC_INCLUDES;LINKS" ${ARGN})
-  set(globs)
-  foreach(dir IN LISTS ARG_SOURCE_DIRS)
-    list(APPEND globs ${dir}/*.cpp)
-  endforeach()
-  file(GLOB sources CONFIGURE_DEPENDS ${globs})
+# A stand-in sibling library: a shared library whose sources are every .cpp under src/, with
+# a generated export header <PREFIX>_Export.h that defines <PREFIX>_EXPORT. Its headers install
+# under include/CaeUtils/<folder>, apart from the library's, so they cannot clash with the
+# real sibling library's; headers listed as INTERNAL stay out.
+function(cvx_standin_library target prefix folder)
+  cmake_parse_arguments(ARG "" "" "LINKS;INTERNAL" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/*.cpp)
   add_library(${target} SHARED ${sources})
   set(gen ${CMAKE_BINARY_DIR}/generated/${target})
   generate_export_header(${target} BASE_NAME ${prefix} EXPORT_FILE_NAME ${gen}/${prefix}_Export.h)
   target_include_directories(${target} PUBLIC
-    $<BUILD_INTERFACE:${gen}>
-    $<INSTALL_INTERFACE:include/CaeUtils>)
-  foreach(inc IN LISTS ARG_PUBLIC_INCLUDES)
-    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${inc}>)
-  endforeach()
-  if(ARG_LINKS)
-    target_link_libraries(${target} PUBLIC ${ARG_LINKS})
-  endif()
+    $<BUILD_INTERFACE:${gen}> $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
+    $<INSTALL_INTERFACE:include/CaeUtils/${folder}>)
+  target_link_libraries(${target} PUBLIC ${ARG_LINKS})
   cvx_warnings(${target})
+  set(excluded)
+  foreach(header IN LISTS ARG_INTERNAL)
+    list(APPEND excluded PATTERN ${header} EXCLUDE)
+  endforeach()
+  install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/include/ ${gen}/
+          DESTINATION include/CaeUtils/${folder} ${excluded})
 endfunction()
 
 # One GoogleTest executable per folder of tests, discovered by CTest. LABELS tag every test

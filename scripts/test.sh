@@ -14,7 +14,19 @@ run_suite() {
   ctest --preset "$preset"
 }
 
+# A project of its own builds against the installed library through find_package.
+run_consumer() {
+  echo "=== consumer"
+  local out=build/consumer
+  rm -rf "$out"
+  cmake --install build/debug --prefix "$out/prefix" >/dev/null
+  cmake -S tests/consumer -B "$out/build" -G Ninja -DCMAKE_PREFIX_PATH="$PWD/$out/prefix" >/dev/null
+  cmake --build "$out/build"
+  "$out/build/consumer"
+}
+
 run_suite debug
+run_consumer
 run_suite asan
 run_suite tsan
 
