@@ -33,6 +33,10 @@ public:
     FLAG_LAYER_XFORM = 0x20,
   };
 
+  // The default camera: perspective, the eye at (2, 0, 0) looking at the origin with +y up,
+  // a 1 x 1 window without offset, near 1 and far 10000, fit factor 4, no recorded model and
+  // not in layer-transform mode. Setters never raise: out-of-range input is limited or
+  // repaired as each one says.
   g3d_Camera() = default;
 
   // Equal when eye, target, up, the mode bits 0, 1, 3, 4 and 5, the view offset, window,
@@ -125,6 +129,7 @@ public:
   unsigned char GetFlags() const noexcept { return m_Flags; }
   // The host marks a view it set up itself; any camera operation clears the mark.
   void SetUserMark() noexcept { m_Flags |= FLAG_USER_MARK; }
+  // The eye's distance from a fitted sphere in parallel projection, in radii (default 4).
   float GetFitFactor() const noexcept { return m_FitFactor; }
   void SetFitFactor(float factor) noexcept { m_FitFactor = factor; }
   // The window-unit position of a world point: its projection scaled to the window, with the

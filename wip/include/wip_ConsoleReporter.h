@@ -7,8 +7,23 @@
 //   wip_ConsoleReporter console;
 //   wip_WIP::Instance().SetWipReporter(&console);   // uninstalled again when console dies
 //
-// RequestInterrupt may be called from any thread or from a signal handler; the running task
-// sees it through Interrupted / InterruptedThrow, and CommandDone forgets it.
+// What a progress report shows: "task [####----]  42%  420/1000 faces  1234 faces/s  0:05 left"
+// (plain style: "task:  42%  ..."). The bar is 24 characters wide. The rate is units finished
+// per second since the task's first report, on a steady clock (see Seconds), printed with two
+// decimals below 10 per second, one below 100 and none above; it is left out until it is
+// positive. The time left is the units still to do at that rate, as m:ss or h:mm:ss; a finished
+// task shows "in" and its elapsed time instead. A report of another task, or of fewer units
+// done than before, starts a new task.
+//
+// Defaults: STYLE_AUTO (a bar only when the stream is a terminal), verbose messages hidden, no
+// interrupt requested. Errors print as "Error: ", "Severe error: " or "Fatal error: " by level,
+// warnings as "Warning: ".
+//
+// Threads: a reporter is installed in one thread's front and called from that thread; each
+// report is one write to the stream, so reporters of several threads sharing a stream do not
+// mix within a line. RequestInterrupt alone may be called from any thread or from a signal
+// handler; the running task sees it through Interrupted / InterruptedThrow, and CommandDone
+// forgets it. The stream is not owned and must outlive the reporter.
 #include <aio_ostream.h>
 #include <wip_WipReporter.h>
 
