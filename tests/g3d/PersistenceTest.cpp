@@ -1,4 +1,4 @@
-// Registration and archive round trips of the persistent g3d classes.
+// Archive round trips of the persistent g3d classes.
 #include "LibraryEnvironment.h"
 #include "TestArchive.h"
 
@@ -7,24 +7,12 @@
 
 #include <UTI_Modules.h>
 #include <cls_Archive.h>
-#include <cls_MetadataRegistrar.h>
 #include <cls_xo1DArrayList.h>
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 
 namespace {
-TEST(G3dPersistenceTest, ClassesAreRegistered) {
-  const cls_ClassRegistrar& registry = cls_MetadataRegistrar::Instance().Registrar();
-  EXPECT_EQ(g3d_Vector::TypeId(), 0x240001u);
-  const cls_ClassMetadata* point = registry.Find(g3d_Point::TypeId());
-  ASSERT_NE(point, nullptr);
-  EXPECT_EQ(point->Name(), "g3d_Point");
-  ASSERT_EQ(point->Attributes().size(), 4u);
-  EXPECT_EQ(point->Attributes()[3].name, "w");
-  EXPECT_TRUE(registry.IsA(g3d_ColorErrorException::TypeId(), nex_CommandException::TypeId()));
-}
 
 TEST(G3dPersistenceTest, ValuesAndErrorRoundTripThroughAFile) {
   cls_Archive archive;

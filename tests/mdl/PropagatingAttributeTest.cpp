@@ -1,16 +1,15 @@
 #include "TestArchive.h"
 #include "LibraryEnvironment.h"
 
-#include <cls_MetadataRegistrar.h>
 #include <mdl_PropagatingAttribute.h>
 #include <mdl_PropagationStatusEnm.h>
 #include <omu_ValueErrorException.h>
-#include <typ_ArchCompTable.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <optional>
+#include <tuple>
 
 using PropString = mdl_PropAttr<cow_String>;
 
@@ -205,43 +204,12 @@ TEST(PropagationStatus, TheEnumerationWrapperKnowsAllSeventeenByName) {
   EXPECT_THROW(Status(static_cast<mdl_PropagationStatusEnm>(17)), omu_ValueErrorException);
 }
 
-// Every instantiation: a value, its registration name and class number.
-template <class T>
-struct Sample;
-template <>
-struct Sample<cow_String> {
-  static cow_String Value() { return "shell"; }
-};
-template <>
-struct Sample<double> {
-  static double Value() { return -0.1; }
-};
-template <>
-struct Sample<bool> {
-  static bool Value() { return true; }
-};
-template <>
-struct Sample<int> {
-  static int Value() { return -7; }
-};
-template <>
-struct Sample<cls_xpListInt> {
-  static cls_xpListInt Value() { return {3, -1, 4}; }
-};
-template <>
-struct Sample<cls_xp1DArrayInt> {
-  static cls_xp1DArrayInt Value() { return {9, 8}; }
-};
-template <>
-struct Sample<cls_xpListString> {
-  static cls_xpListString Value() { return {"a", "", "c"}; }
-};
-template <>
-struct Sample<cls_xp1DArrayListFloat> {
-  static cls_xp1DArrayListFloat Value() {
-    return {cls_xpList<float>{1.5f, -2.0f}, cls_xpList<float>{}, cls_xpList<float>{3.25f}};
-  }
-};
+// A value of every instantiation, found by its type.
+const auto kSamples = std::make_tuple(
+    cow_String("shell"), -0.1, true, -7, cls_xpListInt{3, -1, 4}, cls_xp1DArrayInt{9, 8},
+    cls_xpListString{"a", "", "c"},
+    cls_xp1DArrayListFloat{cls_xpList<float>{1.5f, -2.0f}, cls_xpList<float>{},
+                           cls_xpList<float>{3.25f}});
 
 template <class T>
 class PropAttrPersistence : public testing::Test {};
@@ -251,7 +219,7 @@ TYPED_TEST_SUITE(PropAttrPersistence, Instantiations);
 
 TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName) {
   for (mdl_PropAttributeStateEnm state : kStates) {
-    mdl_PropAttr<TypeParam> holder(Sample<TypeParam>::Value());
+    mdl_PropAttr<TypeParam> holder(std::get<TypeParam>(kSamples));
     holder.ForceState(state);
     cls_Archive archive;
     archive.Add(holder);
@@ -265,41 +233,6 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
     EXPECT_FALSE(read->Uid().IsNull());
     EXPECT_NE(read->Uid(), holder.Uid());  // read back from a file: a fresh identity
   }
-}
-
-TYPED_TEST(PropAttrPersistence, RegistersItsNameKindsAndNumber) {
-  using Holder = mdl_PropAttr<TypeParam>;
-  const cls_ClassMetadata& metadata =
-      cls_MetadataRegistrar::Instance().Registrar().Get(Holder::TypeId());
-  EXPECT_EQ(metadata.Name(), mdl_PropAttrClass<TypeParam>::name);
-  EXPECT_EQ(metadata.MetadataWord(), 203u);
-  ASSERT_EQ(metadata.Attributes().size(), 2u);
-  EXPECT_EQ(metadata.Attributes()[0], (cls_Attribute{0, "val", cls_xpItem<TypeParam>::Kind, 1, 0}));
-  EXPECT_EQ(metadata.Attributes()[1], (cls_Attribute{1, "state", cls_KIND_ENUM, 1, 0}));
-  EXPECT_EQ(Holder().DynTypeId(), Holder::TypeId());
-}
-
-TEST(PropAttrPersistence, TheFloatArrayHasTwoSpellings) {
-  const unsigned int floatArray = mdl_PropAttr<cls_xp1DArrayListFloat>::TypeId();
-  EXPECT_STREQ(typ_ArchCompTable::Instance().ClassName(floatArray), "mdl_Prop1DArrayListFloat");
-  EXPECT_EQ(cls_MetadataRegistrar::Instance().Registrar().Get(floatArray).Name(),
-            "mdl_PropList1DArrayListFloat");
-}
-
-TEST(MdlModule, RegistersItsClassesInOrder) {
-  std::vector<cow_String> names;
-  for (const auto& registration : cls_MetadataRegistrar::Instance().Registrations()) {
-    for (unsigned int typeId : registration.typeIds) {
-      if (cls_ModuleOf(typeId) != mdl_ModuleNumber) continue;
-      names.push_back(cls_MetadataRegistrar::Instance().Registrar().Get(typeId).Name() + "/" +
-                      atr_StringBase(registration.phase));
-    }
-  }
-  EXPECT_EQ(names, (std::vector<cow_String>{
-                       "mdl_PropString/7", "mdl_PropDouble/7", "mdl_PropBool/7",
-                       "mdl_PropListInt/7", "mdl_PropInt/7", "mdl_Prop1DArrayInt/7",
-                       "mdl_PropListString/7", "mdl_PropList1DArrayListFloat/7", "mdl_Extension/7",
-                       "mdl_Repository/7", "mdl_PropertyTable/7", "mdl_JaggedArray/4"}));
 }
 
 namespace {
