@@ -94,11 +94,19 @@ TEST(PrimString, ConstructorsFromNumbersAndConstants) {
   EXPECT_FALSE(Same(text, omu_PrimTranslatedString(atr_String("abc"))));
 }
 
-TEST(PrimScalars, TextOfComplexPathExpressionAndBoolean) {
-  EXPECT_EQ(omu_PrimComplex(omi_complex(1, -2)).AsString(0), "1-2j");
-  EXPECT_EQ(omu_PrimComplex(omi_complex(0.5, 0)).AsString(0), "0.5+0j");
-  EXPECT_EQ(omu_PrimComplex(omi_complex(1, -0.0)).AsString(0), "1+-0j");
-  EXPECT_EQ(omu_PrimComplex(omi_complex::FromPolar(2, 0)).AsString(0), "2+0j");
+TEST(PrimComplex, PlusOnlyBeforeAZeroOrPositiveImaginaryPart) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const double inf = std::numeric_limits<double>::infinity();
+  const std::pair<omi_complex, const char*> cases[] = {
+      {omi_complex(1, -2), "1-2j"},          {omi_complex(0.5, 0), "0.5+0j"},
+      {omi_complex(1, -0.0), "1+-0j"},       {omi_complex::FromPolar(2, 0), "2+0j"},
+      {omi_complex(1, nan), "1nanj"},        {omi_complex(1, -nan), "1-nanj"},
+      {omi_complex(nan, 1), "nan+1j"},       {omi_complex(1, inf), "1+infj"},
+      {omi_complex(1, -inf), "1-infj"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(omu_PrimComplex(value).AsString(0), text) << text;
+}
+
+TEST(PrimScalars, TextOfPathExpressionAndBoolean) {
   EXPECT_EQ(omu_PrimPath({"mdb", "models", "Model-1"}).AsString(0), "'mdb.models.Model-1'");
   EXPECT_EQ(omu_PrimPath({"a", "b.."}).AsString(0), "'a.b'");
   EXPECT_EQ(omu_PrimPath().AsString(0), "''");
