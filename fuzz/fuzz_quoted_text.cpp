@@ -5,6 +5,7 @@
 #include <omu_NameString.h>
 #include <omu_StringFromQString.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -23,10 +24,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::abort();
   }
   for (const char bracket : {'[', ']', '('}) {
-    for (const int start : {0, 1, static_cast<int>(size / 2), static_cast<int>(size) + 3}) {
+    for (const int start : {-1, 0, 1, static_cast<int>(size / 2), static_cast<int>(size) + 3}) {
       const int at = omu_GetBracketKeyPos(text, bracket, start);
       if (at < 0 || at > text.Length()) std::abort();
-      if (at < text.Length() && text[at] != bracket) std::abort();
+      // Other brackets search for empty patterns, found where the search starts.
+      if (bracket == '(' && at != std::clamp(start, 0, text.Length())) std::abort();
+      if (bracket != '(' && at < text.Length() && text[at] != bracket) std::abort();
     }
   }
   return 0;

@@ -29,11 +29,13 @@ unsigned int Truncated(float component) noexcept {
                                            : 0u;
 }
 
-// The six-sector HSV formula. False for a hue outside [0, 1) (negative or NaN).
+// The six-sector HSV formula. The sector is 6h truncated toward zero, so a hue just below
+// zero, in (-1/6, 0), falls in sector 0 with a negative fraction. False for a sector
+// outside 0-5 (a hue at or below -1/6, at or above 1, or NaN).
 template <class Real>
 bool Sector(Real h, Real s, Real v, Real out[3]) noexcept {
   const Real h6 = h * 6;
-  if (!(h6 >= 0 && h6 < 6)) return false;
+  if (!(h6 > -1 && h6 < 6)) return false;
   const int i = static_cast<int>(h6);
   const Real f = h6 - i;
   const Real p = (1 - s) * v, q = (1 - s * f) * v, t = (1 - (1 - f) * s) * v;

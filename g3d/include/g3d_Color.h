@@ -80,7 +80,9 @@ public:
   g3d_Color& Clamp() noexcept;
 
   _HSV GetHSV() const noexcept;
-  // Alpha is kept; a hue of 1 or more is taken as 0.
+  // Alpha is kept; a hue of 1 or more is taken as 0. The sector is 6h truncated toward zero,
+  // so a hue in (-1/6, 0) uses sector 0; a hue at or below -1/6, or NaN, leaves the colour
+  // unchanged.
   g3d_Color& SetHSV(const _HSV& hsv) noexcept;
 
   // Perceived brightness (Rec. 601 luma of r, g, b).
@@ -94,8 +96,8 @@ public:
 
   // Each value limited to at most 1; the lower bound is not applied.
   static _HSV PctToHSV(float h, float s, float v) noexcept;
-  // Channels of 16 bits (0-65535), rounded. False, with the channels untouched, for a hue
-  // whose sector falls outside 0-5 (a negative or NaN hue).
+  // Channels of 16 bits (0-65535), rounded; sectors as SetHSV. False, with the channels
+  // untouched, for a hue whose sector falls outside 0-5 (at or below -1/6, or NaN).
   static bool HSVToRGB(const _HSV& hsv, unsigned short& red, unsigned short& green,
                        unsigned short& blue) noexcept;
 

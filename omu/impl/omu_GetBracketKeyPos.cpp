@@ -12,5 +12,5 @@ int omu_GetBracketKeyPos(const cow_String& text, char bracket, int start) {
   };
   if (bracket == '[') return std::min(find("['", 0), find("[\"", 0));
   if (bracket == ']') return std::min(find("']", 1), find("\"]", 1));
-  return end;
+  return find({}, 0);
 }

@@ -12,7 +12,8 @@ omu_PrimComplex::omu_PrimComplex(const cls_ReadVisitor& reader)
 cow_String omu_PrimComplex::AsString(int) const {
   const double imag = m_Value.Imag();
   cow_String text(atr_StringBase(m_Value.Real()));
-  if (!(imag < 0.0)) text += '+';
+  // Only a zero or positive part takes a '+': NaN takes none, and -0 keeps its '+'.
+  if (imag >= 0.0) text += '+';
   text += atr_StringBase(imag);
   text += 'j';
   return text;

@@ -1,5 +1,7 @@
 #pragma once
-// A complex number; it prints as the script writes one: 1+2j, 1-2j.
+// A complex number; it prints as the script writes one: 1+2j, 1-2j. A '+' goes only before an
+// imaginary part that is zero or positive, so a NaN part prints 1nanj (-NaN 1-nanj) and -0
+// prints 1+-0j.
 #include <omi_complex.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>

@@ -6,6 +6,8 @@
 #include <cls_Uid.h>
 #include <cow_String.h>
 
+#include <concepts>
+
 class cls_ClassRegistrar;
 class cls_ReadVisitor;
 class cls_WriteVisitor;
@@ -44,3 +46,13 @@ private:
   char m_Type;
   cls_Uid m_Uid;
 };
+
+// Lets values of two kinds compare directly (omu_PrimNumber == omu_PrimString): with only the
+// virtual member, each kind's override is also a candidate with the operands reversed and
+// neither wins. The left operand's operator== decides, as between two root references.
+// Between a root reference and a concrete kind the language takes the concrete kind's
+// override on either side; where the two kinds' rules differ, compare like with like.
+template <std::derived_from<omu_Primitive> L, std::derived_from<omu_Primitive> R>
+bool operator==(const L& left, const R& right) {
+  return static_cast<const omu_Primitive&>(left).operator==(right);
+}

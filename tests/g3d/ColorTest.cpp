@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 namespace {
 constexpr float kByte = 0.003921568859368563f;
@@ -78,9 +79,21 @@ TEST(ColorTest, HsvBothWays) {
   EXPECT_EQ(hsv({0, 0, 1}).s, 1.0f);
   EXPECT_FLOAT_EQ(hsv({1, 0, 0.5f}).h, 1 - 0.5f / 6);  // negative sector wraps
   EXPECT_EQ(hsv({0.4f, 0.4f, 0.4f}).s, 0.0f);
-  EXPECT_EQ(g3d_Color().SetHSV({1, 1, 1}), g3d_Color().SetHSV({0, 1, 1}));
-  g3d_Color grey(0, 0, 0, 0.3f);
-  EXPECT_EQ(grey.SetHSV({0.7f, 0, 0.6f}), g3d_Color(0.6f, 0.6f, 0.6f, 0.3f));  // alpha kept
+  const float nan = std::nanf("");
+  const g3d_Color start(0.25f, 0.5f, 0.75f, 0.3f);  // alpha is always kept
+  const std::tuple<_HSV, g3d_Color, const char*> sets[] = {
+      {{0, 1, 1}, {1, 0, 0, 0.3f}, "red"},
+      {{1, 1, 1}, {1, 0, 0, 0.3f}, "a full turn is hue 0"},
+      {{0.7f, 0, 0.6f}, {0.6f, 0.6f, 0.6f, 0.3f}, "no saturation is grey"},
+      {{-0.0041859434f, 0.243137255f, 0.140353024f},
+       {0.140353024f, 0.105370902f, 0.106227975f, 0.3f},
+       "a hue just below 0 truncates to sector 0"},
+      {{-0.2f, 1, 1}, start, "sector -1 leaves the colour"},
+      {{nan, 1, 1}, start, "a NaN hue leaves the colour"}};
+  for (const auto& [hsv, expected, what] : sets) {
+    SCOPED_TRACE(what);
+    ExpectColor(g3d_Color(start).SetHSV(hsv), expected.r, expected.g, expected.b, expected.a);
+  }
   for (const g3d_Color c : {g3d_Color(0.2f, 0.7f, 0.1f), g3d_Color(0.9f, 0.3f, 0.5f),
                             g3d_Color(0.1f, 0.4f, 0.8f), g3d_Color(1, 1, 0)}) {
     g3d_Color back;
@@ -94,15 +107,23 @@ TEST(ColorTest, PctToHsvAndSixteenBitChannels) {
   EXPECT_EQ(limited.h, 1.0f);
   EXPECT_EQ(limited.s, 0.5f);
   EXPECT_EQ(limited.v, -1.0f);
-  unsigned short r = 1, g = 1, b = 1;
-  ASSERT_TRUE(g3d_Color::HSVToRGB({0.5f, 1, 1}, r, g, b));
-  EXPECT_EQ(r, 0);
-  EXPECT_EQ(g, 65535);
-  EXPECT_EQ(b, 65535);
-  ASSERT_TRUE(g3d_Color::HSVToRGB({0.3f, 0, 0.5f}, r, g, b));
-  EXPECT_EQ(r, 32768);
-  EXPECT_FALSE(g3d_Color::HSVToRGB({-0.5f, 1, 1}, r, g, b));
-  EXPECT_EQ(r, 32768);  // untouched
+  constexpr unsigned short kUntouched = 1;
+  const struct {
+    _HSV hsv;
+    bool delivered;
+    unsigned short r, g, b;
+  } channels[] = {{{0.5f, 1, 1}, true, 0, 65535, 65535},
+                  {{0.3f, 0, 0.5f}, true, 32768, 32768, 32768},
+                  {{-0.0041859434f, 0.243137255f, 0.140353024f}, true, 9198, 6905, 6962},
+                  {{-0.5f, 1, 1}, false, kUntouched, kUntouched, kUntouched},
+                  {{std::nanf(""), 1, 1}, false, kUntouched, kUntouched, kUntouched}};
+  for (const auto& c : channels) {
+    unsigned short r = kUntouched, g = kUntouched, b = kUntouched;
+    EXPECT_EQ(g3d_Color::HSVToRGB(c.hsv, r, g, b), c.delivered) << "hue " << c.hsv.h;
+    EXPECT_EQ(r, c.r) << "hue " << c.hsv.h;
+    EXPECT_EQ(g, c.g) << "hue " << c.hsv.h;
+    EXPECT_EQ(b, c.b) << "hue " << c.hsv.h;
+  }
 }
 
 TEST(ColorTest, ContrastAgainstBackgrounds) {

@@ -115,10 +115,10 @@ TEST(InterfaceObj, PathsCompareAndDecideEqualityWhenTheRulesSaySo) {
   TestPart second(data);
   EXPECT_EQ(first.Compare(&second), 0);
   EXPECT_EQ(first.ComparePath("mdb.models['M'].parts['Part-2']"), -1);
-  EXPECT_FALSE(first == static_cast<const omu_Primitive&>(second));  // other handle
-  EXPECT_TRUE(first == static_cast<const omu_Primitive&>(first));
+  EXPECT_FALSE(first == second);  // other handle
+  EXPECT_TRUE(first == first);
   TestPart byPath(data, omu_OperationRules(true));
-  EXPECT_TRUE(byPath == static_cast<const omu_Primitive&>(second));
+  EXPECT_TRUE(byPath == second);
   ScopedEnv info("CVX_STALEHANDLE_INFO", "1");
   CapturedErrors errors;
   first.Compare(&second);

@@ -2,7 +2,16 @@
 #include "TestArchive.h"
 
 #include <nex_TextException.h>
+#include <omu_PrimBool.h>
+#include <omu_PrimBoolean.h>
+#include <omu_PrimComplex.h>
+#include <omu_PrimEnumBase.h>
+#include <omu_PrimLeaf.h>
+#include <omu_PrimList.h>
 #include <omu_PrimNone.h>
+#include <omu_PrimNumber.h>
+#include <omu_PrimString.h>
+#include <omu_PrimTuple.h>
 #include <omu_PrimType.h>
 #include <omu_PrimWrapper.h>
 #include <omu_QueryPathMsg.h>
@@ -20,7 +29,54 @@ struct SetNone {
     w.Write("isSet", true);
   }
 };
+
+// A kind that equals everything, so a comparison shows whose operator== answered.
+class Agreeable : public omu_PrimLeaf<Agreeable, omu_Primitive> {
+public:
+  Agreeable() : omu_PrimLeaf('?') {}
+  cow_String AsString(int) const override { return "agreeable"; }
+  bool operator==(const omu_Primitive&) const override { return true; }
+};
+
+struct Comparison {
+  const char* what;
+  bool equal;    // left == right
+  bool unequal;  // left != right
+};
+
+// Compares the two values as their own kinds, with no cast to the root.
+template <class L, class R>
+Comparison Compare(const char* what, const L& left, const R& right) {
+  return {what, left == right, left != right};
+}
 }  // namespace
+
+TEST(Primitive, KindsCompareDirectlyByTheLeftOperandsRule) {
+  omu_PrimTuple pair(2);
+  pair.Put(1);
+  pair.Put(2);
+  const struct {
+    Comparison got;
+    bool equal;
+  } cases[] = {
+      {Compare("int 2, double 2.0", omu_PrimNumber(2), omu_PrimNumber(2.0)), true},
+      {Compare("int 2, unsigned 2", omu_PrimNumber(2), omu_PrimNumber(2u)), false},
+      {Compare("int 1, string 1", omu_PrimNumber(1), omu_PrimString("1")), false},
+      {Compare("string 1, int 1", omu_PrimString("1"), omu_PrimNumber(1)), false},
+      {Compare("boolean true, int 1", omu_PrimBoolean(true), omu_PrimNumber(1)), false},
+      {Compare("None, type", omu_PrimNone(), omu_PrimType()), false},
+      {Compare("ON constant, enumeration ON", omu_OnOffConst(true), omu_PrimEnumBase("ON")), true},
+      {Compare("enumeration On, ON constant", omu_PrimEnumBase("On"), omu_OnOffConst(true)), false},
+      {Compare("tuple (1, 2), list [1, 2]", pair, omu_PrimList(cow_List<int>{1, 2}, '(')), true},
+      {Compare("complex 2+0j, double 2", omu_PrimComplex(omi_complex(2, 0)), omu_PrimNumber(2.0)),
+       false},
+      {Compare("agreeable, int 1", Agreeable(), omu_PrimNumber(1)), true},
+      {Compare("int 1, agreeable", omu_PrimNumber(1), Agreeable()), false}};
+  for (const auto& [got, equal] : cases) {
+    EXPECT_EQ(got.equal, equal) << got.what;
+    EXPECT_EQ(got.unequal, !equal) << got.what;
+  }
+}
 
 TEST(PrimNone, CopiesAreAlwaysUnset) {
   const auto set = RoundTrip<omu_Primitive>(SetNone());
@@ -31,7 +87,7 @@ TEST(PrimNone, CopiesAreAlwaysUnset) {
   EXPECT_TRUE(*copy == omu_PrimNone());
   EXPECT_EQ(set->AsString(0), "None");
   EXPECT_EQ(set->TypeString(), "None");
-  EXPECT_FALSE(omu_PrimNone() == static_cast<const omu_Primitive&>(omu_PrimType()));  // other kinds differ
+  EXPECT_FALSE(omu_PrimNone() == omu_PrimType());  // other kinds differ
 }
 
 TEST(PrimType, TextAndDisplayKinds) {

@@ -56,8 +56,8 @@ TEST(PrimEnum, EqualityGoesByNameAcrossInstantiations) {
   const Formulation total(mdl_Model::TOTAL);
   const omu_PrimEnumBase sameName("TOTAL");
   const omu_PrimEnumBase otherCase("Total");
-  EXPECT_TRUE(total == static_cast<const omu_Primitive&>(sameName));
-  EXPECT_FALSE(total == static_cast<const omu_Primitive&>(otherCase));
+  EXPECT_TRUE(total == sameName);
+  EXPECT_FALSE(total == otherCase);
   std::unique_ptr<omu_Primitive> copy(total.Copy());
   EXPECT_TRUE(*copy == total);
   EXPECT_NE(dynamic_cast<Formulation*>(copy.get()), nullptr);

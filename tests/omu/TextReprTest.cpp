@@ -84,13 +84,21 @@ TEST(StringFromQString, ComplainsAboutBadQuoting) {
 }
 
 TEST(GetBracketKeyPos, FindsTheNearerQuotedBracket) {
-  const cow_String path("mdb.models['M-1'].parts[\"P\"]");
-  EXPECT_EQ(omu_GetBracketKeyPos(path, '[', 0), 10);
-  EXPECT_EQ(omu_GetBracketKeyPos(path, ']', 0), 16);
-  EXPECT_EQ(omu_GetBracketKeyPos(path, '[', 11), 23);
-  EXPECT_EQ(omu_GetBracketKeyPos(path, ']', 17), 27);
-  EXPECT_EQ(omu_GetBracketKeyPos("['a']", ']', 0), 4);
-  EXPECT_EQ(omu_GetBracketKeyPos("no keys", '[', 0), 7);
-  EXPECT_EQ(omu_GetBracketKeyPos("['a']", '(', 0), 5);
-  EXPECT_EQ(omu_GetBracketKeyPos("['a']", '[', 99), 5);
+  const char* const path = "mdb.models['M-1'].parts[\"P\"]";
+  const struct {
+    const char* text;
+    char bracket;
+    int start;
+    int at;
+  } cases[] = {
+      {path, '[', 0, 10},      {path, ']', 0, 16},      {path, '[', 11, 23},
+      {path, ']', 17, 27},     {"['a']", ']', 0, 4},    {"no keys", '[', 0, 7},
+      {"['a']", '[', 99, 5},   {"['a']", ']', -4, 4},
+      // Any other bracket finds its empty patterns where the search starts.
+      {"['a']", '(', 0, 0},    {"['a']", '(', 3, 3},    {"['a']", '(', 99, 5},
+      {"['a']", '(', -2, 0},   {"", '(', 0, 0}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(omu_GetBracketKeyPos(c.text, c.bracket, c.start), c.at)
+        << c.text << " " << c.bracket << " from " << c.start;
+  }
 }
