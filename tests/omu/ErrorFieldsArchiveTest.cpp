@@ -110,17 +110,19 @@ TEST(ErrorFieldsArchive, TheFixtureReadsBackToTheSameErrors) {
   ASSERT_EQ(loaded.RootCount(), static_cast<int>(std::size(kRows)));
   for (int i = 0; i < loaded.RootCount(); ++i) {
     const Row& row = kRows[i];
-    const auto made = Made(row);
-    const auto back = loaded.Read<nex_CommandException>(i);
-    ASSERT_NE(back, nullptr);
-    const char* name = typeid(*made).name();
-    ASSERT_EQ(typeid(*back), typeid(*made)) << name;
-    EXPECT_EQ(back->JournalMessage(), row.message) << name;
-    EXPECT_EQ(back->PythonType(), made->PythonType()) << name;
+    const auto madePtr = Made(row);
+    const auto backPtr = loaded.Read<nex_CommandException>(i);
+    ASSERT_NE(backPtr, nullptr);
+    const nex_CommandException& made = *madePtr;
+    const nex_CommandException& back = *backPtr;
+    const char* name = typeid(made).name();
+    ASSERT_EQ(typeid(back), typeid(made)) << name;
+    EXPECT_EQ(back.JournalMessage(), row.message) << name;
+    EXPECT_EQ(back.PythonType(), made.PythonType()) << name;
     // Field by field, as each writes itself again.
     cls_Archive original, again;
-    original.Add(*made);
-    again.Add(*back);
+    original.Add(made);
+    again.Add(back);
     const cls_Record& want = RootRecord(original);
     const cls_Record& got = RootRecord(again);
     ASSERT_EQ(got.fields.size(), want.fields.size()) << name;
@@ -129,7 +131,7 @@ TEST(ErrorFieldsArchive, TheFixtureReadsBackToTheSameErrors) {
       EXPECT_TRUE(Identical(got.fields[f].second, want.fields[f].second))
           << name << ": " << want.fields[f].first.View();
     }
-    EXPECT_EQ(SoloBytes(*back), SoloBytes(*made)) << name << ": a parent level differs";
+    EXPECT_EQ(SoloBytes(back), SoloBytes(made)) << name << ": a parent level differs";
   }
 }
 
