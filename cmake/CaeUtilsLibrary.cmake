@@ -3,9 +3,9 @@
 #
 #   bascore <- basic <- startup <- {wip, idb, g3d};  idb <- omu <- mdl <- uti
 #
-# startup holds the start-up declarations and module numbers every module includes; uti, the
-# library-wide start-up, brings all modules up. omu sits on idb for the wrapper's deep copy.
-# The objects of all modules make the one shared library CVXUTI_CaeUtils.
+# startup holds the start-up declarations, module numbers and field tables every module
+# includes; uti, the library-wide start-up, brings all modules up. omu sits on idb for the
+# wrapper's deep copy. The objects of all modules make the one shared library CVXUTI_CaeUtils.
 add_library(CVXUTI_CaeUtils SHARED)
 add_library(CaeUtils::CaeUtils ALIAS CVXUTI_CaeUtils)
 set(cvx_generated ${CMAKE_BINARY_DIR}/generated/CVXUTI_CaeUtils)

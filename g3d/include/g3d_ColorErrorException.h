@@ -1,24 +1,30 @@
 #pragma once
 // A colour name that g3d_ColorMap does not know, raised to scripts as "ColorError".
 #include <CVX_Export.h>
+#include <UTI_FieldError.h>
 #include <nex_CommandException.h>
-#include <nex_Raisable.h>
 
 class CVX_EXPORT g3d_ColorErrorException
-    : public nex_Raisable<g3d_ColorErrorException, nex_CommandException> {
+    : public UTI_FieldError<g3d_ColorErrorException, nex_CommandException> {
 public:
-  explicit g3d_ColorErrorException(const cow_String& name = cow_String()) : m_Value(name) {}
-  explicit g3d_ColorErrorException(const cls_ReadVisitor& reader);
+  // Each error made here takes an identity of its own.
+  explicit g3d_ColorErrorException(const cow_String& name = cow_String())
+      : UTI_FieldError(cls_Uid::AllocateUid()), m_Value(name) {}
+  explicit g3d_ColorErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
+    ReadFields(reader);
+  }
 
   atr_String JournalMessage() const override;
   cow_String PythonType() const override { return "ColorError"; }
-  void DBWrite(const cls_WriteVisitor& writer) const override;
 
+  static constexpr const char* ClassName = "g3d_ColorErrorException";
   static unsigned int TypeId() noexcept;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
 
   cow_String m_Value;  // the offending name
 
 private:
-  cls_Uid m_Uid = cls_Uid::AllocateUid();
+  friend UTI_FieldError;
+  static constexpr auto Fields() {
+    return UTI_FieldTable{UTI_Field{"m_Value", &g3d_ColorErrorException::m_Value, cls_KIND_STRING}};
+  }
 };

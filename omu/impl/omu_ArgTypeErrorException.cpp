@@ -1,17 +1,5 @@
-#include <cls_ClassRegistrar.h>
-#include <cls_ReadVisitor.h>
-#include <cls_TypeAdapter.h>
-#include <cls_WriteVisitor.h>
 #include <omu_ArgTypeErrorException.h>
 #include <utl_Catenator.h>
-
-omu_ArgTypeErrorException::omu_ArgTypeErrorException(const cls_ReadVisitor& reader)
-    : nex_Raisable(cls_ReadVisitor(reader, omu_TypeErrorException::TypeId())),
-      m_ArgNum(reader.Get<int>("m_ArgNum")),
-      m_Expecting(reader.Get<atr_String>("m_Expecting")),
-      m_Found(reader.Get<atr_String>("m_Found")),
-      m_NestingStr(reader.Get<atr_String>("m_NestingStr")),
-      m_Uid(reader.Uid()) {}
 
 atr_String omu_ArgTypeErrorException::JournalMessage() const {
   utl_Catenator text;
@@ -22,22 +10,4 @@ atr_String omu_ArgTypeErrorException::JournalMessage() const {
   }
   text << "; found " << m_Found << ", expecting " << m_Expecting;
   return text.String();
-}
-
-void omu_ArgTypeErrorException::DBWrite(const cls_WriteVisitor& writer) const {
-  if (!writer.StartLevel<omu_TypeErrorException>(TypeId(), m_Uid, *this)) return;
-  writer.Write("m_ArgNum", m_ArgNum);
-  writer.Write("m_Expecting", m_Expecting);
-  writer.Write("m_Found", m_Found);
-  writer.Write("m_NestingStr", m_NestingStr);
-}
-
-void omu_ArgTypeErrorException::InitializeMetadata(cls_ClassRegistrar& registrar) {
-  registrar
-      .AddClassMD(new cls_TypeAdapter<omu_ArgTypeErrorException>(
-          "omu_ArgTypeErrorException", 800, omu_TypeErrorException::TypeId()))
-      .AddAttribute({0, "m_ArgNum"}, cls_KIND_INT)
-      .AddAttribute({1, "m_Expecting"}, cls_KIND_STRING)
-      .AddAttribute({2, "m_Found"}, cls_KIND_STRING)
-      .AddAttribute({3, "m_NestingStr"}, cls_KIND_STRING);
 }

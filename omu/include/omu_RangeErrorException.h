@@ -3,12 +3,12 @@
 // qualifier is 0 (no limit on that side), 1 (inclusive) or 2 (exclusive); the keyword type
 // is 1 for an integer, 2 for a float.
 #include <CVX_Export.h>
+#include <UTI_FieldError.h>
 #include <UTI_Modules.h>
 #include <nex_CommandException.h>
-#include <nex_Raisable.h>
 
 class CVX_EXPORT omu_RangeErrorException
-    : public nex_Raisable<omu_RangeErrorException, nex_CommandException> {
+    : public UTI_FieldError<omu_RangeErrorException, nex_CommandException> {
 public:
   omu_RangeErrorException(const atr_String& keyword, int keywordType,
                           const atr_String& lowerLimit, int lowerQualifier,
@@ -19,11 +19,12 @@ public:
         m_LowerLimitQualifier(lowerQualifier),
         m_HigherLimitAsString(higherLimit),
         m_HigherLimitQualifier(higherQualifier) {}
-  explicit omu_RangeErrorException(const cls_ReadVisitor& reader);
+  explicit omu_RangeErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
+    ReadFields(reader);
+  }
 
   atr_String JournalMessage() const override;
   cow_String PythonType() const override { return "RangeError"; }
-  void DBWrite(const cls_WriteVisitor& writer) const override;
 
   const atr_String& Keyword() const noexcept { return m_Keyword; }
   int KeywordType() const noexcept { return m_KeywordType; }
@@ -32,15 +33,26 @@ public:
   const atr_String& HigherLimit() const noexcept { return m_HigherLimitAsString; }
   int HigherQualifier() const noexcept { return m_HigherLimitQualifier; }
 
+  static constexpr const char* ClassName = "omu_RangeErrorException";
   static unsigned int TypeId() noexcept { return omu_TypeId(9); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
 
 private:
+  friend UTI_FieldError;
+  static constexpr auto Fields() {
+    using E = omu_RangeErrorException;
+    return UTI_FieldTable{
+        UTI_Field{"m_Keyword", &E::m_Keyword, cls_KIND_STRING},
+        UTI_Field{"m_KeywordType", &E::m_KeywordType, cls_KIND_INT},
+        UTI_Field{"m_LowerLimitAsString", &E::m_LowerLimitAsString, cls_KIND_STRING},
+        UTI_Field{"m_LowerLimitQualifier", &E::m_LowerLimitQualifier, cls_KIND_INT},
+        UTI_Field{"m_HigherLimitAsString", &E::m_HigherLimitAsString, cls_KIND_STRING},
+        UTI_Field{"m_HigherLimitQualifier", &E::m_HigherLimitQualifier, cls_KIND_INT}};
+  }
+
   atr_String m_Keyword;
   int m_KeywordType;
   atr_String m_LowerLimitAsString;
   int m_LowerLimitQualifier;
   atr_String m_HigherLimitAsString;
   int m_HigherLimitQualifier;
-  cls_Uid m_Uid;
 };
