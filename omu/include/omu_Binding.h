@@ -15,7 +15,7 @@
 // code and Make where values of T can be put (omu_Puttable), Convert and Expected where they
 // can be got (omu_Gettable).
 //
-// The library binds the types of omu_BindingTypes (at the end). A type of one's own enters
+// The library binds the types that omu_BindingTypes lists. A type of one's own enters
 // with one specialisation, visible wherever it is put or got, and is then stored and read
 // through PutValue and GetValue of tuples, lists and argument lists, and Put and Get of
 // dictionaries; a type without one does not compile there. Enumeration classes bind as
@@ -59,7 +59,6 @@
 #include <omu_PrimString.h>
 #include <omu_PrimTranslatedString.h>
 #include <omu_PythonType.h>
-#include <omu_TypeList.h>
 #include <utl_FilePath.h>
 
 #include <algorithm>
@@ -460,21 +459,3 @@ struct CVX_EXPORT omu_Binding<cow_Map<cow_String, float>> {
     return omu_Binding<omu_PrimDictionary<cow_String>>::name;
   }
 };
-
-// The native types the library binds, for code that walks them (a script binding, a test)
-// instead of listing them again. Lists and arrays of other bound types bind as well.
-using omu_BindingTypes = omu_TypeList<
-    // scalars
-    int, unsigned int, short, signed char, float, double, bool, cow_String, atr_String,
-    utl_FilePath, const char*, omi_complex,
-    // collections
-    cow_List<int>, cow_List<bool>, cow_List<float>, cow_List<double>, cow_List<cow_String>,
-    cow_List<atr_String>, cow_List<omu_PrimEnumBase>, cow_2DArray<double>,
-    cow_2DArray<cow_String>, cow_Map<cow_String, float>,
-    // primitive classes
-    omu_PrimType, omu_PrimNone, omu_PrimPath, omu_PrimExpr, omu_PrimArray, omu_PrimTuple,
-    omu_PrimDictionary<int>, omu_PrimDictionary<cow_String>, omu_PrimList,
-    omu_ListPyObjectWrapper, omu_DictPyObjectWrapper<int>, omu_DictPyObjectWrapper<cow_String>,
-    omu_PrimEnumBase,
-    // lent
-    const omu_PyObjectWrapper*, const omu_ListPyObjectWrapper*, const omu_InterfaceObj*>;
