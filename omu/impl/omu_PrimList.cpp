@@ -4,7 +4,6 @@
 #include <cls_WriteVisitor.h>
 #include <omu_PrimEnumBase.h>
 #include <omu_PrimList.h>
-#include <omu_PrimMake.h>
 
 namespace {
 constexpr const char* kSource = "omu/impl/omu_PrimList";
@@ -18,7 +17,7 @@ omu_PrimList::omu_PrimList(int size, int maxSize, char typeCode)
 
 template <class T>
 void omu_PrimList::Fill(const cow_List<T>& values) {
-  for (const T& value : values) Put(omu_PrimMake(value).release());
+  for (const T& value : values) PutValue(value);
   Begin();
 }
 

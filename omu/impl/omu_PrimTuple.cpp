@@ -13,18 +13,14 @@
 #include <omu_ListPyObjectWrapper.h>
 #include <omu_PrimArray.h>
 #include <omu_NameString.h>
-#include <omu_PrimBoolean.h>
-#include <omu_PrimConvert.h>
 #include <omu_PrimEnumBase.h>
 #include <omu_PrimExpr.h>
 #include <omu_PrimList.h>
-#include <omu_PrimMake.h>
 #include <omu_PrimNumber.h>
 #include <omu_PrimPath.h>
 #include <omu_PrimString.h>
 #include <omu_PrimType.h>
 #include <omu_PyObjectWrapper.h>
-#include <omu_ReadTypeName.h>
 #include <omu_TextRepr.h>
 #include <utl_FilePath.h>
 
@@ -34,11 +30,6 @@
 namespace {
 constexpr const char* kSource = "omu/impl/omu_PrimTuple";
 constexpr const char* kMissing = "Tuple Index returned NULL";
-using StringFloatMap = cow_Map<cow_String, float>;
-
-bool IsNumberOf(const omu_Primitive& value, omu_PrimNumber::DataTypeEnm dataType) {
-  return value.IsType('i') && static_cast<const omu_PrimNumber&>(value).DataType() == dataType;
-}
 
 int CheckedCount(long long count) {
   if (count > INT_MAX) NEX_THROW(nex_TextException("PrimTuple too many elements"), kSource);
@@ -209,42 +200,42 @@ void omu_PrimTuple::Store(std::unique_ptr<omu_Primitive> value) {
   ++m_Cursor;
 }
 
-void omu_PrimTuple::Put(const cow_Map<cow_String, float>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_2DArray<cow_String>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_2DArray<double>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<double>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<omu_PrimEnumBase>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<atr_String>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<cow_String>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<float>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<bool>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_List<int>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(omu_ListPyObjectWrapper& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(omu_DictPyObjectWrapper<int>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(omu_DictPyObjectWrapper<cow_String>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimType& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimNone& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimEnumBase& value) { Store(omu_PrimMake(value)); }
+void omu_PrimTuple::Put(const cow_Map<cow_String, float>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_2DArray<cow_String>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_2DArray<double>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<double>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<omu_PrimEnumBase>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<atr_String>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<cow_String>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<float>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<bool>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_List<int>& value) { PutValue(value); }
+void omu_PrimTuple::Put(omu_ListPyObjectWrapper& value) { PutValue(value); }
+void omu_PrimTuple::Put(omu_DictPyObjectWrapper<int>& value) { PutValue(value); }
+void omu_PrimTuple::Put(omu_DictPyObjectWrapper<cow_String>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimType& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimNone& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimEnumBase& value) { PutValue(value); }
 void omu_PrimTuple::Put(omu_Primitive* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(omu_PyObjectWrapper* value) { Store(omu_PrimOwner(value)); }
 void omu_PrimTuple::Put(omu_InterfaceObj* value) { Store(omu_PrimOwner(value)); }
-void omu_PrimTuple::Put(const omu_PrimDictionary<cow_String>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimDictionary<int>& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimArray& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimTuple& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimPath& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omu_PrimExpr& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(double value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const utl_FilePath& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const omi_complex& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const atr_String& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const cow_String& value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(const char* value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(unsigned int value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(bool value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(int value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(short value) { Store(omu_PrimMake(value)); }
-void omu_PrimTuple::Put(signed char value) { Store(omu_PrimMake(value)); }
+void omu_PrimTuple::Put(const omu_PrimDictionary<cow_String>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimDictionary<int>& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimArray& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimTuple& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimPath& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omu_PrimExpr& value) { PutValue(value); }
+void omu_PrimTuple::Put(double value) { PutValue(value); }
+void omu_PrimTuple::Put(const utl_FilePath& value) { PutValue(value); }
+void omu_PrimTuple::Put(const omi_complex& value) { PutValue(value); }
+void omu_PrimTuple::Put(const atr_String& value) { PutValue(value); }
+void omu_PrimTuple::Put(const cow_String& value) { PutValue(value); }
+void omu_PrimTuple::Put(const char* value) { PutValue(value); }
+void omu_PrimTuple::Put(unsigned int value) { PutValue(value); }
+void omu_PrimTuple::Put(bool value) { PutValue(value); }
+void omu_PrimTuple::Put(int value) { PutValue(value); }
+void omu_PrimTuple::Put(short value) { PutValue(value); }
+void omu_PrimTuple::Put(signed char value) { PutValue(value); }
 
 // --- Get --------------------------------------------------------------------------------
 
@@ -264,15 +255,6 @@ void omu_PrimTuple::SetTypeError(int index, const cow_String& expected) {
   } else {
     m_TypeFound = element->IsType('c') ? element->AsString(0) : element->TypeString();
   }
-}
-
-template <class Taker>
-void omu_PrimTuple::Read(const char* expected, Taker&& accept) {
-  if (Readable()) {
-    const omu_Primitive* element = Index(m_Cursor);
-    if (!element || !accept(*element)) SetTypeError(m_Cursor, expected);
-  }
-  Advance();
 }
 
 bool omu_PrimTuple::Alternative() noexcept {
@@ -308,111 +290,51 @@ void omu_PrimTuple::End(cow_String context) {
 
 const omu_PyObjectWrapper* omu_PrimTuple::Get(const omu_PyObjectWrapper*) {
   const omu_PyObjectWrapper* wrapper = nullptr;
-  Read("PyObject", [&](const omu_Primitive& p) { return omu_PrimConvert(&p, wrapper); });
+  GetValue(wrapper);
   return wrapper;
 }
 
 const omu_InterfaceObj* omu_PrimTuple::Get(const char* typeName, const omu_InterfaceObj*) {
   const omu_InterfaceObj* object = nullptr;
-  Read(typeName ? typeName : omu_PythonType::Generic, [&](const omu_Primitive& p) {
-    return omu_PrimConvert(&p, object) && (!typeName || object->IsA(typeName));
-  });
+  if (Readable()) {
+    const bool taken = omu_PrimConvert(Index(m_Cursor), object, omu_BINDING_EXACT) &&
+                       (!typeName || object->IsA(typeName));
+    if (!taken) SetTypeError(m_Cursor, typeName ? typeName : omu_PythonType::Generic);
+  }
+  Advance();
   return object;
 }
 
-// The reads whose acceptance is omu_PrimConvert's, under their expected names.
-#define OMU_TUPLE_CONVERTING_GET(Type)                                                   \
-  void omu_PrimTuple::Get(Type& out) {                                                   \
-    Read(omu_ReadTypeName(omu_ReadType<Type>()),                                         \
-         [&out](const omu_Primitive& p) { return omu_PrimConvert(&p, out); });           \
-  }
-OMU_TUPLE_CONVERTING_GET(omu_ListPyObjectWrapper)
-OMU_TUPLE_CONVERTING_GET(omu_DictPyObjectWrapper<cow_String>)
-OMU_TUPLE_CONVERTING_GET(omu_DictPyObjectWrapper<int>)
-OMU_TUPLE_CONVERTING_GET(StringFloatMap)
-OMU_TUPLE_CONVERTING_GET(cow_2DArray<cow_String>)
-OMU_TUPLE_CONVERTING_GET(cow_2DArray<double>)
-OMU_TUPLE_CONVERTING_GET(cow_List<double>)
-OMU_TUPLE_CONVERTING_GET(cow_List<atr_String>)
-OMU_TUPLE_CONVERTING_GET(cow_List<cow_String>)
-OMU_TUPLE_CONVERTING_GET(cow_List<float>)
-OMU_TUPLE_CONVERTING_GET(cow_List<bool>)
-OMU_TUPLE_CONVERTING_GET(cow_List<int>)
-OMU_TUPLE_CONVERTING_GET(omu_PrimType)
-OMU_TUPLE_CONVERTING_GET(omu_PrimNone)
-OMU_TUPLE_CONVERTING_GET(omu_PrimArray)
-OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<cow_String>)
-OMU_TUPLE_CONVERTING_GET(omu_PrimDictionary<int>)
-OMU_TUPLE_CONVERTING_GET(omu_PrimTuple)
-OMU_TUPLE_CONVERTING_GET(omu_PrimPath)
-OMU_TUPLE_CONVERTING_GET(utl_FilePath)
-OMU_TUPLE_CONVERTING_GET(omi_complex)
-OMU_TUPLE_CONVERTING_GET(atr_String)
-OMU_TUPLE_CONVERTING_GET(cow_String)
-OMU_TUPLE_CONVERTING_GET(double)
-OMU_TUPLE_CONVERTING_GET(unsigned int)
-#undef OMU_TUPLE_CONVERTING_GET
-
-void omu_PrimTuple::Get(omu_PrimEnumBase& out) {
-  if (Readable()) {
-    const omu_Primitive* element = Index(m_Cursor);
-    if (!omu_PrimConvert(element, out)) SetTypeError(m_Cursor, out.TypeString());
-  }
-  Advance();
-}
-
-void omu_PrimTuple::Get(int& out) {
-  Read("int", [&out](const omu_Primitive& p) {
-    return IsNumberOf(p, omu_PrimNumber::INT) && omu_PrimConvert(&p, out);
-  });
-}
-
-void omu_PrimTuple::Get(short& out) {
-  Read("int", [&out](const omu_Primitive& p) {
-    return IsNumberOf(p, omu_PrimNumber::SHORT) && omu_PrimConvert(&p, out);
-  });
-}
-
-void omu_PrimTuple::Get(signed char& out) {
-  Read("int", [&out](const omu_Primitive& p) {
-    return IsNumberOf(p, omu_PrimNumber::SCHAR) && omu_PrimConvert(&p, out);
-  });
-}
-
-void omu_PrimTuple::Get(bool& out) {
-  if (!Readable()) return Advance();
-  const omu_Primitive* element = Index(m_Cursor);
-  if (element && element->IsType('b')) {
-    out = static_cast<const omu_PrimBoolean*>(element)->Value();
-    return Advance();
-  }
-  // A number stands for a flag when one of the integer reads takes it and it is 0 or 1.
-  int asInt = 0;
-  signed char asChar = 0;
-  short asShort = 0;
-  long long flag = 0;
-  Get(asInt);
-  if (!Alternative()) {
-    flag = asInt;
-  } else {
-    Get(asChar);
-    if (!Alternative()) {
-      flag = asChar;
-    } else {
-      Get(asShort);
-      if (Alternative()) {
-        SetTypeError(m_Cursor, "Boolean");
-        return Advance();
-      }
-      flag = asShort;
-    }
-  }
-  if (flag == 0 || flag == 1) {
-    out = flag == 1;
-  } else {
-    SetTypeError(m_Cursor - 1, "Boolean");
-  }
-}
+void omu_PrimTuple::Get(omu_ListPyObjectWrapper& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_DictPyObjectWrapper<cow_String>& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_DictPyObjectWrapper<int>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_Map<cow_String, float>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_2DArray<cow_String>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_2DArray<double>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_List<double>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_List<atr_String>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_List<cow_String>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_List<float>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_List<bool>& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_List<int>& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimType& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimNone& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimArray& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimEnumBase& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimDictionary<cow_String>& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimDictionary<int>& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimTuple& out) { GetValue(out); }
+void omu_PrimTuple::Get(omu_PrimPath& out) { GetValue(out); }
+void omu_PrimTuple::Get(utl_FilePath& out) { GetValue(out); }
+void omu_PrimTuple::Get(omi_complex& out) { GetValue(out); }
+void omu_PrimTuple::Get(atr_String& out) { GetValue(out); }
+void omu_PrimTuple::Get(cow_String& out) { GetValue(out); }
+void omu_PrimTuple::Get(double& out) { GetValue(out); }
+void omu_PrimTuple::Get(unsigned int& out) { GetValue(out); }
+void omu_PrimTuple::Get(int& out) { GetValue(out); }
+void omu_PrimTuple::Get(short& out) { GetValue(out); }
+void omu_PrimTuple::Get(signed char& out) { GetValue(out); }
+void omu_PrimTuple::Get(bool& out) { GetValue(out); }
 
 // --- Persistence --------------------------------------------------------------------------
 

@@ -1,11 +1,10 @@
 #include <omu_PrimList.h>
-#include <omu_PrimMake.h>
 #include <omu_ReturnPrim.h>
 
 template <class T>
 omu_PrimList* omu_ReturnPrim(const cow_List<T>& values) {
   auto list = std::make_unique<omu_PrimList>(values.Length());
-  for (const T& value : values) list->Put(omu_PrimMake(value).release());
+  for (const T& value : values) list->PutValue(value);
   return list.release();
 }
 
@@ -14,7 +13,7 @@ omu_PrimTuple* omu_ReturnPrim(const cow_2DArray<T>& values) {
   auto rows = std::make_unique<omu_PrimTuple>(values.Rows());
   for (int r = 0; r < values.Rows(); ++r) {
     auto row = std::make_unique<omu_PrimTuple>(values.Columns());
-    for (int c = 0; c < values.Columns(); ++c) row->Put(omu_PrimMake(values(r, c)).release());
+    for (int c = 0; c < values.Columns(); ++c) row->PutValue(values(r, c));
     rows->Put(row.release());
   }
   return rows.release();

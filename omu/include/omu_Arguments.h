@@ -7,11 +7,8 @@
 // type, a keyword value of the wrong type, too few arguments, too many. Keywords are taken as
 // text views: reading allocates nothing.
 #include <omu_CorvexName.h>
-#include <omu_PrimConvert.h>
 #include <omu_PrimDictionary.h>
-#include <omu_PrimEnumBase.h>
 #include <omu_PrimTuple.h>
-#include <omu_ReadTypeName.h>
 
 class CVX_EXPORT omu_Arguments : public omu_PrimLeaf<omu_Arguments, omu_PrimTuple> {
 public:
@@ -20,21 +17,22 @@ public:
   omu_Arguments& operator=(const omu_Arguments&) = default;
 
   using omu_PrimTuple::Get;
+  using omu_PrimTuple::GetValue;
   using omu_PrimTuple::Put;
 
   void Begin() override;
-  // Reads the parameter by position while positions last, else by its keyword. A missing
-  // required keyword, or a keyword value that does not convert to T, is kept for End; a
-  // missing optional keyword is no error and leaves out untouched.
+  // Reads the parameter by position while positions last (with the tuple's Get), else by its
+  // keyword (with T's binding, omu_Binding). A missing required keyword, or a keyword value
+  // that does not convert to T, is kept for End; a missing optional keyword is no error and
+  // leaves out untouched.
   template <class T>
   void Get(T& out, std::string_view keyword) {
-    if (m_ErrorArg == 0) {
-      if (m_Cursor < m_Size) return omu_PrimTuple::Get(out);
-      if (const omu_Primitive* value = Claim(keyword)) {
-        if (!omu_PrimConvert(value, out)) KeywordTypeError(keyword, ExpectedName(out), *value);
-      }
-    }
-    CountKeywordRead(keyword);
+    Read(out, keyword, [this](T& into) { omu_PrimTuple::Get(into); });
+  }
+  // The same for any bound type, by position with the tuple's GetValue.
+  template <omu_Gettable T>
+  void GetValue(T& out, std::string_view keyword) {
+    Read(out, keyword, [this](T& into) { omu_PrimTuple::GetValue(into); });
   }
   // A name validated by its kind (out's kind): an illegal name raises
   // omu_CorNameErrorException at once.
@@ -43,7 +41,8 @@ public:
   const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*,
                               std::string_view keyword);
 
-  // Stores value under keyword, for argument lists built to be passed on.
+  // Stores value under keyword (as the keyword dictionary's Put does), for argument lists
+  // built to be passed on.
   template <class T>
   void Put(const T& value, const cow_String& keyword) {
     m_Keywords.Put(value, keyword);
@@ -79,12 +78,18 @@ public:
   cow_String AsRepr() const override { return AsString(0); }
 
 private:
-  template <class T>
-    requires(!std::is_base_of_v<omu_PrimEnumBase, T>)
-  static cow_String ExpectedName(const T&) {
-    return omu_ReadTypeName(omu_ReadType<T>());
+  template <class T, class ByPosition>
+  void Read(T& out, std::string_view keyword, ByPosition&& byPosition) {
+    if (m_ErrorArg == 0) {
+      if (m_Cursor < m_Size) return byPosition(out);
+      if (const omu_Primitive* value = Claim(keyword)) {
+        if (!omu_PrimConvert(value, out)) {
+          KeywordTypeError(keyword, omu_Binding<T>::Expected(out), *value);
+        }
+      }
+    }
+    CountKeywordRead(keyword);
   }
-  static cow_String ExpectedName(const omu_PrimEnumBase& out) { return out.TypeString(); }
   // The keyword's value when the call gives it and no Get has taken it; else records the
   // missing keyword and answers null.
   const omu_Primitive* Claim(std::string_view keyword);

@@ -2,20 +2,18 @@
 // A script dictionary with integer keys (omu_PrimDictionary<int>, "omu_PrimIntDictionary")
 // or text keys (omu_PrimDictionary<cow_String>, "omu_PrimStrDictionary"). Entries are kept
 // in key order in a copy-on-write tree, so copies are O(1); typed reads and writes by key
-// spare command code the primitives inside (the accepted kinds are omu_PrimConvert's).
+// spare command code the primitives inside (through the value type's binding, omu_Binding,
+// whose reads convert as keyword reads do).
 //
 // The entries carry a persistence identity of their own, allocated by the constructor and
 // kept by copies; a write to entries that a copy still shares allocates a new one, so that
 // two dictionaries with one identity always hold the same entries.
 #include <cow_Btree.h>
 #include <cow_COW.h>
-#include <omu_PrimConvert.h>
+#include <omu_Binding.h>
 #include <omu_PrimDictionaryBase.h>
 #include <omu_PrimLeaf.h>
-#include <omu_PrimMake.h>
 #include <omu_PrimNone.h>
-
-#include <type_traits>
 
 template <class K>
 class CVX_EXPORT omu_PrimDictionary : public omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase> {
@@ -55,15 +53,16 @@ public:
   }
   // 1 when out was set from the value under key, 0 (out untouched) when the key is missing
   // or its value is not of a kind that T accepts.
-  template <class T>
+  template <omu_Gettable T>
   int Get(T& out, const K& key) const {
     return omu_PrimConvert(Find(key), out) ? 1 : 0;
   }
-  template <class T>
-    requires(!std::is_pointer_v<T>)
+  template <omu_Puttable T>
   void Put(const T& value, const K& key) {
     Store(key, omu_PrimMake(value));
   }
+  // A primitive of a class without a binding of its own, as a copy of itself.
+  void Put(const omu_Primitive& value, const K& key) { Store(key, omu_PrimOwner(value.Copy())); }
   // Takes ownership of value.
   void Put(omu_Primitive* value, const K& key) { Store(key, omu_PrimOwner(value)); }
   bool Remove(const K& key);

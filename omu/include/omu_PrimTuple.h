@@ -4,33 +4,15 @@
 // which raises the first fault found. Get never raises: a missing or mistyped value leaves
 // its output untouched and the fault is kept for End. Elements are copy-on-write handles,
 // so copying a tuple is O(1) whatever its size.
-#include <cow_2DArray.h>
 #include <cow_COW.h>
-#include <cow_List.h>
-#include <cow_Map.h>
+#include <omu_Binding.h>
 #include <omu_PrimLeaf.h>
 #include <omu_PrimSequence.h>
 
 #include <memory>
 #include <string>
 
-class atr_String;
 class cls_xcList;
-class omi_complex;
-class omu_InterfaceObj;
-class omu_PrimArray;
-class omu_PrimEnumBase;
-class omu_PrimExpr;
-class omu_PrimNone;
-class omu_PrimPath;
-class omu_PrimType;
-class omu_PyObjectWrapper;
-class omu_ListPyObjectWrapper;
-template <class K>
-class omu_DictPyObjectWrapper;
-template <class K>
-class omu_PrimDictionary;
-class utl_FilePath;
 
 using omu_PrimHandle = cow_ArrayCOW<omu_Primitive, cow_Virtual<omu_Primitive>>;
 
@@ -54,8 +36,9 @@ public:
   omu_PrimSequence* Repeat(int times) const override;
   omu_PrimSequence* Concat(omu_PrimSequence* other) const override;
 
-  // Each Put stores into the slot at the cursor and moves the cursor on. Scalars become
-  // the matching primitive, collections nested tuples, a string map a dictionary.
+  // Each Put stores into the slot at the cursor and moves the cursor on, as its type's binding
+  // makes it (omu_Binding): scalars become the matching primitive, collections nested tuples,
+  // a string map a dictionary, a primitive a copy of itself.
   virtual void Put(const cow_Map<cow_String, float>& value);
   virtual void Put(const cow_2DArray<cow_String>& value);
   virtual void Put(const cow_2DArray<double>& value);
@@ -95,8 +78,8 @@ public:
   virtual void Put(short value);
   virtual void Put(signed char value);
 
-  // Each Get reads the element at the cursor into its output and moves the cursor on.
-  // The wrapper is lent (null when refused).
+  // Each Get reads the element at the cursor into its output, as its type's binding takes it
+  // by position, and moves the cursor on. The wrapper is lent (null when refused).
   virtual const omu_PyObjectWrapper* Get(const omu_PyObjectWrapper*);
   // An interface object of the script type typeName (any object for null); lent, null when
   // refused.
@@ -141,6 +124,21 @@ public:
   // omu_ArgNumberErrorException when too few or too many values were read; an empty
   // context takes the nested error text.
   virtual void End(cow_String context);
+
+  // Put and Get for any bound type (omu_Binding), the library's or one bound outside it;
+  // GetValue takes by the positional rule. They carry other names than the overloads above so
+  // that no call of those changes overload: Put(1.5f) stays Put(double).
+  template <omu_Puttable T>
+  void PutValue(const T& value) {
+    Store(omu_PrimMake(value));
+  }
+  template <omu_Gettable T>
+  void GetValue(T& out) {
+    if (Readable() && !omu_PrimConvert(Index(m_Cursor), out, omu_BINDING_EXACT)) {
+      SetTypeError(m_Cursor, omu_Binding<T>::Expected(out));
+    }
+    Advance();
+  }
 
   // The values read from now on are optional.
   void Optional() noexcept { m_IsOptional = true; }
@@ -193,9 +191,6 @@ protected:
   cow_String m_NestedErrorStr;
 
 private:
-  template <class Taker>
-  void Read(const char* expected, Taker&& accept);
-  void ReadTo(omu_Primitive& out, const char* expected, char code);
   void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
 
   cow_List<omu_PrimHandle> m_PrimVector;

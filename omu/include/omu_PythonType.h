@@ -6,7 +6,7 @@
 
 class CVX_EXPORT omu_PythonType {
 public:
-  static constexpr const char* Generic = "CorvexObject";
+  static constexpr char Generic[] = "CorvexObject";
 
   omu_PythonType() : m_Name(Generic) {}
   explicit omu_PythonType(const cow_String& name) : m_Name(name) {}
