@@ -39,10 +39,9 @@ function(cvx_standin_library target prefix folder)
           DESTINATION include/CaeUtils/${folder} ${excluded})
 endfunction()
 
-# One GoogleTest executable per folder of tests, discovered by CTest. LABELS tag every test
-# of the suite (the tsan preset runs those labelled "threads").
+# One GoogleTest executable per folder of tests, discovered by CTest.
 function(cvx_test_suite name)
-  cmake_parse_arguments(ARG "" "" "LINKS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
   if(NOT sources)
     return()
@@ -53,10 +52,6 @@ function(cvx_test_suite name)
   target_compile_definitions(test_${name} PRIVATE
     CVX_TEST_FIXTURES="${CMAKE_CURRENT_SOURCE_DIR}/fixtures")
   cvx_warnings(test_${name})
-  set(labels)
-  if(ARG_LABELS)
-    set(labels LABELS "${ARG_LABELS}")
-  endif()
   gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST
-    PROPERTIES ENVIRONMENT "CVX_TEST_TMP=${CMAKE_CURRENT_BINARY_DIR}" ${labels})
+    PROPERTIES ENVIRONMENT "CVX_TEST_TMP=${CMAKE_CURRENT_BINARY_DIR}")
 endfunction()

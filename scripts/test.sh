@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds and runs every test: the suite in a normal build, again under ASan+UBSan,
-# then every fuzz target for a short time.
+# Builds and runs every test: the suite in a normal build, again under ASan+UBSan and under
+# ThreadSanitizer, then every fuzz target for a short time.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh

@@ -8,7 +8,7 @@ unsigned int g3d_ColorArray::Append(const g3d_Color& color) {
 }
 
 g3d_Color g3d_ColorArray::GetColor(unsigned int index) const {
-  return IntToFloatColor(m_Colors.At(static_cast<int>(index)));
+  return IntToFloatColor(m_Colors[static_cast<int>(index)]);
 }
 
 void g3d_ColorArray::GetColor(unsigned int index, float& r, float& g, float& b) const {

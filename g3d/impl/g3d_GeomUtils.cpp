@@ -281,7 +281,7 @@ bool g3d_GeomUtils::RangeOfPolygon(const cow_List<g3d_Point>& polygon, g3d_Point
 
 bool g3d_GeomUtils::PointInPolygon2D(const cow_List<g3d_Point>& polygon, const g3d_Point& p,
                                      const g3d_Point*) {
-  const g3d_Point* prev = &polygon.At(polygon.Length() - 1);
+  const g3d_Point* prev = &polygon[polygon.Length() - 1];
   bool prevAbove = prev->y >= p.y, inside = false;
   for (const g3d_Point& cur : polygon) {
     const bool curAbove = cur.y >= p.y;
@@ -314,7 +314,7 @@ g3d_ClipResultEnum g3d_GeomUtils::IntersectPolygonPolygon2D(const cow_List<g3d_P
                                                             const g3d_Point* max) {
   g3d_Point low, high;
   if (!(min && max)) {
-    const g3d_Point& seed = a.At(a.Length() - 1);
+    const g3d_Point& seed = a[a.Length() - 1];
     low = high = g3d_Point(seed.x, seed.y, seed.z);
     for (const g3d_Point& v : a) Widen(low, high, v);
     min = &low;

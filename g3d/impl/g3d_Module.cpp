@@ -16,6 +16,7 @@ void Start() {
                   {{&g3d_ColorErrorException::InitializeMetadata, 2},
                    {&g3d_Point::InitializeMetadata, 4},
                    {&g3d_Vector::InitializeMetadata, 4}});
+  g3d_ColorMap::Instance();  // made here, so that threads looking up names never race to make it
 }
 
 void Stop() {

@@ -7,6 +7,12 @@
 // target's distance in parallel projection. Positions given to Pan and ZoomTo are in window
 // units relative to the window centre, x right and y up. The target is the default centre of
 // zooming and rotation. Every operation that changes the view clears the user mark (bit 4).
+//
+// Threads: a camera is a value owned by one viewport and used by one thread at a time. It
+// takes no locks, and even its const reads (GetVOM, GetPM, ToWindow, operator== in
+// layer-transform mode) may rebuild the cached matrices, so two threads must not use one
+// camera at once, not even to read it; give another thread a copy. The one process-wide
+// state, the zoom-out mode of "CVX_ZOOM_TOWARD", is read once and may be read from any thread.
 #include <g3d_BoundingVolume.h>
 #include <g3d_XForm.h>
 

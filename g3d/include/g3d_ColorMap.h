@@ -1,6 +1,8 @@
 #pragma once
 // The process-wide table of colour names ("Red", "Sky blue", "Grey60", ...), all opaque.
-// Created on first use, destroyed when the g3d module stops.
+// Created when the g3d module starts (or on first use without it), destroyed when it stops.
+// Threads: once created it is only read, so any number of threads may look names up at once;
+// the creation on first use is not locked.
 #include <g3d_Color.h>
 
 #include <cow_Map.h>

@@ -29,6 +29,7 @@ public:
 
   int Rows() const noexcept { return m_Table.Rows(); }
   int Columns() const noexcept { return m_Table.Columns(); }
+  // A cell outside the table raises nex_TextException and changes nothing (see cow_2DArray).
   double operator()(int row, int column) const { return m_Table(row, column); }
   void Set(int row, int column, double value) { m_Table.Set(row, column, value); }
   const cow_2DArray<double>& Table() const noexcept { return m_Table; }

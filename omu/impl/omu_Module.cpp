@@ -21,7 +21,6 @@
 #include <omu_PrimDictionary.h>
 #include <omu_PrimEnumBase.h>
 #include <omu_PrimList.h>
-#include <omu_TextRepr.h>
 #include <omu_PrimException.h>
 #include <omu_PrimExpr.h>
 #include <omu_PrimNone.h>
@@ -33,7 +32,9 @@
 #include <omu_PrimWrapper.h>
 #include <omu_QueryPathMsg.h>
 #include <omu_RangeErrorException.h>
+#include <omu_TextRepr.h>
 #include <omu_TypeErrorException.h>
+#include <omu_TypeRegistryCache.h>
 #include <omu_ValueErrorException.h>
 #include <omu_ZeroDivisionErrorException.h>
 
@@ -49,6 +50,17 @@ template <class T>
 constexpr UTI_Registration Register(int phase) {
   return {&T::InitializeMetadata, phase};
 }
+
+// The module's process-wide singletons: made on start, on the starting thread, so that threads
+// that only read them never race to make them; released in this order on the last finalise.
+struct Singleton {
+  void (*make)();
+  void (*release)() noexcept;
+};
+constexpr Singleton kSingletons[] = {
+    {[] { omu_TextRepr::Instance(); }, &omu_TextRepr::Release},
+    {[] { omu_TypeRegistryCache::Instance(); }, &omu_TypeRegistryCache::Release},
+};
 
 void Start() {
   UTI_StartModule(omu_ModuleNumber, typ_ArchCompEntry(omu_ClassTable),
@@ -94,14 +106,11 @@ void Start() {
                       {&omu_InitializeBoolConstants, 2},  // omu_OnOffConst and its two siblings
                       Register<omu_QueryPathMsg>(2),
                   });
+  for (const Singleton& singleton : kSingletons) singleton.make();
 }
 
-// The module's process-wide singletons, released in this order on the last finalise; each
-// release does nothing when its singleton was never made.
-constexpr void (*kReleases[])() noexcept = {&omu_TextRepr::Release};
-
 void Stop() {
-  for (const auto release : kReleases) release();
+  for (const Singleton& singleton : kSingletons) singleton.release();
   UTI_StopModule(omu_ModuleNumber);
 }
 }  // namespace

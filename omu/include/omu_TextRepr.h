@@ -1,6 +1,6 @@
 #pragma once
-// The process-wide limits of the script text of values. Set them on the main thread before
-// printing starts: they are read without locks.
+// The process-wide limits of the script text of values, made when the omu module starts. Set
+// them on the main thread before printing starts: they are read without locks.
 //
 // Printers of objects and containers of objects follow one rule (BoundedText): simple
 // style prints a fixed short text; at or past the maximum recursion an object prints as

@@ -1,7 +1,8 @@
 #pragma once
 // The exposed-type registry: which script type names are exposed to scripts, and which names
-// a type answers to in type tests (its own, and any aliases registered for it). Process-wide;
-// fill it on the main thread before scripts run. Released by the omu module's finalise.
+// a type answers to in type tests (its own, and any aliases registered for it). Process-wide,
+// made when the omu module starts; fill it on the main thread before scripts run, after
+// which any number of threads may read it. Released by the omu module's finalise.
 #include <CVX_Export.h>
 #include <cow_Map.h>
 #include <cow_String.h>

@@ -2,11 +2,17 @@
 #include <cow_Btree.h>
 #include <cow_COW.h>
 #include <cow_List.h>
+#include <cow_Map.h>
 #include <cow_String.h>
+#include <nex_TextException.h>
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <limits>
+#include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 TEST(CowList, CopiesShareUntilTheFirstWrite) {
@@ -102,3 +108,100 @@ TEST(CowCOW, ClonesThroughTheVirtualCopyOnlyWhenShared) {
   EXPECT_TRUE(cow_COW<Shape>().IsNull());
 }
 
+namespace {
+// The text of the refusal, or "ok".
+template <class Call>
+std::string Refusal(Call&& call) {
+  try {
+    call();
+  } catch (const nex_TextException& e) {
+    return e.Text().StdString();
+  }
+  return "ok";
+}
+
+std::string ListRefusal(int index) {
+  return "List index " + std::to_string(index) + " out of range (length 3)";
+}
+
+constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+}  // namespace
+
+TEST(CowList, AnIndexOutsideIsRefusedAndChangesNothing) {
+  using Operation = void (*)(cow_List<int>&, int);
+  const struct {
+    const char* name;
+    Operation call;
+    int lastValid;  // Insert also takes the length itself
+  } operations[] = {
+      {"operator[]", [](cow_List<int>& l, int i) { (void)std::as_const(l)[i]; }, 2},
+      {"ConstGet", [](cow_List<int>& l, int i) { (void)l.ConstGet(i); }, 2},
+      {"Get", [](cow_List<int>& l, int i) { l.Get(i) = 9; }, 2},
+      {"Remove", [](cow_List<int>& l, int i) { l.Remove(i); }, 2},
+      {"Insert", [](cow_List<int>& l, int i) { l.Insert(i, 9); }, 3},
+  };
+  for (const auto& operation : operations) {
+    for (const int index : {-1, 3, 4, std::numeric_limits<int>::min()}) {
+      if (index <= operation.lastValid && index >= 0) continue;
+      const cow_List<int> original{1, 2, 3};
+      cow_List<int> list(original);
+      EXPECT_EQ(Refusal([&] { operation.call(list, index); }), ListRefusal(index))
+          << operation.name << '(' << index << ')';
+      EXPECT_TRUE(list.SharesWith(original)) << operation.name << '(' << index << ')';
+      EXPECT_EQ(list.Vector(), (std::vector<int>{1, 2, 3}))
+          << operation.name << '(' << index << ')';
+    }
+  }
+}
+
+TEST(Cow2DArray, ARowOrColumnOutsideIsRefusedAndChangesNothing) {
+  using Operation = void (*)(cow_2DArray<double>&, int, int);
+  const struct {
+    const char* name;
+    Operation call;
+  } operations[] = {
+      {"operator()", [](cow_2DArray<double>& a, int r, int c) { (void)std::as_const(a)(r, c); }},
+      {"Get", [](cow_2DArray<double>& a, int r, int c) { a.Get(r, c) = 9; }},
+      {"Set", [](cow_2DArray<double>& a, int r, int c) { a.Set(r, c, 9); }},
+  };
+  const struct {
+    int row, column;
+  } outside[] = {{-1, 0}, {2, 0}, {3, 0}, {0, -1}, {0, 3}, {0, 4}, {1, -3}, {-1, 4}};
+  for (const auto& operation : operations) {
+    for (const auto& at : outside) {
+      const cow_2DArray<double> original(2, 3, 1.0);
+      cow_2DArray<double> array(original);
+      const std::string expected = "Array index (" + std::to_string(at.row) + ", " +
+                                   std::to_string(at.column) + ") out of range (2 x 3)";
+      EXPECT_EQ(Refusal([&] { operation.call(array, at.row, at.column); }), expected)
+          << operation.name << '(' << at.row << ", " << at.column << ')';
+      EXPECT_EQ(array.Cells(), std::vector<double>(6, 1.0)) << operation.name;
+    }
+  }
+}
+
+// One rule for every container: elements compare with their own ==, so a NaN makes a container
+// unequal even to itself and to a copy that shares its storage.
+TEST(CowEquality, ANaNIsNeverEqualEvenOnSharedStorage) {
+  const cow_List<double> list{1.0, NaN};
+  const cow_List<float> floats{std::numeric_limits<float>::quiet_NaN()};
+  const cow_List<std::pair<int, double>> pairs{{1, NaN}};
+  const cow_Map<cow_String, double> map{{"a", NaN}};
+  const cow_Map<double, int> keys{{NaN, 1}};
+  const cow_2DArray<double> array(1, 2, NaN);
+  const struct {
+    const char* container;
+    std::function<bool()> equal;
+  } cases[] = {
+      {"cow_List<double>", [&] { return list == cow_List<double>(list); }},
+      {"cow_List<float>", [&] { return floats == cow_List<float>(floats); }},
+      {"cow_List<pair<int, double>>",
+       [&] { return pairs == cow_List<std::pair<int, double>>(pairs); }},
+      {"cow_Map<cow_String, double>", [&] { return map == cow_Map<cow_String, double>(map); }},
+      {"cow_Map<double, int>", [&] { return keys == cow_Map<double, int>(keys); }},
+      {"cow_2DArray<double>", [&] { return array == cow_2DArray<double>(array); }},
+  };
+  for (const auto& c : cases) EXPECT_FALSE(c.equal()) << c.container;
+  const cow_List<cow_String> names{"a", "b"};
+  EXPECT_TRUE(names == cow_List<cow_String>(names));
+}

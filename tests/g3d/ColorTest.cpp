@@ -9,7 +9,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <thread>
 #include <tuple>
+#include <vector>
 
 namespace {
 constexpr float kByte = 0.003921568859368563f;
@@ -69,6 +71,17 @@ TEST(ColorTest, NamesResolveOrRaiseColorError) {
     EXPECT_EQ(e.JournalMessage(), "Mauve is not a valid color name.");
     EXPECT_EQ(e.DynTypeId(), 0x240003u);
   }
+}
+
+// Run alone, as ctest runs each test, the threads are the map's first users; under
+// ThreadSanitizer this fails if they race to make it.
+TEST(ColorTest, NamesResolveOnSeveralThreadsAtOnce) {
+  std::vector<std::thread> threads;
+  for (int t = 0; t < 2; ++t) {
+    threads.emplace_back(
+        [] { ExpectColor(g3d_ColorMap::Instance().Lookup("Sky blue"), 0, 0.8f, 1, 1); });
+  }
+  for (std::thread& thread : threads) thread.join();
 }
 
 TEST(ColorTest, HsvBothWays) {

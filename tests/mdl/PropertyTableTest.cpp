@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <limits>
 #include <random>
+#include <string>
 
 namespace {
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
@@ -79,6 +80,24 @@ TEST(PropertyTable, EqualityNeedsFlagShapeAndEveryElementAndNaNIsNeverEqual) {
   const mdl_PropertyTable shared = withNaN;
   EXPECT_NE(shared, withNaN);                               // even when both share one body
   EXPECT_NE(mdl_PropertyTable(), mdl_PropertyTable(0, 4));  // no cells, but other column counts
+}
+
+// A script reaches Set with any numbers: a cell outside the table is refused, never another.
+TEST(PropertyTable, SetOutsideTheTableIsRefusedAndChangesNothing) {
+  const struct {
+    int row, column;
+  } outside[] = {{-1, 0}, {2, 0}, {0, -1}, {0, 2}, {1, -2}};
+  for (const auto& at : outside) {
+    mdl_PropertyTable table = Table(2, {1, 2, 3, 4});
+    try {
+      table.Set(at.row, at.column, 9);
+      ADD_FAILURE() << "Set(" << at.row << ", " << at.column << ") was not refused";
+    } catch (const nex_TextException& e) {
+      EXPECT_EQ(e.Text().StdString(), "Array index (" + std::to_string(at.row) + ", " +
+                                          std::to_string(at.column) + ") out of range (2 x 2)");
+    }
+    EXPECT_TRUE(SameBits(table, Table(2, {1, 2, 3, 4}))) << at.row << ", " << at.column;
+  }
 }
 
 TEST(PropertyTable, SortOrdersByTheTrailingColumnsLastMostSignificant) {

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+#include <vector>
 
 namespace {
 // An object that prints the way interface objects and object sequences do.
@@ -56,6 +58,19 @@ TEST_F(TextRepr, OmuFinalizeReleasesTheSettings) {
   EXPECT_FALSE(omu_TextRepr::Exists());
   omu_initialize(count);
   EXPECT_EQ(omu_TextRepr::Instance().GetMaxRecursion(), 1);
+}
+
+// Run alone, as ctest runs each test, the printers are the settings' first readers; under
+// ThreadSanitizer this fails if they race to make them.
+TEST(TextReprThreads, ValuesPrintOnSeveralThreadsAtOnce) {
+  omu_PrimTuple tuple(2);
+  tuple.Put(new ObjectLike);
+  tuple.Put(1);
+  std::vector<std::thread> printers;
+  for (int t = 0; t < 2; ++t) {
+    printers.emplace_back([&tuple] { EXPECT_EQ(tuple.AsString(0), "('Part object', 1)"); });
+  }
+  for (std::thread& printer : printers) printer.join();
 }
 
 TEST(StringFromQString, UnquotesOnlyTheMatchingQuote) {

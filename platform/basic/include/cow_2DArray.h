@@ -1,8 +1,25 @@
 #pragma once
 // A copy-on-write rows x columns array, stored row-major.
+//
+// Indexes: a row outside [0, Rows()) or a column outside [0, Columns()) raises
+// nex_TextException "Array index (R, C) out of range (ROWS x COLUMNS)" before anything is
+// read, written or un-shared.
+//
+// Equality: the same shape and equal cells, each compared with its own ==, so an array holding
+// a NaN is unequal even to itself. Arrays on one shared body are equal without comparing only
+// where cow_ReflexiveEquality<T> says every T equals itself.
+//
+// Threads: as cow_List. Copies may be read and written on different threads at once, each by
+// its own thread; one array object may be read from several threads at once, and a write to it
+// needs its one owner and no reader at the same time.
+#include <BASIC_Export.h>
+#include <cow_ReflexiveEquality.h>
 #include <cow_Shared.h>
 
 #include <vector>
+
+// Raises nex_TextException for a cell outside an array of the given shape.
+[[noreturn]] BASIC_EXPORT void cow_RaiseOutOfRange(int row, int column, int rows, int columns);
 
 template <class T>
 class cow_2DArray {
@@ -15,7 +32,10 @@ public:
   bool IsEmpty() const noexcept { return Body().cells.empty(); }
   const T& operator()(int row, int column) const { return Body().cells[Index(row, column)]; }
   const T& ConstGet(int row, int column) const { return (*this)(row, column); }
-  T& Get(int row, int column) { return m_Body.Write().cells[Index(row, column)]; }
+  T& Get(int row, int column) {
+    const std::size_t at = Index(row, column);
+    return m_Body.Write().cells[at];
+  }
   void Set(int row, int column, const T& value) { Get(row, column) = value; }
   // Every cell is reset to fill.
   void Resize(int rows, int columns, const T& fill = T()) {
@@ -30,6 +50,7 @@ public:
   bool IsShared() const noexcept { return m_Body.IsShared(); }
 
   friend bool operator==(const cow_2DArray& a, const cow_2DArray& b) {
+    if (cow_ReflexiveEquality<T>::value && a.m_Body.SharesWith(b.m_Body)) return true;
     return a.Rows() == b.Rows() && a.Columns() == b.Columns() && a.Cells() == b.Cells();
   }
 
@@ -40,8 +61,12 @@ private:
     std::vector<T> cells;
   };
   const Data& Body() const noexcept { return m_Body.Read(); }
-  std::size_t Index(int row, int column) const noexcept {
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(Body().columns) +
+  std::size_t Index(int row, int column) const {
+    const Data& body = Body();
+    if (row < 0 || row >= body.rows || column < 0 || column >= body.columns) {
+      cow_RaiseOutOfRange(row, column, body.rows, body.columns);
+    }
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(body.columns) +
            static_cast<std::size_t>(column);
   }
 

@@ -1,5 +1,6 @@
 #pragma once
-// The BasicUtils B-tree: an ordered copy-on-write map with the same interface as cow_Map.
+// The BasicUtils B-tree: an ordered copy-on-write map with the same interface as cow_Map,
+// and the same rules for equality and threads.
 #include <cow_Map.h>
 
 template <class K, class V>

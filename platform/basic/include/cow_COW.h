@@ -3,6 +3,11 @@
 // Get clones it through the policy P when it is shared. A handle may be empty (null).
 // The handle keeps the object's address beside the counted body, so that reading goes
 // straight to the object (one memory access, not two, per element of a large list).
+//
+// Threads: handles on one object may be used on different threads at once, each handle by its
+// own thread: Get clones a shared object before it is written. One handle may be read
+// (ConstGet) from several threads at once; Get, Reset and assignment need its one owner, and
+// the object they hand out must be written by one thread at a time.
 #include <cow_Copy.h>
 #include <cow_Shared.h>
 #include <cow_Virtual.h>

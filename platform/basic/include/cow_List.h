@@ -1,7 +1,20 @@
 #pragma once
 // A copy-on-write list: copying is O(1) whatever the length; the first write un-shares.
 // Iteration is read-only so that reading never copies.
+//
+// Indexes: an index outside [0, Length()) (for Insert, [0, Length()]) raises nex_TextException
+// "List index I out of range (length N)" before anything is read, written or un-shared.
+//
+// Equality: the same length and equal elements in order, each compared with its own ==, so a
+// list holding a NaN is unequal even to itself. Lists on one shared body are equal without
+// comparing only where cow_ReflexiveEquality<T> says every T equals itself.
+//
+// Threads: copies of one list may be read and written on different threads at once, each copy
+// by its own thread (the sharing count is atomic and the first write un-shares). One list
+// object may be read (const operations, iteration) from several threads at once; a write to it
+// needs its one owner and no reader at the same time.
 #include <BASIC_Export.h>
+#include <cow_ReflexiveEquality.h>
 #include <cow_Shared.h>
 
 #include <algorithm>
@@ -24,13 +37,11 @@ public:
 
   int Length() const noexcept { return static_cast<int>(Items().size()); }
   bool IsEmpty() const noexcept { return Items().empty(); }
-  const T& operator[](int index) const { return Items()[Count(index)]; }
-  const T& ConstGet(int index) const { return Items()[Count(index)]; }
-  T& Get(int index) { return m_Items.Write()[Count(index)]; }
-  // Checked read: an index outside [0, Length()) raises instead of reading past the end.
-  const T& At(int index) const {
-    if (index < 0 || index >= Length()) cow_RaiseOutOfRange(index, Length());
-    return Items()[Count(index)];
+  const T& operator[](int index) const { return Items()[Checked(index, Length())]; }
+  const T& ConstGet(int index) const { return (*this)[index]; }
+  T& Get(int index) {
+    const std::size_t at = Checked(index, Length());
+    return m_Items.Write()[at];
   }
   const_iterator begin() const noexcept { return Items().begin(); }
   const_iterator end() const noexcept { return Items().end(); }
@@ -47,12 +58,14 @@ public:
   void Append(const T& item) { m_Items.Write().push_back(item); }
   void Append(T&& item) { m_Items.Write().push_back(std::move(item)); }
   void Insert(int index, const T& item) {
+    const auto at = static_cast<std::ptrdiff_t>(Checked(index, Length() + 1));
     auto& items = m_Items.Write();
-    items.insert(items.begin() + Count(index), item);
+    items.insert(items.begin() + at, item);
   }
   void Remove(int index) {
+    const auto at = static_cast<std::ptrdiff_t>(Checked(index, Length()));
     auto& items = m_Items.Write();
-    items.erase(items.begin() + Count(index));
+    items.erase(items.begin() + at);
   }
   void Resize(int length, const T& fill = T()) { m_Items.Write().resize(Count(length), fill); }
   void Clear() {
@@ -62,11 +75,17 @@ public:
   bool SharesWith(const cow_List& other) const noexcept { return m_Items.SharesWith(other.m_Items); }
 
   friend bool operator==(const cow_List& a, const cow_List& b) {
-    return a.m_Items.SharesWith(b.m_Items) || a.Items() == b.Items();
+    if (cow_ReflexiveEquality<T>::value && a.SharesWith(b)) return true;
+    return a.Items() == b.Items();
   }
 
 private:
   static std::size_t Count(int n) noexcept { return n < 0 ? 0 : static_cast<std::size_t>(n); }
+  // index itself, once it is in [0, end); Length() is reported as the length.
+  std::size_t Checked(int index, int end) const {
+    if (index < 0 || index >= end) cow_RaiseOutOfRange(index, Length());
+    return static_cast<std::size_t>(index);
+  }
   const std::vector<T>& Items() const noexcept { return m_Items.Read(); }
 
   cow_Shared<std::vector<T>> m_Items;

@@ -1,6 +1,14 @@
 #pragma once
 // A copy-on-write map ordered by key (text keys byte-wise, so "OFF" comes before "ON"). Lookups
 // take any type that orders against the keys, so a text key is found from a view.
+//
+// Equality: the same keys with equal values, each compared with its own ==, so a map holding
+// a NaN is unequal even to itself. Maps on one shared body are equal without comparing only
+// where cow_ReflexiveEquality says that every key and every value equals itself.
+//
+// Threads: as cow_List. Copies may be read and written on different threads at once, each by
+// its own thread; one map object may be read from several threads at once, and a write to it
+// needs its one owner and no reader at the same time.
 #include <cow_List.h>
 
 #include <map>
@@ -44,7 +52,9 @@ public:
   bool IsShared() const noexcept { return m_Entries.IsShared(); }
 
   friend bool operator==(const cow_Map& a, const cow_Map& b) {
-    return a.m_Entries.SharesWith(b.m_Entries) || a.Entries() == b.Entries();
+    constexpr bool reflexive = cow_ReflexiveEquality<K>::value && cow_ReflexiveEquality<V>::value;
+    if (reflexive && a.m_Entries.SharesWith(b.m_Entries)) return true;
+    return a.Entries() == b.Entries();
   }
 
 private:

@@ -4,20 +4,6 @@
 #include <cls_WriteVisitor.h>
 #include <nex_Exception.h>
 
-nex_Exception::nex_Exception(const nex_Exception& other)
-    : std::exception(other),
-      m_SourcePath(other.m_SourcePath),
-      m_SourceLine(other.m_SourceLine),
-      m_Uid(other.m_Uid) {}
-
-nex_Exception& nex_Exception::operator=(const nex_Exception& other) {
-  m_SourcePath = other.m_SourcePath;
-  m_SourceLine = other.m_SourceLine;
-  m_Uid = other.m_Uid;
-  m_What.clear();
-  return *this;
-}
-
 nex_Exception::~nex_Exception() = default;
 
 nex_Exception::nex_Exception(const cls_ReadVisitor& reader) : m_Uid(reader.Uid()) {}
@@ -39,18 +25,22 @@ void nex_Exception::DBWrite(const cls_WriteVisitor& writer) const {
 }
 
 const char* nex_Exception::what() const noexcept {
-  try {
-    m_What = DeveloperReport().StdString();
-  } catch (...) {
-    return "nex_Exception";
-  }
-  return m_What.c_str();
+  return m_What.IsEmpty() ? "nex_Exception" : m_What.CStr();
 }
 
 void nex_Exception::SetSource(const char* path, int line) noexcept {
   m_SourcePath = path ? path : "";
   m_SourceLine = line;
-  m_What.clear();
+  m_What = atr_String();
+  FixReport();
+}
+
+void nex_Exception::FixReport() noexcept {
+  if (!m_What.IsEmpty()) return;
+  try {
+    m_What = DeveloperReport();
+  } catch (...) {  // out of memory: what() falls back to the class name
+  }
 }
 
 unsigned int nex_Exception::TypeId() noexcept { return cls_MakeTypeId(cls_ExceptionModule, 1); }

@@ -1,0 +1,89 @@
+#include <nex_TextException.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+// Longer than any in-place string buffer, so a rebuilt text would move to new storage.
+constexpr const char* kText = "the table has a row that is blank in every column";
+
+nex_TextException Raised() {
+  try {
+    NEX_THROW(nex_TextException(kText), "cow/impl/cow_Test");
+  } catch (const nex_TextException& e) {
+    return e;
+  }
+  return nex_TextException("not raised");
+}
+
+// A copy of what raise() raised, or null.
+std::unique_ptr<nex_Exception> Caught(const std::function<void()>& raise) {
+  try {
+    raise();
+  } catch (const nex_Exception& e) {
+    return std::unique_ptr<nex_Exception>(e.Copy());
+  }
+  return nullptr;
+}
+
+std::string Expected(const nex_Exception& e) {
+  return std::string(kText) + " [cow/impl/cow_Test:" + std::to_string(e.SourceLine()) + "]";
+}
+}  // namespace
+
+TEST(ExceptionText, WhatStaysPutAcrossCalls) {
+  const nex_TextException e = Raised();
+  const char* first = e.what();
+  const std::string text = first;
+  EXPECT_EQ(text, Expected(e));
+  EXPECT_EQ(e.what(), first);
+  EXPECT_EQ(first, text);  // still readable: the second call did not free it
+}
+
+TEST(ExceptionText, CopiesCarryTheText) {
+  const struct {
+    const char* how;
+    std::function<std::unique_ptr<nex_Exception>(const nex_TextException&)> copy;
+  } cases[] = {
+      {"copy constructor",
+       [](const nex_TextException& e) { return std::make_unique<nex_TextException>(e); }},
+      {"assignment",
+       [](const nex_TextException& e) {
+         auto to = std::make_unique<nex_TextException>("other");
+         *to = e;
+         return to;
+       }},
+      {"Copy()",
+       [](const nex_TextException& e) { return std::unique_ptr<nex_Exception>(e.Copy()); }},
+      {"Propagate()",
+       [](const nex_TextException& e) {
+         return Caught([&e] { static_cast<const nex_Exception&>(e).Propagate(); });
+       }},
+  };
+  const nex_TextException original = Raised();
+  for (const auto& c : cases) {
+    const auto copy = c.copy(original);
+    ASSERT_NE(copy, nullptr) << c.how;
+    const char* first = copy->what();
+    EXPECT_EQ(std::string(first), Expected(original)) << c.how;
+    EXPECT_EQ(copy->what(), first) << c.how << ": the copy rebuilt its text";
+  }
+}
+
+// Under ThreadSanitizer this fails if what() writes to the exception.
+TEST(ExceptionText, ReadFromSeveralThreadsAtOnce) {
+  const nex_TextException e = Raised();
+  const std::string expected = Expected(e);
+  std::vector<std::thread> readers;
+  for (int t = 0; t < 4; ++t) {
+    readers.emplace_back([&e, &expected] {
+      for (int i = 0; i < 200; ++i) ASSERT_EQ(e.what(), expected);
+    });
+  }
+  for (auto& reader : readers) reader.join();
+}
