@@ -119,6 +119,7 @@ TEST(ErrorFieldsArchive, TheFixtureReadsBackToTheSameErrors) {
     ASSERT_EQ(typeid(back), typeid(made)) << name;
     EXPECT_EQ(back.JournalMessage(), row.message) << name;
     EXPECT_EQ(back.PythonType(), made.PythonType()) << name;
+    EXPECT_EQ(back.what(), back.DeveloperReport().StdString()) << name << ": what() not fixed";
     // Field by field, as each writes itself again.
     cls_Archive original, again;
     original.Add(made);

@@ -36,9 +36,9 @@ public:
   virtual unsigned int DynTypeId() const;
   virtual void DBWrite(const cls_WriteVisitor& writer) const;
 
-  // DeveloperReport() as fixed when the exception was raised (Throw, NEX_THROW, Propagate);
-  // the text lives as long as the exception and every copy carries it. An exception that was
-  // never raised answers "nex_Exception".
+  // DeveloperReport() as fixed when the exception was raised (Throw, NEX_THROW, Propagate) or
+  // read back from an archive; the text lives as long as the exception and every copy carries
+  // it. An exception only constructed, never raised, answers "nex_Exception".
   const char* what() const noexcept override;
   const char* SourcePath() const noexcept { return m_SourcePath; }
   int SourceLine() const noexcept { return m_SourceLine; }
@@ -55,11 +55,12 @@ public:
     throw exception;
   }
 
+  // Fixes the report for what() unless it already is; called on a fully built exception as
+  // it is raised or read back, since the report comes from the most-derived class.
+  void FixReport() noexcept;
+
 protected:
   explicit nex_Exception(const cls_ReadVisitor& reader);
-  // Fixes the report for what() unless it already is; called on a fully built exception as
-  // it is raised, since the report comes from the most-derived class.
-  void FixReport() noexcept;
 
 private:
   const char* m_SourcePath = "";  // a literal: raisers pass fixed paths
