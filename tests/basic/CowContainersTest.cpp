@@ -12,6 +12,7 @@
 #include <limits>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -94,6 +95,18 @@ struct Square : Shape {
   Shape* Copy() const override { return new Square(*this); }
 };
 }  // namespace
+
+TEST(CowContainers, BooleanElementsAreReadByValueNotThroughATemporary) {
+  // std::vector<bool> has no bool to refer to: a const bool& would dangle.
+  const cow_List<bool> flags{true, false};
+  const cow_2DArray<bool> grid(1, 2, true);
+  static_assert(std::is_same_v<decltype(flags[0]), bool>);
+  static_assert(std::is_same_v<decltype(grid(0, 1)), bool>);
+  EXPECT_EQ(std::make_pair(flags[0], flags.ConstGet(1)), std::make_pair(true, false));
+  cow_2DArray<bool> edited = grid;
+  edited.Get(0, 1) = false;
+  EXPECT_EQ(std::make_pair(edited(0, 1), grid.ConstGet(0, 1)), std::make_pair(false, true));
+}
 
 TEST(CowCOW, ClonesThroughTheVirtualCopyOnlyWhenShared) {
   cow_COW<Shape, cow_Virtual<Shape>> a(new Square);

@@ -24,15 +24,19 @@
 template <class T>
 class cow_2DArray {
 public:
+  // The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
+  using const_reference = typename std::vector<T>::const_reference;
+  using reference = typename std::vector<T>::reference;
+
   cow_2DArray() noexcept = default;
   cow_2DArray(int rows, int columns, const T& fill = T()) { Resize(rows, columns, fill); }
 
   int Rows() const noexcept { return Body().rows; }
   int Columns() const noexcept { return Body().columns; }
   bool IsEmpty() const noexcept { return Body().cells.empty(); }
-  const T& operator()(int row, int column) const { return Body().cells[Index(row, column)]; }
-  const T& ConstGet(int row, int column) const { return (*this)(row, column); }
-  T& Get(int row, int column) {
+  const_reference operator()(int row, int column) const { return Body().cells[Index(row, column)]; }
+  const_reference ConstGet(int row, int column) const { return (*this)(row, column); }
+  reference Get(int row, int column) {
     const std::size_t at = Index(row, column);
     return m_Body.Write().cells[at];
   }

@@ -29,6 +29,9 @@ class cow_List {
 public:
   using value_type = T;
   using const_iterator = typename std::vector<T>::const_iterator;
+  // The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
+  using const_reference = typename std::vector<T>::const_reference;
+  using reference = typename std::vector<T>::reference;
 
   cow_List() noexcept = default;
   cow_List(std::initializer_list<T> items) : m_Items(std::vector<T>(items)) {}
@@ -37,9 +40,9 @@ public:
 
   int Length() const noexcept { return static_cast<int>(Items().size()); }
   bool IsEmpty() const noexcept { return Items().empty(); }
-  const T& operator[](int index) const { return Items()[Checked(index, Length())]; }
-  const T& ConstGet(int index) const { return (*this)[index]; }
-  T& Get(int index) {
+  const_reference operator[](int index) const { return Items()[Checked(index, Length())]; }
+  const_reference ConstGet(int index) const { return (*this)[index]; }
+  reference Get(int index) {
     const std::size_t at = Checked(index, Length());
     return m_Items.Write()[at];
   }
