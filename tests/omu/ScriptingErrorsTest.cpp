@@ -23,7 +23,9 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
+#include <typeinfo>
 
 namespace {
 struct Case {
@@ -31,6 +33,11 @@ struct Case {
   const char* pythonType;
   const char* message;
 };
+// GoogleTest would print the case byte by byte, padding included.
+void PrintTo(const Case& c, std::ostream* out) { *out << c.pythonType << ": " << c.message; }
+
+// The dynamic class, through a reference, so that typeid has no operand to evaluate.
+const std::type_info& ClassOf(const nex_Exception& e) { return typeid(e); }
 
 template <class E, class... Args>
 std::function<nex_CommandException*()> Make(Args... args) {
@@ -104,14 +111,14 @@ TEST_P(ScriptingErrors, MessageAndScriptName) {
 TEST_P(ScriptingErrors, CopyAndPropagateKeepTheMostDerivedClass) {
   const std::unique_ptr<nex_CommandException> error(GetParam().make());
   const std::unique_ptr<nex_Exception> copy(error->Copy());
-  EXPECT_EQ(typeid(*copy), typeid(*error));
+  EXPECT_EQ(ClassOf(*copy), ClassOf(*error));
   EXPECT_EQ(copy->DynTypeId(), error->DynTypeId());
   EXPECT_EQ(copy->AsString(), error->AsString());
   try {
     static_cast<const nex_Exception&>(*copy).Propagate();
     ADD_FAILURE() << "Propagate did not raise";
   } catch (const nex_Exception& caught) {
-    EXPECT_EQ(typeid(caught), typeid(*error));
+    EXPECT_EQ(typeid(caught), ClassOf(*error));
     EXPECT_EQ(caught.AsString(), GetParam().message);
   }
 }
@@ -122,7 +129,7 @@ TEST_P(ScriptingErrors, RoundTripThroughAnArchiveFile) {
   error->DBWrite(archive.NewRoot());
   const auto loaded = SaveAndLoad(archive, "error").Read<nex_CommandException>(0);
   ASSERT_NE(loaded, nullptr);
-  EXPECT_EQ(typeid(*loaded), typeid(*error));
+  EXPECT_EQ(ClassOf(*loaded), ClassOf(*error));
   EXPECT_EQ(loaded->JournalMessage(), GetParam().message);
   EXPECT_EQ(loaded->PythonType(), GetParam().pythonType);
 }
