@@ -1,18 +1,26 @@
-// The scripting errors with fields of their own, held against files an earlier build wrote:
-// the same errors still write the same bytes, those files read back to the same errors, and
-// the registry still describes their fields as it did.
+// The scripting errors with fields of their own, and those carrying one text, held against
+// files an earlier build wrote: the same errors still write the same bytes, those files read
+// back to the same errors, and the registry still describes their fields as it did.
 #include "LibraryEnvironment.h"
 #include "TestArchive.h"
 
 #include <g3d_ColorErrorException.h>
+#include <omu_AccessErrorException.h>
 #include <omu_ArgNumberErrorException.h>
 #include <omu_ArgTypeErrorException.h>
 #include <omu_AttributeErrorException.h>
 #include <omu_CorNameErrorException.h>
+#include <omu_FontErrorException.h>
+#include <omu_GuiAccessErrorException.h>
 #include <omu_IndexErrorException.h>
+#include <omu_KeyErrorException.h>
 #include <omu_KeywordErrorException.h>
 #include <omu_KeywordTypeErrorException.h>
+#include <omu_NameErrorException.h>
+#include <omu_OverflowErrorException.h>
 #include <omu_RangeErrorException.h>
+#include <omu_ValueErrorException.h>
+#include <omu_ZeroDivisionErrorException.h>
 
 #include <cls_MetadataRegistrar.h>
 
@@ -55,6 +63,14 @@ const Row kRows[] = {
     {Make<omu_RangeErrorException>("x", 2, "0", 1, "10", 2),
      "x must be a Float in the range: 0 <= x < 10"},
     {Make<g3d_ColorErrorException>("mauve"), "mauve is not a valid color name."},
+    {Make<omu_AccessErrorException>(atr_String("Part-1")), "Part-1 no longer exists"},
+    {Make<omu_FontErrorException>(atr_String("Hershey")), "Hershey is not a valid font."},
+    {Make<omu_GuiAccessErrorException>(atr_String("no display")), "no display"},
+    {Make<omu_KeyErrorException>(atr_String("Steel-2")), "Steel-2"},
+    {Make<omu_NameErrorException>(atr_String("frobnicate")), "frobnicate"},
+    {Make<omu_OverflowErrorException>(atr_String("2**40")), "2**40"},
+    {Make<omu_ValueErrorException>(atr_String("negative")), "negative"},
+    {Make<omu_ZeroDivisionErrorException>(atr_String("x / 0")), "x / 0"},
 };
 
 std::unique_ptr<nex_CommandException> Made(const Row& row) {
