@@ -13,6 +13,15 @@
 #include <sstream>
 
 namespace {
+// A camera looking at target from eye, y up, in the given projection.
+g3d_Camera Looking(g3d_Point eye, g3d_Point target = {},
+                   g3d_ProjectionEnum projection = PERSPECTIVE_PROJECTION) {
+  g3d_Camera camera;
+  camera.SetProjection(projection);
+  camera.SetLocation(eye, target, {0, 1, 0});
+  return camera;
+}
+
 // Position of a world point as a fraction of the window: what the user sees.
 std::pair<float, float> OnScreen(const g3d_Camera& camera, const g3d_Point& p) {
   float x = 0, y = 0;
@@ -25,19 +34,29 @@ void ExpectSameSpot(std::pair<float, float> a, std::pair<float, float> b, float 
   EXPECT_NEAR(a.second, b.second, tol);
 }
 
+g3d_Point Through(const g3d_XForm& m, g3d_Point p) {
+  m.XForm(&p, 1);
+  return p;
+}
+
+g3d_BoundingVolume UnitBox() {
+  g3d_BoundingVolume model;
+  model.SetToRectangleBox({-1, -1, -1}, {1, 1, 1});
+  return model;
+}
+
 TEST(CameraTest, SetLocationRepairsDegenerateInput) {
-  struct Case {
+  const struct {
     g3d_Point eye, target;
     g3d_Vector up, expectedUp;
     g3d_Point expectedEye;
-  };
-  const Case cases[] = {
-      {{1, 2, 3}, {1, 2, 3}, {0, 1, 0}, {0, 1, 0}, {1, 2, 3 * 1.1f}},
-      {{0, 0, 5}, {0, 0, 0}, {0, 0, 0}, {0, 1, 0}, {0, 0, 5}},
-      {{0, 5, 0}, {0, 0, 0}, {0, 1, 0}, {0, 0, 1}, {0, 5, 0}},
+  } cases[] = {
+      {{1, 2, 3}, {1, 2, 3}, {0, 1, 0}, {0, 1, 0}, {1, 2, 3 * 1.1f}},  // eye on the target
+      {{0, 0, 5}, {0, 0, 0}, {0, 0, 0}, {0, 1, 0}, {0, 0, 5}},          // no up
+      {{0, 5, 0}, {0, 0, 0}, {0, 1, 0}, {0, 0, 1}, {0, 5, 0}},          // up along the view
       {{0, 0, 5}, {0, 0, 0}, {0, 0, 2}, {0, 1, 0}, {0, 0, 5}},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     g3d_Camera camera;
     camera.SetViewOffset(1, 1);
     camera.SetLocation(c.eye, c.target, c.up);
@@ -48,14 +67,10 @@ TEST(CameraTest, SetLocationRepairsDegenerateInput) {
 }
 
 TEST(CameraTest, ViewMatrixIsRebuiltLazily) {
-  g3d_Camera camera;
-  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
-  g3d_Point probe(0, 0, 0);
-  camera.GetVOM().XForm(&probe, 1);
-  EXPECT_EQ(probe, g3d_Point(0, 0, -10));  // looking down -z
+  g3d_Camera camera = Looking({0, 0, 10});
+  EXPECT_EQ(Through(camera.GetVOM(), {0, 0, 0}), g3d_Point(0, 0, -10));  // looking down -z
   camera.SetLocation({10, 0, 0}, {0, 0, 0}, {0, 1, 0});
-  g3d_Point right(0, 0, -1);  // from +x, -z is on the right
-  camera.GetVOM().XForm(&right, 1);
+  const g3d_Point right = Through(camera.GetVOM(), {0, 0, -1});  // from +x, -z is on the right
   EXPECT_NEAR(right.x, 1, 1e-6);
   EXPECT_NEAR(right.z, -10, 1e-6);
   camera.SetWindow(4, 2);
@@ -67,17 +82,14 @@ TEST(CameraTest, ViewMatrixIsRebuiltLazily) {
 TEST(CameraTest, WindowLimits) {
   g3d_Camera camera;
   camera.SetProjection(PARALLEL_PROJECTION);
-  struct Case {
+  const struct {
     float w, h, expectedW, expectedH;
-  };
-  const Case cases[] = {{0, 0, 0.0001f, 0.0001f},
-                        {1000, 1, 1000, 2},
-                        {1, 1000, 2, 1000},
-                        {1e38f, 1e38f, 3.4028235e31f, 3.4028235e31f}};
-  for (const Case& c : cases) {
+  } cases[] = {{0, 0, 0.0001f, 0.0001f}, {1000, 1, 1000, 2}, {1, 1000, 2, 1000},
+               {1e38f, 1e38f, 3.4028235e31f, 3.4028235e31f}};
+  for (const auto& c : cases) {
     camera.SetWindow(c.w, c.h);
-    EXPECT_EQ(camera.GetWindowWidth(), c.expectedW);
-    EXPECT_EQ(camera.GetWindowHeight(), c.expectedH);
+    EXPECT_EQ(camera.GetWindowWidth(), c.expectedW) << c.w << " x " << c.h;
+    EXPECT_EQ(camera.GetWindowHeight(), c.expectedH) << c.w << " x " << c.h;
   }
   g3d_Camera perspective;
   perspective.SetNearFar(10, 100);  // eye 2 from the target: least size 10 * 1e-4 / 2
@@ -86,11 +98,10 @@ TEST(CameraTest, WindowLimits) {
 }
 
 TEST(CameraTest, ZoomPercentagesAndLimits) {
-  struct Case {
+  const struct {
     float percent, scale;
-  };
-  const Case cases[] = {{50, 0.5f}, {-50, 2}, {150, 0.01f}, {-150, 100}, {99, 0.01f}, {0, 1}};
-  for (const Case& c : cases) {
+  } cases[] = {{50, 0.5f}, {-50, 2}, {150, 0.01f}, {-150, 100}, {99, 0.01f}, {0, 1}};
+  for (const auto& c : cases) {
     g3d_Camera camera;
     camera.SetWindow(2, 1);
     camera.Zoom(c.percent, false);
@@ -100,8 +111,7 @@ TEST(CameraTest, ZoomPercentagesAndLimits) {
 }
 
 TEST(CameraTest, DollyZoomMovesTheEyeAndKeepsTheFieldOfView) {
-  g3d_Camera camera;
-  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+  g3d_Camera camera = Looking({0, 0, 10});
   camera.SetNearFar(1, 20);
   const float fov = camera.GetFieldOfView();
   const auto spot = OnScreen(camera, {0.5f, 0, 0});
@@ -113,8 +123,7 @@ TEST(CameraTest, DollyZoomMovesTheEyeAndKeepsTheFieldOfView) {
 }
 
 TEST(CameraTest, ProjectionSwitchesKeepTheImage) {
-  g3d_Camera camera;
-  camera.SetLocation({0, 0, 8}, {0, 0, 0}, {0, 1, 0});
+  g3d_Camera camera = Looking({0, 0, 8});
   camera.SetViewOffset(0.1f, 0);
   EXPECT_FALSE(camera.SetProjection(g3d_Camera::PERSPECTIVE));
   const g3d_Point atTarget(0.3f, -0.2f, 0);
@@ -147,30 +156,23 @@ TEST(CameraTest, FieldOfViewBothWays) {
   EXPECT_FLOAT_EQ(tall.GetWindowHeight(), 2.0f / 3);
 }
 
-TEST(CameraTest, ZoomToKeepsOrPullsThePoint) {
-  for (const bool toward : {false, true}) {
-    g3d_Camera camera;
-    camera.SetProjection(PARALLEL_PROJECTION);
-    camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+TEST(CameraTest, ZoomToKeepsOrPullsThePointAndZoomToARectangleFramesIt) {
+  const g3d_Camera start = [] {
+    g3d_Camera camera = Looking({0, 0, 10}, {}, PARALLEL_PROJECTION);
     camera.SetWindow(4, 4);
+    return camera;
+  }();
+  for (const bool toward : {false, true}) {
+    g3d_Camera camera = start;
     const g3d_Point p(1, 0.5f, 0);
     const auto before = OnScreen(camera, p);
     camera.ZoomTo(1, 0.5f, 50, toward, false);
-    const auto after = OnScreen(camera, p);
     const float pull = toward ? 0.5f : 1.0f;  // toward the point: halfway to the centre
-    EXPECT_NEAR(after.first, before.first * pull, 1e-6) << toward;
-    EXPECT_NEAR(after.second, before.second * pull, 1e-6) << toward;
+    ExpectSameSpot(OnScreen(camera, p), {before.first * pull, before.second * pull}, 1e-6f);
   }
-}
-
-TEST(CameraTest, ZoomToRectangleFramesIt) {
-  g3d_Camera camera;
-  camera.SetProjection(PARALLEL_PROJECTION);
-  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
-  camera.SetWindow(4, 4);
-  const g3d_Camera before = camera;
+  g3d_Camera camera = start;
   camera.Zoom(1, 1, 0, 2, false);  // empty
-  EXPECT_EQ(camera, before);
+  EXPECT_EQ(camera, start);
   camera.Zoom(0, 0, 1, 0.5f, false);
   EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 1);
   EXPECT_FLOAT_EQ(camera.GetTarget().x, 0.5f);
@@ -178,23 +180,19 @@ TEST(CameraTest, ZoomToRectangleFramesIt) {
 }
 
 TEST(CameraTest, RotationTurnsTheScene) {
-  struct Case {
+  const struct {
     float degrees;
     g3d_Vector axis;
-  };
-  const Case cases[] = {{90, {0, 1, 0}}, {30, {1, 1, 0}}, {-45, {0, 0, 1}}};
-  for (const Case& c : cases) {
-    g3d_Camera camera;
-    camera.SetLocation({1, 2, 9}, {1, 0, 0}, {0, 1, 0});
-    const g3d_Camera original = camera;
+  } cases[] = {{90, {0, 1, 0}}, {30, {1, 1, 0}}, {-45, {0, 0, 1}}};
+  for (const auto& c : cases) {
+    const g3d_Camera original = Looking({1, 2, 9}, {1, 0, 0});
+    g3d_Camera camera = original;
     camera.Rotate(c.degrees, c.axis, false);
     // What the turned camera sees of p, the original sees of p turned about the target.
+    g3d_XForm turn;
+    turn.Translate(1, 0, 0).Rotate(c.degrees, c.axis).Translate(-1, 0, 0);
     for (const g3d_Point p : {g3d_Point(2, 1, 0), g3d_Point(0, -1, 1)}) {
-      g3d_XForm turn;
-      turn.Translate(1, 0, 0).Rotate(c.degrees, c.axis).Translate(-1, 0, 0);
-      g3d_Point turned = p;
-      turn.XForm(&turned, 1);
-      ExpectSameSpot(OnScreen(camera, p), OnScreen(original, turned));
+      ExpectSameSpot(OnScreen(camera, p), OnScreen(original, Through(turn, p)));
     }
   }
   // From one direction to another, about a point.
@@ -202,8 +200,7 @@ TEST(CameraTest, RotationTurnsTheScene) {
   camera.Rotate(g3d_Vector(1, 0, 0), g3d_Vector(0, 1, 0), g3d_Point(0, 0, 0));
   EXPECT_NEAR(camera.GetEye().y, -2, 1e-6);
   // An eye-space quarter turn about the view's up axis brings the right side to the front.
-  g3d_Camera eyeSpace;
-  eyeSpace.SetLocation({0, 0, 5}, {0, 0, 0}, {0, 1, 0});
+  g3d_Camera eyeSpace = Looking({0, 0, 5});
   eyeSpace.Rotate(90, g3d_Vector(0, 1, 0), true);
   EXPECT_NEAR(eyeSpace.GetEye().x, -5, 1e-5);
 }
@@ -220,9 +217,8 @@ TEST(CameraTest, FitFramesTheModel) {
     // The sphere's outline touches the top of the window (in perspective the outline lies
     // nearer than the top point, which shows at cos(half angle) of the edge); near and far
     // enclose it.
-    const auto top = OnScreen(camera, g3d_Point(10, 2, 0));
     const float edge = perspective ? 0.5f * std::cos(std::atan(0.5f)) : 0.5f;
-    EXPECT_NEAR(top.second, edge, 1e-5f);
+    EXPECT_NEAR(OnScreen(camera, g3d_Point(10, 2, 0)).second, edge, 1e-5f);
     const float distance = camera.GetEye().x - 10;
     EXPECT_LT(camera.GetNear(), distance - 2);
     EXPECT_GT(camera.GetFar(), distance + 2);
@@ -238,29 +234,23 @@ TEST(CameraTest, CannedViewsAndViewportFits) {
   camera.Canned(g3d_Sphere(g3d_Point(), 1), VIEW_ISO);
   EXPECT_FLOAT_EQ(camera.GetEye().x, camera.GetEye().z);
 
-  g3d_BoundingVolume model;
-  model.SetToRectangleBox({-1, -1, -1}, {1, 1, 1});
-  camera.SetModelBoundingVolume(model, 1);
+  camera.SetModelBoundingVolume(UnitBox(), 1);
   camera.FitCenterVP(800, 400, 0.5f, false);
   EXPECT_FLOAT_EQ(camera.GetWindowWidth() / camera.GetWindowHeight(), 2);
   EXPECT_GT(camera.GetEye().x, 0);  // back to the default direction
-  const auto corner = OnScreen(camera, {0, std::sqrt(3.0f), 0});
   // The model's sphere fills half the height (its top point shows at cos(half angle)).
-  EXPECT_NEAR(corner.second, 0.25f * std::cos(std::atan(0.5f)), 1e-5f);
+  EXPECT_NEAR(OnScreen(camera, {0, std::sqrt(3.0f), 0}).second, 0.25f * std::cos(std::atan(0.5f)),
+              1e-5f);
   camera.CorrectAspect(300, 300, 0, 0.5f, 0, 1, 1);
   EXPECT_FLOAT_EQ(camera.GetWindowWidth() / camera.GetWindowHeight(), 2);
 }
 
 TEST(CameraTest, PanMovesEyeAndTargetInWindowUnits) {
-  g3d_Camera camera;
-  camera.SetProjection(PARALLEL_PROJECTION);
-  camera.SetLocation({0, 0, 10}, {0, 0, 0}, {0, 1, 0});
+  g3d_Camera camera = Looking({0, 0, 10}, {}, PARALLEL_PROJECTION);
   camera.Pan(1, 2, 0, false);
   EXPECT_EQ(camera.GetTarget(), g3d_Point(1, 2, 0));
   EXPECT_EQ(camera.GetEye(), g3d_Point(1, 2, 10));
-  g3d_BoundingVolume model;
-  model.SetToRectangleBox({-1, -1, -1}, {1, 1, 1});
-  camera.SetModelBoundingVolume(model, 1);
+  camera.SetModelBoundingVolume(UnitBox(), 1);
   camera.Pan(0, 0, -5, true);  // closer, with near and far around the model
   EXPECT_FLOAT_EQ(camera.GetEye().z, 5);
   EXPECT_LT(camera.GetFar(), 10);
@@ -268,24 +258,20 @@ TEST(CameraTest, PanMovesEyeAndTargetInWindowUnits) {
 }
 
 TEST(CameraTest, LayerModeScalesAboutTheTarget) {
-  g3d_Camera camera;
-  camera.SetLocation({0, 0, 10}, {1, 0, 0}, {0, 1, 0});
-  g3d_XForm layer;
+  g3d_Camera camera = Looking({0, 0, 10}, {1, 0, 0});
   camera.SetLayerXForm(true, nullptr);
   const g3d_XForm view = camera.GetVOM();
   camera.Zoom(50, false);
   EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 1);  // the window stays
-  g3d_Point target(1, 0, 0), other(2, 0, 0), expected(3, 0, 0), fixed(1, 0, 0);
-  camera.GetVOM().XForm(&target, 1);
-  camera.GetVOM().XForm(&other, 1);
-  view.XForm(&expected, 1);
-  view.XForm(&fixed, 1);
+  const g3d_Point target = Through(camera.GetVOM(), {1, 0, 0}), fixed = Through(view, {1, 0, 0});
   EXPECT_NEAR(target.x, fixed.x, 1e-6);
   EXPECT_NEAR(target.z, fixed.z, 1e-5);
-  EXPECT_NEAR(other.x, expected.x, 1e-6);  // twice as far from the target
+  // Twice as far from the target.
+  EXPECT_NEAR(Through(camera.GetVOM(), {2, 0, 0}).x, Through(view, {3, 0, 0}).x, 1e-6);
   camera.SetLocation({5, 5, 5}, {2, 0, 0}, {0, 1, 0});
   EXPECT_EQ(camera.GetEye(), g3d_Point(0, 0, 10));
   EXPECT_EQ(camera.GetTarget(), g3d_Point(2, 0, 0));
+  g3d_XForm layer;
   camera.SetLayerXForm(false, &layer);
   EXPECT_FLOAT_EQ(layer.GetM(0, 0), 2);
   EXPECT_FALSE(camera.IsLayerMode());
@@ -321,11 +307,11 @@ TEST(CameraTest, OperationsClearTheUserMark) {
       [](g3d_Camera& c) { c.Rotate(10, g3d_Vector(0, 1, 0), false); },
       [](g3d_Camera& c) { c.Fit(g3d_Sphere()); },
   };
-  for (const auto& operation : operations) {
+  for (std::size_t i = 0; i < std::size(operations); ++i) {
     g3d_Camera camera;
     camera.SetUserMark();
-    operation(camera);
-    EXPECT_EQ(camera.GetFlags() & g3d_Camera::FLAG_USER_MARK, 0);
+    operations[i](camera);
+    EXPECT_EQ(camera.GetFlags() & g3d_Camera::FLAG_USER_MARK, 0) << "operation " << i;
   }
 }
 

@@ -10,9 +10,33 @@ namespace {
 using S = g3d_Storage;
 using P = g3d_Point;
 
+// What an intersection call answered: the verdict, the count and the parameters.
+struct Crossing {
+  bool hit = false;
+  int count = -1;
+  double s[2] = {}, t[2] = {}, lp[2] = {};
+};
+
 class GeomUtilsTest : public ::testing::Test, protected g3d_GeomUtils {
 protected:
   void TearDown() override { setTolerance(1e-5); }
+
+  static Crossing LineLine(S p0, S p1, S q0, S q1, bool bounded) {
+    Crossing c;
+    c.hit = LineLineIntersection(p0, p1, q0, q1, c.s, c.t, c.count, bounded, bounded);
+    return c;
+  }
+  static Crossing LinePlane(S p0, S p1, S origin, S u, S v) {
+    Crossing c;
+    c.hit = LinePlaneIntersection(p0, p1, origin, u, v, c.lp, c.s, c.t, c.count);
+    return c;
+  }
+  static Crossing LineTri(S p0, S p1, bool bounded) {
+    Crossing c;
+    c.hit = LineTriIntersection(p0, p1, S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), c.lp, c.s, c.t,
+                                c.count, bounded);
+    return c;
+  }
 };
 
 TEST_F(GeomUtilsTest, ToleranceAndStrictComparison) {
@@ -46,52 +70,40 @@ TEST_F(GeomUtilsTest, PointInPlaneRescalesToTheCallersVectors) {
 }
 
 TEST_F(GeomUtilsTest, LineLineCrossingAndBounds) {
-  struct Case {
+  const struct {
     float x;
-    bool bounded;
-    bool hit;
-  };
-  const Case cases[] = {{1, true, true}, {2.00001f, true, true}, {2.1f, true, false},
-                        {2.1f, false, true}, {-0.5f, true, false}};
-  for (const Case& c : cases) {
+    bool bounded, hit;
+  } cases[] = {{1, true, true}, {2.00001f, true, true}, {2.1f, true, false},
+               {2.1f, false, true}, {-0.5f, true, false}};
+  for (const auto& c : cases) {
     double s[2] = {}, t[2] = {};
     int count = -1;
-    EXPECT_EQ(LineLineIntersection(P(0, 0, 0), P(2, 0, 0), P(c.x, -1, 0), P(c.x, 1, 0), s, t, count,
-                                   c.bounded, true),
+    EXPECT_EQ(LineLineIntersection(P(0, 0, 0), P(2, 0, 0), P(c.x, -1, 0), P(c.x, 1, 0), s, t,
+                                   count, c.bounded, true),
               c.hit)
         << c.x;
-    EXPECT_EQ(count, c.hit ? 1 : 0);
+    EXPECT_EQ(count, c.hit ? 1 : 0) << c.x;
     if (c.hit) {
-      EXPECT_NEAR(s[0], c.x / 2.0, 1e-6);
-      EXPECT_NEAR(t[0], 0.5, 1e-6);
+      EXPECT_NEAR(s[0], c.x / 2.0, 1e-6) << c.x;
+      EXPECT_NEAR(t[0], 0.5, 1e-6) << c.x;
     }
   }
 }
 
-TEST_F(GeomUtilsTest, LineLineSkewAndParallel) {
-  double s[2] = {}, t[2] = {};
-  int count = -1;
-  EXPECT_FALSE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(0, 1, 1), S(0, 2, 1), s, t, count,
-                                    false, false));  // skew
-  EXPECT_FALSE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), S(1, 1, 0), s, t, count,
-                                    false, false));  // parallel, apart
-  EXPECT_EQ(count, 0);
+TEST_F(GeomUtilsTest, LineLineSkewParallelAndCollinear) {
+  EXPECT_FALSE(LineLine(S(0, 0, 0), S(1, 0, 0), S(0, 1, 1), S(0, 2, 1), false).hit);  // skew
+  const Crossing apart = LineLine(S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), S(1, 1, 0), false);
+  EXPECT_EQ(std::tuple(apart.hit, apart.count), std::tuple(false, 0));  // parallel, apart
   // Collinear, overlapping on [0.5, 1] of the first and [0, 0.5] of the second.
-  ASSERT_TRUE(LineLineIntersection(S(0, 0, 0), S(2, 0, 0), S(1, 0, 0), S(3, 0, 0), s, t, count,
-                                   true, true));
-  ASSERT_EQ(count, 2);
-  EXPECT_DOUBLE_EQ(s[0], 0.5);
-  EXPECT_DOUBLE_EQ(s[1], 1.0);
-  EXPECT_DOUBLE_EQ(t[0], 0.0);
-  EXPECT_DOUBLE_EQ(t[1], 0.5);
+  const Crossing overlap = LineLine(S(0, 0, 0), S(2, 0, 0), S(1, 0, 0), S(3, 0, 0), true);
+  EXPECT_EQ(std::tuple(overlap.hit, overlap.count), std::tuple(true, 2));
+  EXPECT_EQ(std::tuple(overlap.s[0], overlap.s[1], overlap.t[0], overlap.t[1]),
+            std::tuple(0.5, 1.0, 0.0, 0.5));
   // Touching end to end: one point.
-  ASSERT_TRUE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(1, 0, 0), S(2, 0, 0), s, t, count,
-                                   true, true));
-  EXPECT_EQ(count, 1);
-  EXPECT_NEAR(s[0], 1.0, 1e-5);
-  // Collinear but disjoint.
-  EXPECT_FALSE(LineLineIntersection(S(0, 0, 0), S(1, 0, 0), S(2, 0, 0), S(3, 0, 0), s, t, count,
-                                    true, true));
+  const Crossing touching = LineLine(S(0, 0, 0), S(1, 0, 0), S(1, 0, 0), S(2, 0, 0), true);
+  EXPECT_EQ(std::tuple(touching.hit, touching.count), std::tuple(true, 1));
+  EXPECT_NEAR(touching.s[0], 1.0, 1e-5);
+  EXPECT_FALSE(LineLine(S(0, 0, 0), S(1, 0, 0), S(2, 0, 0), S(3, 0, 0), true).hit);  // disjoint
 }
 
 TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
@@ -105,41 +117,28 @@ TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
 }
 
 TEST_F(GeomUtilsTest, LinePlaneCrossingAndSegmentInPlane) {
-  double lp[2] = {}, s[2] = {}, t[2] = {};
-  int count = 0;
-  ASSERT_TRUE(LinePlaneIntersection(S(1, 2, -1), S(1, 2, 1), S(0, 0, 0), S(2, 0, 0), S(0, 4, 0),
-                                    lp, s, t, count));
-  EXPECT_EQ(count, 1);
-  EXPECT_DOUBLE_EQ(lp[0], 0.5);
-  EXPECT_DOUBLE_EQ(s[0], 0.5);
-  EXPECT_DOUBLE_EQ(t[0], 0.5);
-  ASSERT_TRUE(LinePlaneIntersection(S(1, 1, 0), S(3, 2, 0), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), lp,
-                                    s, t, count));
-  EXPECT_EQ(count, 2);
-  EXPECT_EQ(lp[0], 0.0);
-  EXPECT_EQ(lp[1], 1.0);
-  EXPECT_NEAR(s[1], 3.0, 1e-9);
-  EXPECT_FALSE(LinePlaneIntersection(S(0, 0, 1), S(1, 0, 1), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0),
-                                     lp, s, t, count));  // parallel, above
-  EXPECT_EQ(count, 0);
+  const Crossing through = LinePlane(S(1, 2, -1), S(1, 2, 1), S(0, 0, 0), S(2, 0, 0), S(0, 4, 0));
+  EXPECT_EQ(std::tuple(through.hit, through.count), std::tuple(true, 1));
+  EXPECT_EQ(std::tuple(through.lp[0], through.s[0], through.t[0]), std::tuple(0.5, 0.5, 0.5));
+  const Crossing in = LinePlane(S(1, 1, 0), S(3, 2, 0), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0));
+  EXPECT_EQ(std::tuple(in.hit, in.count, in.lp[0], in.lp[1]), std::tuple(true, 2, 0.0, 1.0));
+  EXPECT_NEAR(in.s[1], 3.0, 1e-9);
+  const Crossing above = LinePlane(S(0, 0, 1), S(1, 0, 1), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0));
+  EXPECT_EQ(std::tuple(above.hit, above.count), std::tuple(false, 0));  // parallel, above
 }
 
 TEST_F(GeomUtilsTest, LineTriangle) {
-  double lp[2] = {}, s[2] = {}, t[2] = {};
-  int count = 0;
-  const S a(0, 0, 0), b(1, 0, 0), c(0, 1, 0);
-  EXPECT_TRUE(LineTriIntersection(S(0.25, 0.25, -1), S(0.25, 0.25, 1), a, b, c, lp, s, t, count, true));
-  EXPECT_EQ(count, 1);
-  EXPECT_DOUBLE_EQ(lp[0], 0.5);
-  EXPECT_FALSE(LineTriIntersection(S(0.75, 0.75, -1), S(0.75, 0.75, 1), a, b, c, lp, s, t, count, true));
-  EXPECT_FALSE(LineTriIntersection(S(0.25, 0.25, 1), S(0.25, 0.25, 2), a, b, c, lp, s, t, count, true));
-  EXPECT_TRUE(LineTriIntersection(S(0.25, 0.25, 1), S(0.25, 0.25, 2), a, b, c, lp, s, t, count, false));
+  const Crossing through = LineTri(S(0.25, 0.25, -1), S(0.25, 0.25, 1), true);
+  EXPECT_EQ(std::tuple(through.hit, through.count, through.lp[0]), std::tuple(true, 1, 0.5));
+  EXPECT_FALSE(LineTri(S(0.75, 0.75, -1), S(0.75, 0.75, 1), true).hit);  // beside it
+  EXPECT_FALSE(LineTri(S(0.25, 0.25, 1), S(0.25, 0.25, 2), true).hit);   // short of it
+  EXPECT_TRUE(LineTri(S(0.25, 0.25, 1), S(0.25, 0.25, 2), false).hit);
   // In the plane: the segment y = 0.25 from x = -1 to 2 is clipped to x in [0, 0.75].
-  ASSERT_TRUE(LineTriIntersection(S(-1, 0.25, 0), S(2, 0.25, 0), a, b, c, lp, s, t, count, true));
-  ASSERT_EQ(count, 2);
-  EXPECT_NEAR(lp[0], 1.0 / 3, 1e-5);
-  EXPECT_NEAR(lp[1], 0.75 / 3 + 1.0 / 3, 1e-5);
-  EXPECT_NEAR(s[1], 0.75, 1e-4);
+  const Crossing in = LineTri(S(-1, 0.25, 0), S(2, 0.25, 0), true);
+  ASSERT_EQ(std::tuple(in.hit, in.count), std::tuple(true, 2));
+  EXPECT_NEAR(in.lp[0], 1.0 / 3, 1e-5);
+  EXPECT_NEAR(in.lp[1], 0.75 / 3 + 1.0 / 3, 1e-5);
+  EXPECT_NEAR(in.s[1], 0.75, 1e-4);
 }
 
 TEST_F(GeomUtilsTest, SegmentsIn2D) {
@@ -150,20 +149,15 @@ TEST_F(GeomUtilsTest, SegmentsIn2D) {
   EXPECT_FALSE(SegmentsIntersect2D(P(0, 0, 0), P(1, 1, 0), P(0, 1, 0), P(0.4f, 0.6f, 0)));
 }
 
-cow_List<g3d_Point> Square(bool closed) {
-  cow_List<g3d_Point> square{P(0, 0, 0), P(4, 0, 0), P(4, 4, 0), P(0, 4, 0)};
-  if (closed) square.Append(P(0, 0, 0));
-  return square;
-}
-
 TEST_F(GeomUtilsTest, PolygonRangeAndPointInside) {
+  const cow_List<g3d_Point> square{P(0, 0, 0), P(4, 0, 0), P(4, 4, 0), P(0, 4, 0)};
   P min, max;
   EXPECT_FALSE(RangeOfPolygon(cow_List<g3d_Point>(), min, max));
   ASSERT_TRUE(RangeOfPolygon({P(1, 5, 2, 3), P(-1, 7, 0, 1)}, min, max));
   EXPECT_EQ(min, P(-1, 5, 0, 3));
   EXPECT_EQ(max, P(1, 7, 2, 3));
-  EXPECT_TRUE(PointInPolygon2D(Square(false), P(2, 2, 0)));
-  EXPECT_FALSE(PointInPolygon2D(Square(false), P(5, 2, 0)));
+  EXPECT_TRUE(PointInPolygon2D(square, P(2, 2, 0)));
+  EXPECT_FALSE(PointInPolygon2D(square, P(5, 2, 0)));
   EXPECT_THROW(PointInPolygon2D(cow_List<g3d_Point>(), P()), nex_TextException);
 }
 
@@ -185,12 +179,11 @@ TEST_F(GeomUtilsTest, LineAgainstPolygonNeedsTheClosingVertex) {
 }
 
 TEST_F(GeomUtilsTest, PolygonAgainstPolygon) {
-  const cow_List<g3d_Point> square = Square(true);
-  struct Case {
+  const cow_List<g3d_Point> square{P(0, 0, 0), P(4, 0, 0), P(4, 4, 0), P(0, 4, 0), P(0, 0, 0)};
+  const struct {
     cow_List<g3d_Point> other;
     g3d_ClipResultEnum expected;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {{P(1, 1, 0), P(2, 1, 0), P(2, 2, 0), P(1, 1, 0)}, g3d_CLIP_INSIDE},
       {{P(3, 3, 0), P(5, 3, 0), P(5, 5, 0), P(3, 3, 0)}, g3d_CLIP_CROSSING},
       // Every edge is out early, but only a single vertex answers "early".
@@ -199,8 +192,8 @@ TEST_F(GeomUtilsTest, PolygonAgainstPolygon) {
       {{P(9, 2, 0)}, g3d_CLIP_OUTSIDE_EARLY},
       {{}, g3d_CLIP_OUTSIDE},
   };
-  for (const Case& c : cases) {
-    EXPECT_EQ(IntersectPolygonPolygon2D(square, c.other), c.expected) << c.other.Length();
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    EXPECT_EQ(IntersectPolygonPolygon2D(square, cases[i].other), cases[i].expected) << "row " << i;
   }
   // A caller's range wins over the computed one.
   const P min(10, 10, 0), max(20, 20, 0);

@@ -2,28 +2,18 @@
 #include "LibraryEnvironment.h"
 #include "TestArchive.h"
 
-#include <g3d_ColorErrorException.h>
 #include <g3d_Point.h>
 
 #include <UTI_Modules.h>
-#include <cls_Archive.h>
 #include <cls_xo1DArrayList.h>
 
 #include <gtest/gtest.h>
 
-
 namespace {
-
-TEST(G3dPersistenceTest, ValuesAndErrorRoundTripThroughAFile) {
-  cls_Archive archive;
-  archive.Add(g3d_Vector(1.5f, -2, 0.1f));
-  archive.Add(g3d_Point(1, 2, 3, 0.5f));
-  archive.Add(g3d_ColorErrorException("Mauve"));
-  const cls_Archive loaded = SaveAndLoad(archive, "g3d_values");
-  EXPECT_EQ(*loaded.Read<g3d_Vector>(0), g3d_Vector(1.5f, -2, 0.1f));
-  EXPECT_EQ(*loaded.Read<g3d_Point>(1), g3d_Point(1, 2, 3, 0.5f));
-  const auto error = loaded.Read<g3d_ColorErrorException>(2);
-  EXPECT_EQ(error->JournalMessage(), "Mauve is not a valid color name.");
+// The colour error's round trip is part of the model-wide identity test in mdl.
+TEST(G3dPersistenceTest, ValuesRoundTripThroughAFile) {
+  EXPECT_EQ(*RoundTrip<g3d_Vector>(g3d_Vector(1.5f, -2, 0.1f)), g3d_Vector(1.5f, -2, 0.1f));
+  EXPECT_EQ(*RoundTrip<g3d_Point>(g3d_Point(1, 2, 3, 0.5f)), g3d_Point(1, 2, 3, 0.5f));
 }
 
 template <class T>
