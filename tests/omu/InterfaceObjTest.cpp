@@ -29,7 +29,7 @@ private:
 };
 }  // namespace
 
-TEST(InterfaceObj, TheChainRunsFromBaseToMostDerived) {
+TEST(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived) {
   TestPart part(NewPart());
   EXPECT_EQ(part.TypeLevels(), 2);
   EXPECT_EQ(part.TypeString(), "Part");
@@ -38,10 +38,6 @@ TEST(InterfaceObj, TheChainRunsFromBaseToMostDerived) {
   EXPECT_EQ(omu_PrimType(part).AsString(0), "PartType");
   part.DescribeType("Part", nullptr, nullptr);  // described twice: counts once
   EXPECT_EQ(part.TypeLevels(), 2);
-}
-
-TEST(InterfaceObj, DispatchAnswersFromTheMostDerivedLevel) {
-  TestPart part(NewPart());
   EXPECT_EQ(Member(part, "name"), "Part-1Type");  // the part level's row
   EXPECT_EQ(Member(part, "kind"), "FeatureType");  // inherited
   EXPECT_EQ(Member(part, "Name"), "null");        // case matters

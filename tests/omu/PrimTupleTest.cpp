@@ -174,27 +174,22 @@ TEST(PrimTuple, CopiesShareUntilAnElementIsWritten) {
   EXPECT_FALSE(copy == tuple);
 }
 
-TEST(PrimTuple, SequencesGrowUpToTheirMaximumSize) {
-  omu_PrimList list(0, 2, '(');
-  list.Put(1);
-  list.Put(2);
-  EXPECT_EQ(list.Size(), 2);
-  EXPECT_THROW(list.Put(3), nex_TextException);
-  omu_PrimTuple tuple(1);
-  tuple.Put(1);
-  EXPECT_THROW(tuple.Put(2), nex_TextException);
-}
-
-TEST(PrimTuple, TuplesAndListsRoundTrip) {
+TEST(PrimTuple, TuplesAndListsFillUpToTheirSizeAndRoundTrip) {
   omu_PrimTuple tuple(4);
   tuple.Put(1.5);
   tuple.Put("text");
   tuple.Put(ListOf({1, 2}));
   tuple.Put(true);
+  EXPECT_THROW(tuple.Put(2), nex_TextException);
   const auto back = RoundTrip<omu_PrimTuple>(tuple);
   EXPECT_TRUE(*back == tuple);
   EXPECT_EQ(back->AsString(0), "(1.5, 'text', (1, 2), True)");
   EXPECT_EQ(back->Cursor(), 4);
+  omu_PrimList full(0, 2, '(');  // a list grows up to its maximum size
+  full.Put(1);
+  full.Put(2);
+  EXPECT_EQ(full.Size(), 2);
+  EXPECT_THROW(full.Put(3), nex_TextException);
   omu_PrimList list(3, 10, '(');
   list.Put(1);  // two empty slots survive too
   const auto listBack = RoundTrip<omu_Primitive>(list);
