@@ -1,23 +1,22 @@
 #include "CapturedErrors.h"
-#include "LibraryEnvironment.h"
+#include "OmuTestSupport.h"
 #include "TestRepository.h"
 
-#include <nex_TextException.h>
 #include <omu_Deprecation.h>
 #include <omu_PrimWrapper.h>
 #include <omu_TextRepr.h>
 #include <omu_TypeRegistryCache.h>
-
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 
 namespace {
 std::shared_ptr<TestPartData> NewPart() { return std::make_shared<TestPartData>(); }
 
-std::string Text(omu_Primitive* value) {
-  const std::unique_ptr<omu_Primitive> owned(value);
-  return owned ? owned->AsString(0).StdString() : "null";
+// The member's text, or "null" when there is no such member.
+std::string Member(const omu_InterfaceObj& object, const char* name) {
+  bool deprecated = false;
+  const std::unique_ptr<omu_Primitive> owned(object.GetMember(name, deprecated));
+  return owned ? Text(*owned) + (deprecated ? " (deprecated)" : "") : "null";
 }
 
 class ScopedEnv {
@@ -30,7 +29,7 @@ private:
 };
 }  // namespace
 
-TEST(InterfaceObj, TheChainRunsFromBaseToMostDerived) {
+TEST(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived) {
   TestPart part(NewPart());
   EXPECT_EQ(part.TypeLevels(), 2);
   EXPECT_EQ(part.TypeString(), "Part");
@@ -39,15 +38,10 @@ TEST(InterfaceObj, TheChainRunsFromBaseToMostDerived) {
   EXPECT_EQ(omu_PrimType(part).AsString(0), "PartType");
   part.DescribeType("Part", nullptr, nullptr);  // described twice: counts once
   EXPECT_EQ(part.TypeLevels(), 2);
-}
-
-TEST(InterfaceObj, DispatchAnswersFromTheMostDerivedLevel) {
-  const auto data = NewPart();
-  TestPart part(data);
+  EXPECT_EQ(Member(part, "name"), "Part-1Type");  // the part level's row
+  EXPECT_EQ(Member(part, "kind"), "FeatureType");  // inherited
+  EXPECT_EQ(Member(part, "Name"), "null");        // case matters
   bool deprecated = false;
-  EXPECT_EQ(Text(part.GetMember("name", deprecated)), "Part-1Type");  // the part level's row
-  EXPECT_EQ(Text(part.GetMember("kind", deprecated)), "FeatureType");  // inherited
-  EXPECT_EQ(Text(part.GetMember("Name", deprecated)), "null");        // case matters
   EXPECT_TRUE(part.IsMethod("regenerate", deprecated));
   EXPECT_FALSE(part.IsMethod("name", deprecated));
   EXPECT_FALSE(deprecated);
@@ -58,30 +52,18 @@ TEST(InterfaceObj, DispatchAnswersFromTheMostDerivedLevel) {
 
 TEST(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {
   TestPart part(NewPart());
-  bool deprecated = false;
-  EXPECT_EQ(Text(part.GetMember("partName", deprecated)), "null");
-  EXPECT_FALSE(deprecated);
+  EXPECT_EQ(Member(part, "partName"), "null");
   omu_Deprecation::SetAllowed(true);
-  {
-    CapturedErrors errors;
-    EXPECT_EQ(Text(part.GetMember("partName", deprecated)), "Part-1Type");
-    EXPECT_TRUE(deprecated);
-    EXPECT_EQ(errors.Text(), "Warning: 'partName' is deprecated; use 'name' instead.\n");
-  }
+  const CapturedErrors errors;
+  EXPECT_EQ(Member(part, "partName"), "Part-1Type (deprecated)");
   omu_Deprecation::SetAllowed(false);
+  EXPECT_EQ(errors.Text(), "Warning: 'partName' is deprecated; use 'name' instead.\n");
 }
 
 TEST(InterfaceObj, IllegalArithmeticKeepsItsTwoTexts) {
   TestPart a(NewPart());
   TestPart b(NewPart());
-  auto textOf = [](auto&& operation) {
-    try {
-      operation();
-    } catch (const nex_TextException& e) {
-      return e.Text().StdString();
-    }
-    return std::string("no error");
-  };
+  auto textOf = [](const std::function<void()>& f) { return Raised<nex_TextException>(f); };
   EXPECT_EQ(textOf([&] { a.AddOperation(&b); }), "Error: Illegal operation for type");
   EXPECT_EQ(textOf([&] { a.DivOperation(&b); }), "Error: Illegal operation for type");
   EXPECT_EQ(textOf([&] { a.UnaryNegative(); }), "Error: Illegal operation for type.");
@@ -158,10 +140,9 @@ TEST(InterfaceObj, CopiesAreHandlesOnTheSameRepositoryObject) {
   const auto data = NewPart();
   TestPart part(data);
   const std::unique_ptr<omu_Primitive> copy(part.Copy());
-  bool deprecated = false;
-  EXPECT_EQ(Text(static_cast<TestPart&>(*copy).GetMember("name", deprecated)), "Part-1Type");
+  EXPECT_EQ(Member(static_cast<TestPart&>(*copy), "name"), "Part-1Type");
   data->name = "Renamed";
-  EXPECT_EQ(Text(static_cast<TestPart&>(*copy).GetMember("name", deprecated)), "RenamedType");
+  EXPECT_EQ(Member(static_cast<TestPart&>(*copy), "name"), "RenamedType");
   const std::unique_ptr<omu_PrimWrapper> wrapper(part.ConstGetWrapper());
   EXPECT_EQ(wrapper->Object(), &part);
 }

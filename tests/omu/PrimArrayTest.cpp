@@ -1,32 +1,11 @@
 #include "CapturedErrors.h"
-#include "LibraryEnvironment.h"
-#include "TestArchive.h"
+#include "OmuTestSupport.h"
 
-#include <nex_TextException.h>
 #include <omu_PrimArray.h>
-#include <omu_PrimList.h>
-#include <omu_PrimString.h>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
 
 namespace {
 std::string FailureOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const nex_TextException& e) {
-    EXPECT_STREQ(e.SourcePath(), "omu/impl/omu_PrimArray");
-    return e.Text().StdString();
-  }
-  return "no error";
-}
-
-omu_PrimTuple Row(std::initializer_list<omu_Primitive*> values) {
-  omu_PrimTuple row(static_cast<int>(values.size()));
-  for (omu_Primitive* value : values) row.Put(value);
-  return row;
+  return Raised<nex_TextException>(action, "omu/impl/omu_PrimArray");
 }
 
 omu_PrimTuple Nest(std::initializer_list<omu_PrimTuple> rows) {
@@ -68,7 +47,7 @@ TEST(PrimArray, IndexingSharesTheNumbers) {
 
 TEST(PrimArray, FailureTexts) {
   const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
-  const int empty[] = {0};
+  const int empty[] = {0}, negative[] = {-1}, huge[] = {65536, 65536};
   const omu_PrimArray noDims(0, empty, kMatrix);
   EXPECT_EQ(noDims.Length(), 0);
   EXPECT_EQ(FailureOf([&] { delete noDims.Index(0); }), "PrimArray index out of bounds");
@@ -78,11 +57,9 @@ TEST(PrimArray, FailureTexts) {
   EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1, 1, 0); }), "more indices given than size of array (3>2)");
   EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(0, 2); }), "index out of range, dimension 1 (2 >= 2)");
   const CapturedErrors errors;
-  const int negative[] = {-1};
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, negative, kMatrix); }), "omu_PrimArray ctor failed");
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, kTwoByTwo, omu_PrimNumber::SHORT, nullptr); }),
             "omu_PrimArray ctor failed");
-  const int huge[] = {65536, 65536};
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(2, huge, kMatrix); }), "omu_PrimArray ctor failed");
   EXPECT_EQ(errors.Text(),
             "PrimArray negative dimensions are not allowed\nPrimArray only INT, FLOAT, DOUBLE allowed\n"
@@ -90,16 +67,16 @@ TEST(PrimArray, FailureTexts) {
 }
 
 TEST(PrimArray, FromNestedSequencesWithTypeFitting) {
-  const auto ints = Nest({Row({new omu_PrimNumber(1), new omu_PrimNumber(2)}),
-                          Row({new omu_PrimNumber(3), new omu_PrimNumber(4)})});
+  const auto ints = Nest({TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2)}),
+                          TupleOf({new omu_PrimNumber(3), new omu_PrimNumber(4)})});
   const omu_PrimArray intArray(ints);
   EXPECT_EQ(intArray.DataType(), omu_PrimNumber::INT);
   EXPECT_EQ(intArray.AsString(0), "array([[1, 2], [3, 4]], 'l')");
-  const omu_PrimArray mixed(Row({new omu_PrimNumber(1), new omu_PrimNumber(2.5)}));
+  const omu_PrimArray mixed(TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2.5)}));
   EXPECT_EQ(mixed.AsString(0), "array([1.0, 2.5], 'd')");
-  const omu_PrimArray floats(Row({new omu_PrimNumber(1.5f)}));
+  const omu_PrimArray floats(TupleOf({new omu_PrimNumber(1.5f)}));
   EXPECT_EQ(floats.DataType(), omu_PrimNumber::FLOAT);
-  const omu_PrimArray big(Row({new omu_PrimNumber(4000000000u)}));
+  const omu_PrimArray big(TupleOf({new omu_PrimNumber(4000000000u)}));
   EXPECT_EQ(big.DataType(), omu_PrimNumber::DOUBLE);
   const omu_PrimArray fromArray(omu_PrimList(cow_List<int>{5, 6}, '('));
   const omu_PrimArray again(fromArray);
@@ -111,11 +88,11 @@ TEST(PrimArray, RaggedOrForeignInputIsRefusedWithItsMessage) {
     omu_PrimTuple input;
     const char* reason;
   } cases[] = {
-      {Nest({Row({new omu_PrimNumber(1), new omu_PrimNumber(2)}), Row({new omu_PrimNumber(3)})}),
+      {Nest({TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2)}), TupleOf({new omu_PrimNumber(3)})}),
        "different dims in child. dimThis=1, j=0\n"},
-      {Nest({Row({new omu_PrimNumber(1)}), Row({Row({new omu_PrimNumber(3)}).Copy()})}),
+      {Nest({TupleOf({new omu_PrimNumber(1)}), TupleOf({TupleOf({new omu_PrimNumber(3)}).Copy()})}),
        "different num dims in child. nd=1, ndTemp=2, i=1\n"},
-      {Row({new omu_PrimString(cow_String("x"))}), "Child not PrimSequence or PrimNumber\n"},
+      {TupleOf({StringOf("x")}), "Child not PrimSequence or PrimNumber\n"},
   };
   for (const Case& c : cases) {
     const CapturedErrors errors;

@@ -1,19 +1,7 @@
-#include "LibraryEnvironment.h"
-#include "TestArchive.h"
+#include "OmuTestSupport.h"
 
 #include <omi_complex.h>
-#include <omu_PrimBoolean.h>
-#include <omu_PrimDictionary.h>
-#include <omu_PrimList.h>
-#include <omu_PrimNumber.h>
-#include <omu_PrimString.h>
-#include <omu_PrimWrapper.h>
 #include <utl_FilePath.h>
-
-#include <gtest/gtest.h>
-
-using StrDict = omu_PrimDictionary<cow_String>;
-using IntDict = omu_PrimDictionary<int>;
 
 TEST(PrimDictionary, TypedReadsTakeOnlyTheirKinds) {
   StrDict dict;
@@ -109,17 +97,4 @@ TEST(PrimDictionary, RoundTripsKeepEntriesAndIdentity) {
   const auto numbersBack = RoundTrip<omu_Primitive>(numbers);
   EXPECT_EQ(numbersBack->DynTypeId(), IntDict::TypeId());
   EXPECT_TRUE(*numbersBack == numbers);
-}
-
-TEST(PrimWrapper, MemberDictionaryIsCopiedWithItsIdentityAndPersisted) {
-  omu_PrimWrapper wrapper;
-  wrapper.MemberDict().Put(7, "count");
-  const omu_PrimWrapper copy(wrapper);
-  EXPECT_TRUE(copy.MemberDict() == wrapper.MemberDict());
-  EXPECT_EQ(copy.MemberDict().EntriesUid(), wrapper.MemberDict().EntriesUid());
-  const auto back = RoundTrip<omu_PrimWrapper>(wrapper);
-  int count = 0;
-  EXPECT_EQ(back->MemberDict().Get(count, "count"), 1);
-  EXPECT_EQ(count, 7);
-  EXPECT_FALSE(*back == *back);
 }

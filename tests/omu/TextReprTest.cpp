@@ -1,15 +1,10 @@
 #include "CapturedErrors.h"
-#include "LibraryEnvironment.h"
+#include "OmuTestSupport.h"
 
-#include <UTI_CaeUtils.h>
 #include <omu_GetBracketKeyPos.h>
 #include <omu_PrimLeaf.h>
-#include <omu_PrimNumber.h>
-#include <omu_PrimTuple.h>
 #include <omu_StringFromQString.h>
 #include <omu_TextRepr.h>
-
-#include <gtest/gtest.h>
 
 #include <thread>
 #include <vector>

@@ -1,25 +1,13 @@
 // Many values in one archive, read back equal; with CVX_FUZZ_SEEDS set, each archive is
 // also written there as a seed for the archive fuzzer.
-#include "LibraryEnvironment.h"
-#include "TestArchive.h"
+#include "OmuTestSupport.h"
 
 #include <omu_PrimArray.h>
-#include <omu_PrimBool.h>
-#include <omu_PrimBoolean.h>
-#include <omu_PrimComplex.h>
-#include <omu_PrimDictionary.h>
-#include <omu_PrimList.h>
 #include <omu_PrimNone.h>
 #include <omu_PrimPath.h>
-#include <omu_PrimString.h>
-#include <omu_PrimWrapper.h>
-
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
-#include <functional>
-#include <memory>
 #include <vector>
 
 namespace {
