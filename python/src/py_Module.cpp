@@ -1,4 +1,5 @@
-// The cvxutils module: the library's values and errors as a script meets them.
+// The cvxutils module: the library's values, errors and commands as a script meets them.
+#include "py_ErrorSamples.h"
 #include "py_ErrorTranslator.h"
 #include "py_Library.h"
 #include "py_ValueConverter.h"
@@ -28,6 +29,7 @@ PYBIND11_MODULE(cvxutils, module) {
   py_Library::Start();
   py_ErrorTranslator::Register(module);
   py_ValueTypes::Register(module);
+  py_ErrorSamples::Register(module);
   module.def("echo", &Echo, py::arg("value"),
              "Carries value into the library's primitive and back.");
   module.def("text", &Text, py::arg("value"),
