@@ -1,6 +1,9 @@
-// The cvxutils module: the library's values, errors and commands as a script meets them.
+// The cvxutils module: the library's values, errors, commands and repository objects as a
+// script meets them.
+#include "py_DemoCommands.h"
 #include "py_ErrorSamples.h"
 #include "py_ErrorTranslator.h"
+#include "py_InterfaceObject.h"
 #include "py_Library.h"
 #include "py_ValueConverter.h"
 #include "py_ValueTypes.h"
@@ -29,6 +32,8 @@ PYBIND11_MODULE(cvxutils, module) {
   py_Library::Start();
   py_ErrorTranslator::Register(module);
   py_ValueTypes::Register(module);
+  py_InterfaceObject::Register(module);
+  py_DemoCommands::Register(module);
   py_ErrorSamples::Register(module);
   module.def("echo", &Echo, py::arg("value"),
              "Carries value into the library's primitive and back.");

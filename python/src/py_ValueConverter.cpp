@@ -5,6 +5,7 @@
 #include "py_ScalarTable.h"
 #include "py_ScriptObject.h"
 
+#include <omu_InterfaceObj.h>
 #include <omu_PrimArray.h>
 #include <omu_PrimDictionary.h>
 #include <omu_PrimList.h>
@@ -170,6 +171,9 @@ omu_PrimOwner py_ValueConverter::ToPrimitive(PyObject* value) {
   if (PyTuple_Check(value)) return ToSequence<omu_PrimTuple>(value);
   if (PyList_Check(value)) return ToSequence<omu_PrimList>(value);
   if (PyDict_Check(value)) return ToDictionary(value);
+  if (py::isinstance<omu_InterfaceObj>(value)) {
+    return omu_PrimOwner(py::handle(value).cast<const omu_InterfaceObj&>().Copy());
+  }
   if (py_ArrayConverter::IsArray(value)) return py_ArrayConverter::ToPrimitive(value);
   if (PyIndex_Check(value)) {
     // An integer of another kind (a NumPy integer): its __index__ may raise.
@@ -193,6 +197,11 @@ PyObject* py_ValueConverter::ToPython(const omu_Primitive* value) {
       return DictionaryToPython(*value);
     case 'o':
       return py_ArrayConverter::ToPython(static_cast<const omu_PrimArray&>(*value));
+    case 'r':
+      return py::cast(std::unique_ptr<omu_InterfaceObj>(
+                          static_cast<omu_InterfaceObj*>(value->Copy())))
+          .release()
+          .ptr();
     default:
       break;
   }

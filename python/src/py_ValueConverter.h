@@ -10,6 +10,7 @@
 //   dict                 omu_PrimDictionary<cow_String> with str keys (also when empty),
 //                        omu_PrimDictionary<int> with int keys; other keys raise TypeError
 //   numpy.ndarray        omu_PrimArray (py_ArrayConverter)
+//   cvxutils repository objects   the interface object itself
 //   anything else        omu_PyObjectWrapper, which gives back the same object
 //
 // Back, each primitive becomes the Python value of its kind; a type, an expression and the

@@ -67,6 +67,11 @@ class TestText:
         with pytest.raises(UnicodeEncodeError):
             cvxutils.echo("a\udc80b")
 
+    def test_bytes_that_are_not_utf8_come_back_replaced(self):
+        # The repair cuts the name at 38 bytes, inside a two-byte character.
+        repaired, name = cvxutils.makeLegalGuiName("a" + "é" * 20)
+        assert repaired and name == "a" + "é" * 18 + "\ufffd"
+
     def test_dictionary_keys_cross_as_utf8(self):
         assert cvxutils.echo({"päivä": 1}) == {"päivä": 1}
 
@@ -160,6 +165,16 @@ def test_deep_nesting_meets_the_recursion_limit():
         value = [value]
     with pytest.raises(RecursionError):
         cvxutils.echo(value)
+
+
+def test_ragged_rows_are_refused_where_a_table_is_required():
+    with pytest.raises(TypeError, match=r"^createMaterial\[1\]; found list, expecting sequence of sequences of float$"):
+        cvxutils.createMaterial("Steel", [[1.0, 0.3], [2.0]])
+
+
+def test_float_where_an_int_is_required():
+    with pytest.raises(TypeError, match=r"^validateName\[1\]; found float, expecting int$"):
+        cvxutils.validateName("ok", 1.0)
 
 
 # Nested values as a script builds them, within what the library carries.
