@@ -17,6 +17,7 @@ def test_command_is_a_native_callable():
     ((1,), {"c": "abc", "b": 2}),                  # keywords in any order; an int where a float goes
     ((1, 2.5, "abc"), {"name": "Part-1"}),         # an optional one skipped
     ((1, 2.5, "abc", 0), {}),                      # a bool given as 0
+    ((1, 2.5, "abc"), {"".join(["na", "me"]): "x"}),  # a keyword name made at run time
 ])
 def test_good_calls_bind(args, kwargs):
     assert cvxutils.probe(*args, **kwargs) is None
@@ -28,6 +29,7 @@ def test_good_calls_bind(args, kwargs):
     ((), {}, "probe; not all required arguments specified; expected 3, got 0"),
     ((1, 2.5, "abc", True, "x", 6), {}, "probe; too many arguments; expected 5, got 6"),
     ((1, 2.5, "abc"), {"colour": "red"}, "probekeyword error on colour"),
+    ((1, 2.5, "abc"), {"".join(["col", "our"]): "red"}, "probekeyword error on colour"),
     ((1, 2.5, "abc"), {"a": 1}, "probekeyword error on a"),            # given twice: by position and keyword
     (("1", 2.5, "abc"), {}, "probe[0]; found string, expecting int"),
     ((1.0, 2.5, "abc"), {}, "probe[0]; found float, expecting int"),
