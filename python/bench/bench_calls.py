@@ -17,18 +17,23 @@ def probe(a, b, c, flag=False, name=""):
     pass
 
 
-def per_call_ns(statement, namespace, calls):
-    # The best of several runs: the least disturbed by the other work on the machine.
-    timer = timeit.Timer(statement, globals=namespace)
-    return min(timer.repeat(repeat=7, number=calls)) / calls * 1e9
+def best_ns(statements, namespace, calls, rounds=9):
+    # Rounds take each statement in turn, so that a change in the load of the shared machine
+    # meets all of them; the best round of each is the least disturbed.
+    timers = {label: timeit.Timer(statement, globals=namespace) for label, statement in statements}
+    best = dict.fromkeys(timers, float("inf"))
+    for _ in range(rounds):
+        for label, timer in timers.items():
+            best[label] = min(best[label], timer.timeit(calls) / calls * 1e9)
+    return best
 
 
 def calls():
     call = "f(1, 2.5, 'abc', flag=True, name='Part-1')"
-    times = {label: per_call_ns(call, {"f": f}, 200_000) for label, f in [
-        ("native command (cvxutils.probe)", cvxutils.probe),
-        ("plain pybind11 function", cvxutils_bench_peer.probe),
-        ("pure Python function", probe)]}
+    namespace = {"native": cvxutils.probe, "peer": cvxutils_bench_peer.probe, "python": probe}
+    times = best_ns([("native command (cvxutils.probe)", call.replace("f(", "native(")),
+                     ("plain pybind11 function", call.replace("f(", "peer(")),
+                     ("pure Python function", call.replace("f(", "python("))], namespace, 100_000)
     for label, ns in times.items():
         print(f"  {label:34s} {ns:8.1f} ns/call")
     native, peer, python = times.values()
@@ -38,9 +43,8 @@ def calls():
 
 def arrays():
     array = np.random.default_rng(1).random(1_000_000)
-    times = {label: per_call_ns(statement, {"cvxutils": cvxutils, "np": np, "a": array}, 20) for label, statement in [
-        ("cvxutils.echo (into the library and back)", "cvxutils.echo(a)"),
-        ("numpy.copy", "np.copy(a)")]}
+    times = best_ns([("cvxutils.echo (into the library and back)", "cvxutils.echo(a)"),
+                     ("numpy.copy", "np.copy(a)")], {"cvxutils": cvxutils, "np": np, "a": array}, 10)
     for label, ns in times.items():
         print(f"  {label:42s} {ns / 1e6:7.3f} ms")
     echo, copy = times.values()
