@@ -25,8 +25,19 @@ run_consumer() {
   "$out/build/consumer"
 }
 
+# The installed Python module imports with Debian's interpreter away from the build tree.
+run_python_install() {
+  echo "=== python install"
+  local site
+  site=$(/usr/bin/python3 -c 'import sys; print("lib/python%d.%d/dist-packages" % sys.version_info[:2])')
+  local path="$PWD/build/consumer/prefix/$site"
+  (cd / && PYTHONPATH="$path" /usr/bin/python3 -c \
+    'import cvxutils; assert cvxutils.echo([1, "a"]) == [1, "a"]; print("imported", cvxutils.__file__)')
+}
+
 run_suite debug
 run_consumer
+run_python_install
 run_suite asan
 run_suite tsan
 

@@ -56,6 +56,14 @@ public:
 
   int NumDims() const noexcept { return m_NumDims; }
   int Dim(int index) const noexcept { return m_Dims[index]; }
+  // The byte distance between consecutive indices of a dimension.
+  int Stride(int index) const noexcept { return m_Strides[index]; }
+  // The first number, laid out by the strides; null for an array without numbers. Lent: it
+  // lives as long as some handle on SharedData() does.
+  const std::byte* ConstData() const noexcept { return m_Data; }
+  // The storage this array and its copies and sub-arrays share; a holder of the handle keeps
+  // ConstData() valid (a host hands the numbers on without copying them).
+  const cow_CountedHld<omu_PrimArrayData>& SharedData() const noexcept { return m_Shared; }
   DataTypeEnm DataType() const noexcept { return m_DataType; }
   char PyType() const noexcept { return m_PyType; }
   // 'l' for INT, 'f' for FLOAT, 'd' for DOUBLE; other data types change nothing.

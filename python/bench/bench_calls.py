@@ -1,0 +1,62 @@
+"""Measures the script call path and the array path of cvxutils beside their peers, in one run.
+
+Run by hand against a release build:
+    cmake --preset release && cmake --build --preset release --target cvxutils cvxutils_bench_peer
+    PYTHONPATH=build/release/python/site /usr/bin/python3 python/bench/bench_calls.py
+"""
+import sys
+import timeit
+
+import numpy as np
+
+import cvxutils
+import cvxutils_bench_peer
+
+
+def probe(a, b, c, flag=False, name=""):
+    pass
+
+
+def best_ns(statements, namespace, calls, rounds=9):
+    # Rounds take each statement in turn, so that a change in the load of the shared machine
+    # meets all of them; the best round of each is the least disturbed.
+    timers = {label: timeit.Timer(statement, globals=namespace) for label, statement in statements}
+    best = dict.fromkeys(timers, float("inf"))
+    for _ in range(rounds):
+        for label, timer in timers.items():
+            best[label] = min(best[label], timer.timeit(calls) / calls * 1e9)
+    return best
+
+
+def calls():
+    call = "f(1, 2.5, 'abc', flag=True, name='Part-1')"
+    namespace = {"native": cvxutils.probe, "peer": cvxutils_bench_peer.probe, "python": probe}
+    times = best_ns([("native command (cvxutils.probe)", call.replace("f(", "native(")),
+                     ("plain pybind11 function", call.replace("f(", "peer(")),
+                     ("pure Python function", call.replace("f(", "python("))], namespace, 100_000)
+    for label, ns in times.items():
+        print(f"  {label:34s} {ns:8.1f} ns/call")
+    native, peer, python = times.values()
+    print(f"  native / pybind11      {native / peer:5.2f}   (target <= 0.6)")
+    print(f"  native / pure Python   {native / python:5.2f}   (moonshot <= 3)")
+
+
+def arrays():
+    array = np.random.default_rng(1).random(1_000_000)
+    times = best_ns([("cvxutils.echo (into the library and back)", "cvxutils.echo(a)"),
+                     ("numpy.copy", "np.copy(a)")], {"cvxutils": cvxutils, "np": np, "a": array}, 10)
+    for label, ns in times.items():
+        print(f"  {label:42s} {ns / 1e6:7.3f} ms")
+    echo, copy = times.values()
+    back = cvxutils.echo(array)
+    zero_copy = not back.flags.owndata and back.base is not None
+    print(f"  echo / numpy.copy      {echo / copy:5.2f}   (target <= 2.5)")
+    print(f"  back without a copy:   {'yes' if zero_copy else 'no'}")
+
+
+if __name__ == "__main__":
+    print(f"Python {sys.version.split()[0]}, NumPy {np.__version__}")
+    print("f(1, 2.5, 'abc', flag=True, name='Part-1'):")
+    calls()
+    print("float64 array of 1,000,000 elements:")
+    arrays()

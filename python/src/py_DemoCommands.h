@@ -1,0 +1,27 @@
+#pragma once
+// The native commands of the demonstration model, registered in the module (they and the
+// classes they need live here, not in the library). Each binds its arguments with the
+// library's binder, so a wrong call gets the library's messages:
+//
+//   createMaterial(name, elastic, keyColumns=2)     a Material (py_DemoMaterial) whose
+//       elastic table is sorted by its last keyColumns columns and validated; name is a
+//       general name (CorvexNameError otherwise)
+//   createSection(name, thickness, material='')     a Section (py_DemoSection) in its first
+//       step (CREATED); thickness > 0 (RangeError)
+//   validateName(name, kind=0)                      name when it is a legal name of kind 0-7
+//   makeLegalGuiName(name, replacements='x.--..')   (repaired, name) as the library repairs it
+//   checkRange(name, lower, lowerInclusive, value, upper, upperInclusive)
+//   checkGreaterThan(name, lower, lowerInclusive, value)
+//                                                   None, or RangeError; integer checks when
+//                                                   the lower limit is an int, else floating
+//   probe(a, b, c, flag=False, name='')             binds an int, a float, a str, a bool and
+//                                                   a str and answers None: the call path alone
+//
+// The propagation statuses and attribute states are module constants (cvxutils.CREATED,
+// cvxutils.SET, ...), made from the enumerations' own tables.
+#include <pybind11/pybind11.h>
+
+class py_DemoCommands {
+public:
+  static void Register(pybind11::module_& module);
+};

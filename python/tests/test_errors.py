@@ -1,0 +1,123 @@
+"""The library's errors as Python exceptions: class, message byte for byte, fields."""
+import pytest
+
+import cvxutils
+
+# One row per case: the error's script name, its fields, the Python class, the message.
+ERRORS = [
+    ("AccessError", ["Part-1"], cvxutils.AccessError, "Part-1 no longer exists"),
+    ("AttributeError", [0, ""], AttributeError, "read-only attributes"),
+    ("AttributeError", [1, "size"], AttributeError, "size is read-only"),
+    ("AttributeError", [2, "as it stands"], AttributeError, "as it stands"),
+    ("AttributeError", [5, "x"], AttributeError, "Error message not implemented yet"),
+    ("CorvexNameError", [0], cvxutils.CorvexNameError, "invalid name"),
+    ("CorvexNameError", [1], cvxutils.CorvexNameError, "name is empty"),
+    ("CorvexNameError", [2], cvxutils.CorvexNameError, "invalid job name"),
+    ("CorvexNameError", [3], cvxutils.CorvexNameError, "invalid model name"),
+    ("CorvexNameError", [4], cvxutils.CorvexNameError, ""),
+    ("FontError", ["Arial"], cvxutils.FontError, "Arial is not a valid font."),
+    ("GuiAccessError", ["no display"], cvxutils.GuiAccessError, "no display"),
+    ("IndexError", [7], IndexError, "7"),
+    ("IndexError", [-3], IndexError, "-3"),
+    ("KeyError", ["Part-9"], KeyError, "Part-9"),
+    ("NameError", ["x is not defined"], NameError, "x is not defined"),
+    ("OverflowError", ["too large"], OverflowError, "too large"),
+    ("RangeError", ["x", 2, "0", 1, "10", 2], cvxutils.RangeError, "x must be a Float in the range: 0 <= x < 10"),
+    ("RangeError", ["n", 1, "1", 1, "", 0], cvxutils.RangeError, "n must be an Integer >= 1"),
+    ("RangeError", ["t", 0, "", 0, "1.0", 1], cvxutils.RangeError, "t must be <= 1.0"),
+    ("RangeError", ["t", 0, "", 0, "", 0], cvxutils.RangeError, "t must be "),
+    ("RangeError", ["t", 1, "0", 3, "1", 1], cvxutils.RangeError, "t must be an Integer "),
+    ("ValueError", ["bad value"], ValueError, "bad value"),
+    ("ZeroDivisionError", ["float division by zero"], ZeroDivisionError, "float division by zero"),
+    ("ArgNumberError", [2, 3, ""], TypeError, "too many arguments; expected 2, got 3"),
+    ("ArgNumberError", [2, 2, ""], TypeError, "not all required arguments specified; expected 2, got 2"),
+    ("ArgNumberError", [3, 1, "points"], TypeError, "points; not all required arguments specified; expected 3, got 1"),
+    ("ArgTypeError", [1, "int", "string", ""], TypeError, "arg1; found string, expecting int"),
+    ("ArgTypeError", [3, "float", "string", "points"], TypeError, "points[2]; found string, expecting float"),
+    ("GenericTypeError", [], TypeError, "illegal argument type for built-in operation"),
+    ("KeywordError", ["name", ""], TypeError, "keyword error on name"),
+    ("KeywordError", ["size", "setValues"], TypeError, "setValueskeyword error on size"),
+    ("KeywordTypeError", ["size", "float", "string", ""], TypeError, "size; found string, expecting float"),
+    ("KeywordTypeError", ["a", "int", "string", "opts"], TypeError, "opts['a']; found string, expecting int"),
+    ("ColorError", ["mauve"], cvxutils.ColorError, "mauve is not a valid color name."),
+    ("KeyError", ["päivä ✓"], KeyError, "päivä ✓"),
+]
+
+
+@pytest.mark.parametrize("name, fields, error, message", ERRORS)
+def test_error_has_its_class_and_exact_message(name, fields, error, message):
+    with pytest.raises(error) as raised:
+        cvxutils.raiseError(name, *fields)
+    assert type(raised.value) is error
+    assert raised.value.args == (message,)
+
+
+@pytest.mark.parametrize("error, base", [
+    (cvxutils.CorvexNameError, ValueError), (cvxutils.RangeError, ValueError), (cvxutils.FontError, ValueError),
+    (cvxutils.ColorError, ValueError), (cvxutils.AccessError, ReferenceError),
+    (cvxutils.GuiAccessError, RuntimeError),
+])
+def test_module_error_derives_from_the_closest_builtin(error, base):
+    assert issubclass(error, base) and error.__module__ == "cvxutils"
+
+
+def test_key_error_prints_quoted_as_pythons_own():
+    with pytest.raises(KeyError) as raised:
+        cvxutils.raiseError("KeyError", "Part-9")
+    assert str(raised.value) == "'Part-9'" == str(KeyError("Part-9"))
+
+
+@pytest.mark.parametrize("name, fields, attributes", [
+    ("RangeError", ["x", 2, "0", 1, "10", 2],
+     {"keyword": "x", "keyword_type": 2, "lower_limit_as_string": "0", "lower_limit_qualifier": 1,
+      "higher_limit_as_string": "10", "higher_limit_qualifier": 2}),
+    ("ArgTypeError", [3, "float", "string", "points"],
+     {"arg_num": 3, "expecting": "float", "found": "string", "nesting_str": "points"}),
+    ("ArgNumberError", [3, 1, ""], {"expecting": 3, "found": 1, "nesting_str": ""}),
+    ("KeywordTypeError", ["a", "int", "string", "opts"],
+     {"keyword": "a", "expecting": "int", "found": "string", "nesting_str": "opts"}),
+    ("AttributeError", [1, "size"], {"error_type": 1, "attribute": "size"}),
+    ("CorvexNameError", [2], {"error": 2}),
+    ("IndexError", [7], {"value": 7}),
+    ("ColorError", ["mauve"], {"value": "mauve"}),
+])
+def test_error_fields_are_readable(name, fields, attributes):
+    with pytest.raises(Exception) as raised:
+        cvxutils.raiseError(name, *fields)
+    assert {key: getattr(raised.value, key) for key in attributes} == attributes
+
+
+def test_unknown_error_name_is_a_key_error():
+    with pytest.raises(KeyError, match="NoSuchError"):
+        cvxutils.raiseError("NoSuchError")
+
+
+class TestRaisedByTheLibrary:
+    def test_range_check(self):
+        with pytest.raises(cvxutils.RangeError) as raised:
+            cvxutils.checkRange("n", 1, False, 1, 10, True)
+        assert raised.value.args == ("n must be an Integer in the range: 1 < n <= 10",)
+
+    def test_name_check(self):
+        with pytest.raises(cvxutils.CorvexNameError) as raised:
+            cvxutils.validateName("my job", 1)
+        assert raised.value.args == ("invalid job name",) and raised.value.error == 2
+
+    def test_enumeration_name_not_allowed(self):
+        section = cvxutils.createSection("Shell-1", 2.0)
+        with pytest.raises(ValueError) as raised:
+            section.setStatus("thickness", "set")
+        assert raised.value.args == (
+            "omu_PrimEnum(const cow_String&) - str not allowed: set  Permissible: {ABS_DEFAULT: 6, COMP_DEFAULT: 7, "
+            "FREED: 3, INVALID: 5, NOT_APPLICABLE: 4, SET: 1, UNCHANGED: 2, UNSET: 0}",)
+
+    def test_internal_failure_is_a_runtime_error_with_its_text(self):
+        with pytest.raises(RuntimeError) as raised:
+            cvxutils.createMaterial("Steel", [[200e9, 0.3], [0.0, 0.0]], 1)
+        assert raised.value.args == (
+            "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).",)
+
+    def test_a_status_not_allowed_here_is_a_runtime_error(self):
+        section = cvxutils.createSection("Shell-1", 2.0)
+        with pytest.raises(RuntimeError, match="^Invalid propagation status for 'thickness' attribute.$"):
+            section.setStatus("thickness", cvxutils.UNSET)
