@@ -32,7 +32,7 @@ constexpr const char* kSource = "python/src/py_ErrorSamples";
 template <class E, class... Fields>
 void Raise(omu_Arguments& args) {
   std::tuple<Fields...> fields;
-  std::apply([&args](Fields&... field) { (args.Get(field), ...); }, fields);
+  std::apply([&](Fields&... field) { (args.Get(field), ...); }, fields);
   args.End("raiseError");
   NEX_THROW(std::make_from_tuple<E>(fields), kSource);
 }

@@ -28,7 +28,7 @@ template <class... Values>
 // is refused instead of recursing without end; deep nesting meets Python's recursion limit.
 class OpenContainer {
 public:
-  explicit OpenContainer(PyObject* container) : m_Container(container) {
+  explicit OpenContainer(PyObject* container) {
     if (std::find(s_Open.begin(), s_Open.end(), container) != s_Open.end()) {
       Raise(PyExc_ValueError, "a %.200s that holds itself cannot be carried",
             Py_TYPE(container)->tp_name);
@@ -46,7 +46,6 @@ public:
   OpenContainer& operator=(const OpenContainer&) = delete;
 
 private:
-  PyObject* m_Container;
   // Per thread: each thread converts under the GIL, but may be switched out mid-conversion.
   static thread_local std::vector<PyObject*> s_Open;
 };
