@@ -1,5 +1,7 @@
 // Runs every benchmark, then prints, for each pair named "<case>/ours" and "<case>/peer...",
-// the time of ours divided by the time of each peer (below 1: ours is faster).
+// the time of ours divided by the time of each peer (below 1: ours is faster). The times are
+// CPU times, which other processes on a shared machine disturb far less than wall-clock
+// times; with --benchmark_repetitions, the medians.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -13,16 +15,17 @@ public:
   void ReportRuns(const std::vector<Run>& runs) override {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-      const std::string name = run.benchmark_name();
+      const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
+      if ((run.run_type != Run::RT_Iteration && !median) || run.error_occurred) continue;
+      const std::string name = run.run_name.str();
       const auto slash = name.find('/');
       if (slash == std::string::npos) continue;
-      m_Times[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedRealTime();
+      m_Times[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedCPUTime();
     }
   }
   void Finalize() override {
     ConsoleReporter::Finalize();
-    std::printf("\n%-44s %-22s %12s\n", "case", "peer", "ours/peer");
+    std::printf("\n%-44s %-22s %12s\n", "case", "peer", "ours/peer (CPU time)");
     for (const auto& [name, sides] : m_Times) {
       const auto ours = sides.find("ours");
       if (ours == sides.end()) continue;

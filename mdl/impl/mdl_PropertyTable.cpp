@@ -11,94 +11,86 @@
 #include <vector>
 
 namespace {
-// The row comparison of the sort: row a belongs below row b when, at the first key column
-// (from the last one leftwards) where the two are not equal, a's value is the greater.
-// Equal keys, or a NaN at that column, answer false.
-class KeyGreater {
-public:
-  KeyGreater(const double* cells, int columns, int keys) noexcept
-      : m_Cells(cells), m_Columns(columns), m_First(columns - keys) {}
-
-  bool operator()(int a, int b) const noexcept {
-    const double* rowA = Row(a);
-    const double* rowB = Row(b);
-    for (int column = m_Columns - 1; column >= m_First; --column) {
-      if (rowA[column] > rowB[column]) return true;
-      if (!(rowA[column] == rowB[column])) return false;
-    }
-    return false;
-  }
-  bool AnyNaNKey(int rows) const noexcept {
-    for (int row = 0; row < rows; ++row) {
-      const double* values = Row(row);
-      for (int column = m_First; column < m_Columns; ++column) {
-        if (std::isnan(values[column])) return true;
-      }
-    }
-    return false;
-  }
-
-private:
-  const double* Row(int row) const noexcept {
-    return m_Cells + static_cast<std::size_t>(row) * static_cast<std::size_t>(m_Columns);
-  }
-
-  const double* m_Cells;
-  int m_Columns;
-  int m_First;
-};
-
-// The insertion sort itself, on row numbers: row i moves up while the row above is greater.
-void InsertionOrder(std::vector<int>& order, const KeyGreater& greater) {
-  for (std::size_t i = 1; i < order.size(); ++i) {
-    const int moving = order[i];
-    std::size_t j = i;
-    for (; j > 0 && greater(order[j - 1], moving); --j) order[j] = order[j - 1];
-    order[j] = moving;
-  }
-}
-
-// Without NaN keys the comparison is a strict weak order, and the insertion sort's result is
-// the one stable sorted order: a stable merge sort reaches it in n log n.
-void MergeOrder(std::vector<int>& order, const KeyGreater& greater) {
-  std::stable_sort(order.begin(), order.end(), [&greater](int a, int b) { return greater(b, a); });
-}
-
-// The same merge sort on rows that carry their few keys (most significant first) with them,
-// so that comparisons read adjacent memory instead of chasing row numbers.
-template <int Keys>
+// A row number with one of its keys beside it, so that sorting reads adjacent memory instead of
+// chasing row numbers into the table.
 struct KeyedRow {
-  double key[Keys];
+  double key;
   int row;
 };
 
-template <int Keys>
-void KeyedMergeOrder(std::vector<int>& order, const double* cells, int columns) {
-  std::vector<KeyedRow<Keys>> rows(order.size());
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    const double* last = cells + (row + 1) * static_cast<std::size_t>(columns) - 1;
-    for (int key = 0; key < Keys; ++key) rows[row].key[key] = last[-key];
-    rows[row].row = static_cast<int>(row);
-  }
-  std::stable_sort(rows.begin(), rows.end(), [](const KeyedRow<Keys>& a, const KeyedRow<Keys>& b) {
-    for (int key = 0; key < Keys; ++key) {
-      if (a.key[key] < b.key[key]) return true;
-      if (!(a.key[key] == b.key[key])) return false;
-    }
-    return false;
-  });
-  for (std::size_t row = 0; row < rows.size(); ++row) order[row] = rows[row].row;
-}
+// A run of places in the order that hold rows equal on every key sorted so far.
+struct Group {
+  std::size_t begin, end;
+};
 
-void StableOrder(std::vector<int>& order, const KeyGreater& greater, const double* cells,
-                 int columns, int keys) {
-  switch (keys) {
-    case 1: return KeyedMergeOrder<1>(order, cells, columns);
-    case 2: return KeyedMergeOrder<2>(order, cells, columns);
-    case 3: return KeyedMergeOrder<3>(order, cells, columns);
-    default: return MergeOrder(order, greater);
+// The insertion sort's result, key by key from the most significant. Within a group, a row
+// whose key is NaN compares neither greater nor equal, so the insertion sort moves no row past
+// it: the NaN rows stay where they are and the rows between them are sorted apart. Without NaN
+// the key is a strict weak order (-0 equal to +0), so the insertion sort leaves each segment
+// stably sorted by it and sorts each run of equal keys, in its original order, by the keys
+// that follow: exactly the next pass. Cost O(keys * n log n).
+class KeyOrder {
+public:
+  KeyOrder(const double* cells, int columns, int keys) noexcept
+      : m_Cells(cells), m_Columns(static_cast<std::size_t>(columns)), m_Keys(keys) {}
+
+  void Sort(std::vector<int>& order) {
+    std::vector<Group> groups{{0, order.size()}};
+    std::vector<Group> next;
+    for (int key = 0; key < m_Keys && !groups.empty(); ++key) {
+      const std::size_t column = m_Columns - 1 - static_cast<std::size_t>(key);
+      const bool last = key + 1 == m_Keys;
+      next.clear();
+      for (const Group& group : groups) SortGroup(order, group, column, last ? nullptr : &next);
+      groups.swap(next);
+    }
   }
-}
+
+private:
+  double Key(int row, std::size_t column) const noexcept {
+    return m_Cells[static_cast<std::size_t>(row) * m_Columns + column];
+  }
+
+  void SortGroup(std::vector<int>& order, Group group, std::size_t column,
+                 std::vector<Group>* ties) {
+    for (std::size_t begin = group.begin; begin < group.end;) {
+      if (std::isnan(Key(order[begin], column))) {
+        ++begin;
+        continue;
+      }
+      std::size_t end = begin + 1;
+      while (end < group.end && !std::isnan(Key(order[end], column))) ++end;
+      if (end - begin > 1) SortSegment(order, {begin, end}, column, ties);
+      begin = end;
+    }
+  }
+
+  // Stably sorts a segment free of NaN keys and records its runs of equal keys in ties.
+  void SortSegment(std::vector<int>& order, Group segment, std::size_t column,
+                   std::vector<Group>* ties) {
+    m_Scratch.clear();
+    for (std::size_t at = segment.begin; at < segment.end; ++at) {
+      m_Scratch.push_back({Key(order[at], column), order[at]});
+    }
+    std::stable_sort(m_Scratch.begin(), m_Scratch.end(),
+                     [](const KeyedRow& a, const KeyedRow& b) { return a.key < b.key; });
+    for (std::size_t at = 0; at < m_Scratch.size(); ++at) {
+      order[segment.begin + at] = m_Scratch[at].row;
+    }
+    if (!ties) return;
+    for (std::size_t run = 0; run < m_Scratch.size();) {
+      std::size_t end = run + 1;
+      while (end < m_Scratch.size() && m_Scratch[end].key == m_Scratch[run].key) ++end;
+      if (end - run > 1) ties->push_back({segment.begin + run, segment.begin + end});
+      run = end;
+    }
+  }
+
+  const double* m_Cells;
+  std::size_t m_Columns;
+  int m_Keys;
+  std::vector<KeyedRow> m_Scratch;
+};
 }  // namespace
 
 mdl_PropertyTable::mdl_PropertyTable(const cls_ReadVisitor& reader)
@@ -137,14 +129,9 @@ bool mdl_PropertyTable::operator==(const mdl_PropertyTable& other) const {
 void mdl_PropertyTable::Sort(int keyColumns) {
   const int keys = std::min(keyColumns, Columns());
   if (keys <= 0 || Rows() < 2) return;
-  const KeyGreater greater(m_Table.Cells().data(), Columns(), keys);
   std::vector<int> order(static_cast<std::size_t>(Rows()));
   std::iota(order.begin(), order.end(), 0);
-  if (greater.AnyNaNKey(Rows())) {
-    InsertionOrder(order, greater);
-  } else {
-    StableOrder(order, greater, m_Table.Cells().data(), Columns(), keys);
-  }
+  KeyOrder(m_Table.Cells().data(), Columns(), keys).Sort(order);
   cow_2DArray<double> sorted(Rows(), Columns());
   std::vector<double>& to = sorted.MutableCells();
   const std::vector<double>& from = m_Table.Cells();

@@ -24,16 +24,9 @@ void omu_Arguments::Begin() {
   omu_PrimTuple::Begin();
 }
 
-int omu_Arguments::KeywordSlot(std::string_view keyword, const omu_Primitive** value) const {
-  int slot = 0;
-  for (const auto& [name, handle] : m_Keywords.GetEntries()) {
-    if (name == keyword) {
-      if (value) *value = handle.ConstGet();
-      return slot;
-    }
-    ++slot;
-  }
-  return -1;
+int omu_Arguments::KeywordSlot(std::string_view keyword) {
+  if (!m_Index.Built()) m_Index.Build(m_Keywords);
+  return m_Index.Find(keyword);
 }
 
 // Keywords stored after Begin are not claimable until the next Begin.
@@ -42,10 +35,8 @@ bool omu_Arguments::IsUnclaimed(int slot) const noexcept {
          !m_Claimed[static_cast<std::size_t>(slot)];
 }
 
-const omu_Primitive* omu_Arguments::Claim(std::string_view keyword) {
-  const omu_Primitive* value = nullptr;
-  const int slot = KeywordSlot(keyword, &value);
-  if (IsUnclaimed(slot)) return value;
+const omu_Primitive* omu_Arguments::Claim(std::string_view keyword, int slot) {
+  if (IsUnclaimed(slot)) return m_Index.Value(slot);
   const int at = m_NumGets + 1;
   m_KeywordInError = keyword;
   if (m_IsOptional) {
@@ -65,11 +56,10 @@ void omu_Arguments::KeywordTypeError(std::string_view keyword, const cow_String&
   m_KeywordInError = keyword;
 }
 
-void omu_Arguments::CountKeywordRead(std::string_view keyword) {
+void omu_Arguments::CountKeywordRead(int slot) {
   ++m_NumGets;
   ++m_ArgCount;
   if (!m_IsOptional) ++m_ReqCount;
-  const int slot = KeywordSlot(keyword);
   if (!IsUnclaimed(slot)) return;
   m_Claimed[static_cast<std::size_t>(slot)] = 1;
   --m_Unclaimed;
@@ -89,15 +79,16 @@ const omu_InterfaceObj* omu_Arguments::Get(const char* typeName, const omu_Inter
                                            std::string_view keyword) {
   if (m_ErrorArg == 0 && m_Cursor < m_Size) return omu_PrimTuple::Get(typeName, none);
   const omu_InterfaceObj* object = nullptr;
+  const int slot = KeywordSlot(keyword);
   if (m_ErrorArg == 0) {
-    if (const omu_Primitive* value = Claim(keyword)) {
+    if (const omu_Primitive* value = Claim(keyword, slot)) {
       if (!omu_PrimConvert(value, object) || (typeName && !object->IsA(typeName))) {
         object = nullptr;
         KeywordTypeError(keyword, typeName ? typeName : omu_PythonType::Generic, *value);
       }
     }
   }
-  CountKeywordRead(keyword);
+  CountKeywordRead(slot);
   return object;
 }
 
@@ -155,24 +146,35 @@ bool omu_Arguments::Error() const {
 }
 
 void omu_Arguments::End(cow_String context) {
+  EndWith([&] { return context.IsEmpty() ? m_NestedErrorStr : context; });
+}
+
+void omu_Arguments::End(const char* context) {
+  EndWith([&] { return *context ? cow_String(context) : m_NestedErrorStr; });
+}
+
+template <class Context>
+void omu_Arguments::EndWith(Context&& context) {
   m_OptionalKeywordMissingAt = 0;
-  if (context.IsEmpty()) context = m_NestedErrorStr;
   if (m_Unclaimed > 0) {
-    NEX_THROW(omu_KeywordErrorException(FirstUnclaimed(), context), kSource);
+    NEX_THROW(omu_KeywordErrorException(FirstUnclaimed(), context()), kSource);
   }
   if (m_ErrorArg != 0 && m_KeywordInError.IsEmpty()) {
-    NEX_THROW(omu_ArgTypeErrorException(m_ErrorArg, m_TypeExpected, m_TypeFound, context), kSource);
-  }
-  if (m_ErrorArg != 0 && m_TypeExpected != kUndetermined && m_TypeFound != kUndetermined) {
-    NEX_THROW(omu_KeywordTypeErrorException(m_KeywordInError, m_TypeExpected, m_TypeFound, context),
+    NEX_THROW(omu_ArgTypeErrorException(m_ErrorArg, m_TypeExpected, m_TypeFound, context()),
               kSource);
   }
+  if (m_ErrorArg != 0 && m_TypeExpected != kUndetermined && m_TypeFound != kUndetermined) {
+    NEX_THROW(
+        omu_KeywordTypeErrorException(m_KeywordInError, m_TypeExpected, m_TypeFound, context()),
+        kSource);
+  }
   if (m_Size + m_KeywordsTaken < m_ReqCount) {
-    NEX_THROW(omu_ArgNumberErrorException(m_ReqCount, m_Size + m_KeywordsTaken, context), kSource);
+    NEX_THROW(omu_ArgNumberErrorException(m_ReqCount, m_Size + m_KeywordsTaken, context()),
+              kSource);
   }
   const int given = m_Keywords.Length();
   if (m_Size + given > m_ArgCount) {
-    NEX_THROW(omu_ArgNumberErrorException(m_ArgCount, m_Size + given, context), kSource);
+    NEX_THROW(omu_ArgNumberErrorException(m_ArgCount, m_Size + given, context()), kSource);
   }
 }
 

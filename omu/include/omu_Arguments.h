@@ -5,8 +5,10 @@
 // run out), and End with the command's name, which raises the one error that best describes
 // what was wrong, in this order: a keyword no Get asked for, a positional value of the wrong
 // type, a keyword value of the wrong type, too few arguments, too many. Keywords are taken as
-// text views: reading allocates nothing.
+// text views: reading allocates nothing, and each keyword read takes constant time (a hash
+// index of the call's keywords, built at the first keyword read after the keywords change).
 #include <omu_CorvexName.h>
+#include <omu_KeywordIndex.h>
 #include <omu_PrimDictionary.h>
 #include <omu_PrimTuple.h>
 
@@ -45,6 +47,7 @@ public:
   // built to be passed on.
   template <class T>
   void Put(const T& value, const cow_String& keyword) {
+    m_Index.Clear();
     m_Keywords.Put(value, keyword);
     m_StoredKeywords.Append(keyword);
   }
@@ -69,6 +72,8 @@ public:
   // Whether the last Get is the one that failed.
   bool ErrorOnPrevious() const;
   void End(cow_String context) override;
+  // The same for a command name given as a literal: its text is copied only when End raises.
+  void End(const char* context);
 
   const omu_PrimDictionary<cow_String>& Keywords() const noexcept { return m_Keywords; }
   const cow_List<cow_String>& StoredKeywords() const noexcept { return m_StoredKeywords; }
@@ -80,29 +85,34 @@ public:
 private:
   template <class T, class ByPosition>
   void Read(T& out, std::string_view keyword, ByPosition&& byPosition) {
+    if (m_ErrorArg == 0 && m_Cursor < m_Size) return byPosition(out);
+    const int slot = KeywordSlot(keyword);
     if (m_ErrorArg == 0) {
-      if (m_Cursor < m_Size) return byPosition(out);
-      if (const omu_Primitive* value = Claim(keyword)) {
+      if (const omu_Primitive* value = Claim(keyword, slot)) {
         if (!omu_PrimConvert(value, out)) {
           KeywordTypeError(keyword, omu_Binding<T>::Expected(out), *value);
         }
       }
     }
-    CountKeywordRead(keyword);
+    CountKeywordRead(slot);
   }
-  // The keyword's value when the call gives it and no Get has taken it; else records the
-  // missing keyword and answers null.
-  const omu_Primitive* Claim(std::string_view keyword);
+  // The keyword's value when the call gives it (at slot) and no Get has taken it; else records
+  // the missing keyword and answers null.
+  const omu_Primitive* Claim(std::string_view keyword, int slot);
   void KeywordTypeError(std::string_view keyword, const cow_String& expected,
                         const omu_Primitive& found);
-  void CountKeywordRead(std::string_view keyword);
-  // The keyword's place in key order, or -1; its value too when asked for.
-  int KeywordSlot(std::string_view keyword, const omu_Primitive** value = nullptr) const;
+  void CountKeywordRead(int slot);
+  // The keyword's place in key order, or -1.
+  int KeywordSlot(std::string_view keyword);
+  // End's checks in order; context() gives the text of the error raised.
+  template <class Context>
+  void EndWith(Context&& context);
   void Deprecated(std::string_view keyword, const cow_String& other) const;
   cow_String FirstUnclaimed() const;
   bool IsUnclaimed(int slot) const noexcept;
 
   omu_PrimDictionary<cow_String> m_Keywords;
+  omu_KeywordIndex m_Index;
   // The unclaimed keywords: one flag per keyword in key order (set once a Get took it), so
   // that reading claims nothing by copying texts.
   std::vector<unsigned char> m_Claimed;

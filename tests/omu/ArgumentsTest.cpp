@@ -106,6 +106,25 @@ TEST(Arguments, AlternativeRetriesAFailedReadAsAnotherType) {
   EXPECT_EQ(Outcome(positional), "ok");
 }
 
+// Keywords are looked up through an index of the stored ones, which a Put must not leave stale.
+TEST(Arguments, KeywordsStoredDuringAReadingCountFromTheNextBegin) {
+  omu_Arguments args = Call({});
+  args.Put(1, "a");
+  int a = 0, b = 0;
+  args.Begin();
+  args.Get(a, "a");
+  args.Put(2, "a");  // replaces the value just read
+  args.Put(3, "b");
+  args.Get(b, "b");
+  EXPECT_TRUE(args.ErrorOnPrevious());  // stored after Begin: not claimable yet
+  args.Begin();
+  args.Get(a, "a");
+  args.Get(b, "b");
+  EXPECT_EQ(a, 2);
+  EXPECT_EQ(b, 3);
+  EXPECT_EQ(Outcome(args), "ok");
+}
+
 TEST(Arguments, NamesAreValidatedAsTheyAreRead) {
   omu_Arguments args = Call({}, {{"job", "Job-1"}, {"other", "my job"}});
   omu_CorvexName job("placeholder", omu_JOB_NAME), absent("kept", omu_JOB_NAME);
