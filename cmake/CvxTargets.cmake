@@ -59,6 +59,7 @@ function(cvx_test_suite name)
   target_compile_definitions(test_${name} PRIVATE
     CVX_TEST_FIXTURES="${CMAKE_CURRENT_SOURCE_DIR}/fixtures")
   cvx_warnings(test_${name})
-  gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST
+  # Listing the tests may take a while where an emulator runs them (wine starting up).
+  gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     PROPERTIES ENVIRONMENT "CVX_TEST_TMP=${CMAKE_CURRENT_BINARY_DIR}")
 endfunction()
