@@ -1,5 +1,6 @@
 #include "CapturedErrors.h"
 #include "LibraryEnvironment.h"
+#include "PosixEnv.h"
 #include "TestRepository.h"
 
 #include <nex_TextException.h>
