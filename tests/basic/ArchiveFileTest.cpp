@@ -22,6 +22,7 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -135,6 +136,17 @@ private:
   pid_t m_Pid = -1;
   int m_Output = -1;
 };
+#else
+// The system's text for an error code, as a refusal quotes it (wine words some differently).
+std::string SystemReason(DWORD error) {
+  char text[512] = {};
+  ::FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
+                   text, sizeof text, nullptr);
+  std::string reason = text;
+  const std::string_view trailing = ". \r\n";
+  while (!reason.empty() && trailing.find(reason.back()) != trailing.npos) reason.pop_back();
+  return reason;
+}
 #endif
 }  // namespace
 
@@ -143,6 +155,10 @@ TEST(ArchiveFile, LoadRefusesWhatIsNotAnArchiveFileWithTheReason) {
   std::ofstream(scratch / "text") << "just some text, not an archive";
   std::ofstream(scratch / "huge").close();
   fs::resize_file(scratch / "huge", cls_Archive::MaxFileBytes + 1);  // sparse: costs no disk
+#if defined(_WIN32)
+  const std::string noFile = "cannot be opened: " + SystemReason(ERROR_FILE_NOT_FOUND);
+  const std::string noPath = "cannot be opened: " + SystemReason(ERROR_PATH_NOT_FOUND);
+#endif
   const struct {
     fs::path path;
     const char* reason;
@@ -151,8 +167,8 @@ TEST(ArchiveFile, LoadRefusesWhatIsNotAnArchiveFileWithTheReason) {
       {scratch / "sub", "cannot be read: it is not a regular file"},
       {"NUL", "cannot be read: it is not a regular file"},  // would never end
       {scratch / "huge", "cannot be read: it is larger than 1073741824 bytes"},
-      {scratch / "missing", "cannot be opened: The system cannot find the file specified"},
-      {scratch / "text" / "x", "cannot be opened: The system cannot find the path specified"},
+      {scratch / "missing", noFile.c_str()},
+      {scratch / "text" / "x", noPath.c_str()},
       {scratch / "text", "not an archive of this library (bad magic) at byte 0"},
   };
 #else
@@ -177,11 +193,12 @@ TEST(ArchiveFile, SaveRefusesWhatIsNotAFileToReplaceAndLeavesItAlone) {
   std::ofstream(scratch / "text") << "x";
 #if defined(_WIN32)
   // No FIFOs, device nodes or (without a privilege) links: a folder, a device and bad paths.
-  const std::vector<std::pair<fs::path, const char*>> cases = {
+  const std::string noPath = "cannot be written: " + SystemReason(ERROR_PATH_NOT_FOUND);
+  const std::vector<std::pair<fs::path, std::string>> cases = {
       {scratch / "sub", "cannot be written: it is not a regular file"},
       {"NUL", "cannot be written: it is not a regular file"},
-      {scratch / "text" / "x", "cannot be written: The system cannot find the path specified"},
-      {scratch / "missing" / "x", "cannot be written: The system cannot find the path specified"},
+      {scratch / "text" / "x", noPath},
+      {scratch / "missing" / "x", noPath},
   };
   const cls_Archive archive = GenerationArchive(1, 100);
   for (const auto& [path, reason] : cases) {
