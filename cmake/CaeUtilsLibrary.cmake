@@ -9,7 +9,18 @@
 add_library(CVXUTI_CaeUtils SHARED)
 add_library(CaeUtils::CaeUtils ALIAS CVXUTI_CaeUtils)
 set(cvx_generated ${CMAKE_BINARY_DIR}/generated/CVXUTI_CaeUtils)
-generate_export_header(CVXUTI_CaeUtils BASE_NAME CVX EXPORT_FILE_NAME ${cvx_generated}/CVX_Export.h)
+# CVX_EXTERN_TEMPLATE(X<T>) declares an instantiation the library compiles and exports, so
+# that its users do not compile it again. MinGW's GCC exports only the out-of-line members of
+# such an instantiation and leaves its users unable to compile the inline ones, so there the
+# users compile the inline members themselves and import the rest through the class's export.
+set(cvx_export_extra [=[
+#if defined(__MINGW32__)
+#define CVX_EXTERN_TEMPLATE(...)
+#else
+#define CVX_EXTERN_TEMPLATE(...) extern template class CVX_EXPORT __VA_ARGS__;
+#endif]=])
+generate_export_header(CVXUTI_CaeUtils BASE_NAME CVX EXPORT_FILE_NAME ${cvx_generated}/CVX_Export.h
+                       CUSTOM_CONTENT_FROM_VARIABLE cvx_export_extra)
 
 add_library(cvx_startup INTERFACE)
 target_include_directories(cvx_startup INTERFACE ${PROJECT_SOURCE_DIR}/uti/include ${cvx_generated})

@@ -29,6 +29,16 @@ function(cvx_require_packages result part)
   endif()
 endfunction()
 
+# A cross-build finds no GoogleTest built for its target: it builds one from these sources
+# (Debian's googletest package puts them in /usr/src/googletest) and find_package takes that.
+set(CVX_GTEST_SOURCE "" CACHE PATH "GoogleTest sources to build instead of an installed GoogleTest")
+if(CVX_BUILD_TESTS AND CVX_GTEST_SOURCE)
+  include(FetchContent)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  FetchContent_Declare(GTest SOURCE_DIR ${CVX_GTEST_SOURCE} OVERRIDE_FIND_PACKAGE)
+  FetchContent_MakeAvailable(GTest)
+endif()
+
 if(CVX_BUILD_TESTS)
   cvx_require_packages(cvx_have_tests "Tests" GTest:libgtest-dev)
 endif()

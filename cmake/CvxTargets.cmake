@@ -16,13 +16,20 @@ function(cvx_warnings target)
   endif()
 endfunction()
 
-# A stand-in sibling library: a shared library whose sources are every .cpp under src/, with
+# A stand-in sibling library: a shared library whose sources are every .cpp under src/ and
+# under src/windows/ or src/posix/ (what each system does its own way), with
 # a generated export header <PREFIX>_Export.h that defines <PREFIX>_EXPORT. Its headers install
 # under include/CaeUtils/<folder>, apart from the library's, so they cannot clash with the
 # real sibling library's; headers listed as INTERNAL stay out.
 function(cvx_standin_library target prefix folder)
   cmake_parse_arguments(ARG "" "" "LINKS;INTERNAL" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/*.cpp)
+  if(WIN32)
+    set(system windows)
+  else()
+    set(system posix)
+  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/*.cpp
+       ${CMAKE_CURRENT_SOURCE_DIR}/src/${system}/*.cpp)
   add_library(${target} SHARED ${sources})
   set(gen ${CMAKE_BINARY_DIR}/generated/${target})
   generate_export_header(${target} BASE_NAME ${prefix} EXPORT_FILE_NAME ${gen}/${prefix}_Export.h)
@@ -52,6 +59,7 @@ function(cvx_test_suite name)
   target_compile_definitions(test_${name} PRIVATE
     CVX_TEST_FIXTURES="${CMAKE_CURRENT_SOURCE_DIR}/fixtures")
   cvx_warnings(test_${name})
-  gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST
+  # Listing the tests may take a while where an emulator runs them (wine starting up).
+  gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     PROPERTIES ENVIRONMENT "CVX_TEST_TMP=${CMAKE_CURRENT_BINARY_DIR}")
 endfunction()

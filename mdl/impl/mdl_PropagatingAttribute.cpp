@@ -1,4 +1,5 @@
-// The library's instantiations of the propagating attribute (exported by their declarations).
+// The library's instantiations of the propagating attribute, exported by their declarations
+// (CVX_EXTERN_TEMPLATE; with MinGW its users compile these inline members themselves).
 #include <mdl_PropagatingAttribute.h>
 
 template class mdl_PropAttr<cow_String>;

@@ -196,11 +196,11 @@ private:
   cls_Uid m_Uid;
 };
 
-extern template class CVX_EXPORT mdl_PropAttr<cow_String>;
-extern template class CVX_EXPORT mdl_PropAttr<double>;
-extern template class CVX_EXPORT mdl_PropAttr<bool>;
-extern template class CVX_EXPORT mdl_PropAttr<cls_xpListInt>;
-extern template class CVX_EXPORT mdl_PropAttr<int>;
-extern template class CVX_EXPORT mdl_PropAttr<cls_xp1DArrayInt>;
-extern template class CVX_EXPORT mdl_PropAttr<cls_xpListString>;
-extern template class CVX_EXPORT mdl_PropAttr<cls_xp1DArrayListFloat>;
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<cow_String>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<double>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<bool>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xpListInt>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<int>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xp1DArrayInt>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xpListString>)
+CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xp1DArrayListFloat>)

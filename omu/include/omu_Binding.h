@@ -370,13 +370,15 @@ struct omu_Binding<const omu_InterfaceObj*>
 
 // What the list and two-dimensional array bindings share: made as tuples, taken from tuples
 // or lists. Tuples are made and recognised out of line, as omu_PrimTuple includes this header.
-struct CVX_EXPORT omu_SequenceBinding {
+// The functions are exported one by one: on Windows a constant of an imported class would be
+// imported too, and the library has no copy of code to export.
+struct omu_SequenceBinding {
   static constexpr char code = '(';
 
   // A tuple of size elements, made by item(0) to item(size - 1) in order.
-  static omu_PrimOwner Tuple(int size, const std::function<omu_PrimOwner(int)>& item);
+  CVX_EXPORT static omu_PrimOwner Tuple(int size, const std::function<omu_PrimOwner(int)>& item);
   // value when it is a tuple or list (type code '('), else null.
-  static const omu_PrimSequence* Sequence(const omu_Primitive& value);
+  CVX_EXPORT static const omu_PrimSequence* Sequence(const omu_Primitive& value);
   // The elements of a tuple or list, each taken as T by the converting rule; false (items
   // unspecified) when value is neither or an element is refused.
   template <class T>
@@ -447,14 +449,15 @@ struct omu_Binding<cow_2DArray<T>> : omu_SequenceBinding {
   }
 };
 
+// Exported function by function, as omu_SequenceBinding.
 template <>
-struct CVX_EXPORT omu_Binding<cow_Map<cow_String, float>> {
+struct omu_Binding<cow_Map<cow_String, float>> {
   static constexpr char code = '{';
 
   // A dictionary with string keys.
-  static omu_PrimOwner Make(const cow_Map<cow_String, float>& value);
-  static bool Convert(const omu_Primitive& value, cow_Map<cow_String, float>& out,
-                      omu_BindingRuleEnum rule);
+  CVX_EXPORT static omu_PrimOwner Make(const cow_Map<cow_String, float>& value);
+  CVX_EXPORT static bool Convert(const omu_Primitive& value, cow_Map<cow_String, float>& out,
+                                 omu_BindingRuleEnum rule);
   static cow_String Expected(const cow_Map<cow_String, float>&) {
     return omu_Binding<omu_PrimDictionary<cow_String>>::name;
   }

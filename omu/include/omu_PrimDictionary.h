@@ -81,5 +81,5 @@ private:
   cls_Uid m_OwnUid;
 };
 
-extern template class CVX_EXPORT omu_PrimDictionary<int>;
-extern template class CVX_EXPORT omu_PrimDictionary<cow_String>;
+CVX_EXTERN_TEMPLATE(omu_PrimDictionary<int>)
+CVX_EXTERN_TEMPLATE(omu_PrimDictionary<cow_String>)

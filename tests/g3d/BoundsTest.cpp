@@ -1,4 +1,6 @@
 // Spheres, bounding volumes, lights, the studio and marker bitmaps.
+#include "PosixEnv.h"
+
 #include <g3d_Bitmap.h>
 #include <g3d_BoundingVolume.h>
 #include <g3d_Studio.h>
@@ -75,7 +77,7 @@ TEST(StudioTest, TestPrintIsReadOnce) {
   ::testing::FLAGS_gtest_death_test_style = "threadsafe";  // a fresh process
   EXPECT_EXIT(
       {
-        setenv("CVX_QA_PRINT", "", 1);
+        setenv("CVX_QA_PRINT", "1", 1);
         const g3d_Studio first;
         unsetenv("CVX_QA_PRINT");
         const g3d_Studio second;

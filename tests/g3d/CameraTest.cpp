@@ -1,4 +1,6 @@
 // The camera: repairs, window limits, zoom, projection switches, fitting, rotation.
+#include "PosixEnv.h"
+
 #include <g3d_Camera.h>
 
 #include <aio_ostream.h>

@@ -23,6 +23,10 @@
 #include <iterator>
 #include <random>
 
+#if defined(_WIN32)
+#include <windows.h>
+#endif
+
 namespace {
 using Rng = std::mt19937;
 
@@ -218,7 +222,14 @@ struct FixtureModel {
   }
 };
 
+#if defined(_WIN32)
+std::filesystem::path ThisProgram() {
+  wchar_t path[MAX_PATH];
+  return std::filesystem::path(path, path + ::GetModuleFileNameW(nullptr, path, MAX_PATH));
+}
+#else
 std::filesystem::path ThisProgram() { return std::filesystem::read_symlink("/proc/self/exe"); }
+#endif
 }  // namespace
 
 TEST(ArchiveIdentity, ObjectsReadBackTakeIdentitiesTheProcessNeverGaveOut) {
@@ -258,10 +269,19 @@ TEST(ArchiveIdentity, TheSameModelSavedByProcessesWithDifferentHistoriesHasTheSa
   std::string files[2];
   for (int history = 0; history < 2; ++history) {
     const auto path = TestFile("history" + std::to_string(history));
+#if defined(_WIN32)
+    // cmd.exe: the outer quotes are its own; "set X=v&&" passes v to the child.
+    const std::string command = "\"set \"CVX_SAVE_MODEL=" + path.string() +
+                                "\"&& set CVX_HISTORY=" + std::to_string(history * 1000) +
+                                "&& \"" + program +
+                                "\" --gtest_filter=ArchiveIdentity.SaveModelInThisProcess"
+                                " >NUL 2>&1\"";
+#else
     const std::string command = "CVX_SAVE_MODEL='" + path.string() + "' CVX_HISTORY=" +
                                 std::to_string(history * 1000) + " '" + program +
                                 "' --gtest_filter=ArchiveIdentity.SaveModelInThisProcess"
                                 " >/dev/null 2>&1";
+#endif
     ASSERT_EQ(std::system(command.c_str()), 0) << command;
     files[history] = FileBytes(path);
     std::filesystem::remove(path);

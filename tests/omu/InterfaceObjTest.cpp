@@ -1,5 +1,6 @@
 #include "CapturedErrors.h"
 #include "OmuTestSupport.h"
+#include "PosixEnv.h"
 #include "TestRepository.h"
 
 #include <omu_Deprecation.h>

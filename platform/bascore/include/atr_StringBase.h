@@ -30,9 +30,12 @@ public:
   atr_StringBase& operator=(atr_StringBase&& other) noexcept;
   ~atr_StringBase();
 
-  // printf-style formatting into a new text.
+  // printf-style formatting into a new text, with the C99 conversions (%zu, %lld) on every
+  // platform: MinGW's C++ runtime formats through its own conforming printf, not msvcrt's.
   static atr_StringBase Format(const char* format, ...)
-#if defined(__GNUC__)
+#if defined(__MINGW_PRINTF_FORMAT)
+      __attribute__((format(__MINGW_PRINTF_FORMAT, 1, 2)))
+#elif defined(__GNUC__)
       __attribute__((format(printf, 1, 2)))
 #endif
       ;

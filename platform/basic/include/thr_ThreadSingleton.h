@@ -4,14 +4,17 @@
 // expose one accessor defined in its own library.
 #include <thr_ThreadSingletonRegistry.h>
 
+#include <memory>
+
 template <class T>
 class thr_ThreadSingleton {
 public:
   static T& Instance() {
     T*& slot = Slot();
     if (!slot) {
-      thr_ThreadSingletonRegistry::Register(&Cleanup);
-      slot = new T();
+      auto made = std::make_unique<T>();
+      thr_ThreadSingletonRegistry::Register(&Cleanup, made.get());
+      slot = made.release();
     }
     return *slot;
   }
@@ -19,9 +22,10 @@ public:
   static T* Peek() noexcept { return Slot(); }
 
 private:
-  static void Cleanup() noexcept {
-    delete Slot();
-    Slot() = nullptr;
+  static void Cleanup(void* instance) noexcept {
+    delete static_cast<T*>(instance);
+    T*& slot = Slot();  // storage of its own again, where the thread's was freed first (MinGW)
+    if (slot == instance) slot = nullptr;
   }
   static T*& Slot() noexcept {
     thread_local T* instance = nullptr;

@@ -1,11 +1,12 @@
 #pragma once
 // The per-thread clean-ups of the thread singletons: run in reverse order of registration
-// when the thread ends, or at once through CleanupThisThread.
+// when the thread ends, or at once through CleanupThisThread. Each is given the object it was
+// registered with, as the thread's own storage may already be gone when it ends.
 #include <BASIC_Export.h>
 
 class BASIC_EXPORT thr_ThreadSingletonRegistry {
 public:
-  using Cleanup = void (*)() noexcept;
-  static void Register(Cleanup cleanup);
+  using Cleanup = void (*)(void* object) noexcept;
+  static void Register(Cleanup cleanup, void* object);
   static void CleanupThisThread() noexcept;
 };

@@ -6,8 +6,14 @@
 namespace {
 constexpr const char* kSource = "cls/impl/cls_Archive";
 
+// The path as messages show it: UTF-8 everywhere, though Windows keeps paths in UTF-16.
+std::string PathText(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
 [[noreturn]] void FileError(const char* what, const std::filesystem::path& path) {
-  NEX_THROW(nex_TextException(atr_StringBase::Format("archive '%s': %s", path.string().c_str(),
+  NEX_THROW(nex_TextException(atr_StringBase::Format("archive '%s': %s", PathText(path).c_str(),
                                                      what)),
             kSource);
 }
@@ -67,7 +73,7 @@ cls_Archive cls_Archive::Load(const std::filesystem::path& path) {
   } catch (const cls_FileSystem::Failure& failure) {
     FileError(failure.what(), path);
   }
-  return FromBytes(bytes, path.string());
+  return FromBytes(bytes, PathText(path));
 }
 
 void cls_Archive::Dump(std::ostream& out) const { cls_ArchiveCodec::Dump(*this, out); }

@@ -1,8 +1,9 @@
 #pragma once
 // The operating system's side of archive files: whole-file reads and crash-safe replacement.
-// Internal; this is the POSIX version, and another system supplies its own cls_FileSystem.cpp
-// behind the same declarations. Failures raise cls_FileSystem::Failure, whose text says what
-// could not be done and the system's reason ("cannot be written: No space left on device").
+// Internal; each system has its own cls_FileSystem.cpp behind these declarations, in posix/
+// and windows/. Failures raise cls_FileSystem::Failure, whose text says what could not be done
+// and the system's reason ("cannot be written: No space left on device"; on Windows the text
+// of FormatMessage, "cannot be opened: The system cannot find the file specified").
 // Thread-safe: no state is kept between calls.
 #include <chrono>
 #include <cstdint>
@@ -28,6 +29,11 @@ public:
   // link is followed and kept: the file it points to is replaced (or created). A path naming
   // something other than a regular file is refused untouched. A failure removes the
   // temporary file and leaves the old file as it was.
+  // On Windows the temporary file is flushed (FlushFileBuffers), takes the old file's hidden,
+  // system and not-indexed attributes and is moved over it by MoveFileExW with
+  // MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH, which returns once the move is on
+  // disk; a read-only file, or one open elsewhere without delete sharing, is refused by the
+  // system. A link whose target is missing is refused there rather than replaced.
   static void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 
   // Temporary files are named ".<name>.tmp<16 hex digits>". One a killed process left behind

@@ -6,8 +6,10 @@
 
 #include <nex_TextException.h>
 
+#if !defined(_WIN32)
 #include <sys/resource.h>
 #include <unistd.h>
+#endif
 
 #include <csignal>
 #include <cstdlib>
@@ -15,12 +17,17 @@
 #include <string>
 
 namespace {
+#if defined(_WIN32)
+// Windows has no limit on the size of the files a process writes.
+bool LimitFileSize(const char*) { return false; }
+#else
 // A save past the limit fails with "File too large" instead of being killed by SIGXFSZ.
 bool LimitFileSize(const char* bytes) {
   const rlim_t limit = std::strtoull(bytes, nullptr, 10);
   const rlimit value{limit, limit};
   return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && ::setrlimit(RLIMIT_FSIZE, &value) == 0;
 }
+#endif
 }  // namespace
 
 int main(int argc, char** argv) {

@@ -1,15 +1,13 @@
-#include "cls_FileSystem.h"
+#include "../cls_FileSystem.h"
+#include "../cls_TemporaryName.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
-#include <cstdio>
 #include <optional>
-#include <random>
 #include <system_error>
 #include <utility>
 
@@ -17,7 +15,6 @@ namespace fs = std::filesystem;
 
 namespace {
 constexpr int kMaxLinks = 40;  // as many as the kernel follows in one path
-constexpr std::size_t kRandomDigits = 16;
 
 [[noreturn]] void Fail(const char* what, int error = errno) {
   throw cls_FileSystem::Failure(std::string(what) + ": " + std::system_category().message(error));
@@ -72,40 +69,11 @@ Target Resolve(fs::path path) {
   Fail("cannot be written", ELOOP);
 }
 
-bool IsTemporaryOf(std::string_view name, std::string_view prefix) {
-  return name.size() == prefix.size() + kRandomDigits && name.starts_with(prefix) &&
-         std::all_of(name.begin() + static_cast<std::ptrdiff_t>(prefix.size()), name.end(),
-                     [](unsigned char c) { return std::isxdigit(c) != 0; });
-}
-
-// Best effort: a temporary file that cannot be listed or removed does no harm.
-void RemoveStale(const fs::path& folder, std::string_view prefix) {
-  const auto now = fs::file_time_type::clock::now();
-  std::error_code error;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    if (!IsTemporaryOf(entry->path().filename().native(), prefix)) continue;
-    std::error_code unreadable;
-    const auto written = entry->last_write_time(unreadable);
-    if (!unreadable && now - written > cls_FileSystem::StaleAfter) {
-      fs::remove(entry->path(), unreadable);
-    }
-  }
-}
-
-std::string RandomDigits() {
-  std::random_device device;
-  const std::uint64_t value = (std::uint64_t{device()} << 32) | device();
-  char digits[kRandomDigits + 1];
-  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(value));
-  return digits;
-}
-
 // The new contents on their way in; removed again unless put in place.
 class Temporary {
 public:
-  Temporary(const fs::path& folder, const std::string& prefix)
-      : m_Path(folder / (prefix + RandomDigits())),
+  explicit Temporary(const fs::path& target)
+      : m_Path(cls_TemporaryName::For(target)),
         m_File(::open(m_Path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
     if (m_File.Get() < 0) Fail("cannot be written");
   }
@@ -183,12 +151,10 @@ std::string cls_FileSystem::ReadFile(const fs::path& path, std::uintmax_t maxByt
 
 void cls_FileSystem::ReplaceFile(const fs::path& path, std::string_view bytes) {
   const Target target = Resolve(path);
-  const fs::path folder = target.path.has_parent_path() ? target.path.parent_path() : ".";
-  const std::string prefix = "." + target.path.filename().string() + ".tmp";
-  RemoveStale(folder, prefix);
-  Temporary temporary(folder, prefix);
+  cls_TemporaryName::RemoveStale(target.path);
+  Temporary temporary(target.path);
   temporary.Write(bytes);
   temporary.Finish(target.mode);
   temporary.PutInPlace(target.path);
-  SyncFolder(folder);
+  SyncFolder(target.path.has_parent_path() ? target.path.parent_path() : ".");
 }
