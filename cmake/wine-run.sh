@@ -14,4 +14,10 @@ export WINEPATH
 # new wine prefix does not ask to install them.
 export WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
+# One wine server per prefix, kept a minute after its last program and started apart from this
+# program's output: the services a new server starts would hold that output open, and a test
+# runner reading it to the end would wait for them.
+if /usr/lib/wine/wineserver64 -p60 </dev/null >/dev/null 2>&1; then
+  /usr/lib/wine/wine64 wineboot </dev/null >/dev/null 2>&1
+fi
 exec /usr/lib/wine/wine64 "$@"
