@@ -110,6 +110,10 @@ TEST(WipFront, FacilityMessagesAreRoutedByKind) {
 }
 
 TEST(WipFront, EachThreadSeesOnlyItsOwnReporter) {
+#if defined(__MINGW32__)
+  GTEST_SKIP() << "std::latch of MinGW's GCC 12 runtime, which waits without futexes, "
+                  "now and then sleeps forever";
+#endif
   constexpr int kThreads = 4;
   constexpr int kMessages = 200;
   std::vector<RecordingReporter> reporters(kThreads);
