@@ -14,8 +14,9 @@ class omu_TextErrorException : public UTI_FieldError<Derived, nex_CommandExcepti
 
 public:
   explicit omu_TextErrorException(const atr_String& value = atr_String()) : m_Value(value) {}
+  // Reads into this level directly: Derived is not built yet, so no cast to it.
   explicit omu_TextErrorException(const cls_ReadVisitor& reader) : FieldError(reader) {
-    this->ReadFields(reader);
+    Fields().Read(reader, *this);
   }
 
   const atr_String& Value() const noexcept { return m_Value; }
