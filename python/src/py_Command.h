@@ -17,5 +17,4 @@ private:
   static PyTypeObject* Type();
   static PyObject* Call(PyObject* self, PyObject* const* args, std::size_t nargsf, PyObject* kwnames);
   static PyObject* Repr(PyObject* self);
-  static void Dealloc(PyObject* self);
 };

@@ -1,9 +1,8 @@
 #include "py_Method.h"
 
 #include "py_CallArguments.h"
+#include "py_CallableType.h"
 #include "py_InterfaceObject.h"
-
-#include <structmember.h>
 
 #include <cstddef>
 
@@ -19,23 +18,10 @@ struct MethodObject {
 }  // namespace
 
 PyTypeObject* py_Method::Type() {
-  static PyTypeObject* type = [] {
-    static PyMemberDef members[] = {
-        {"__vectorcalloffset__", T_PYSSIZET, offsetof(MethodObject, vectorcall), READONLY, nullptr},
-        {"__name__", T_OBJECT, offsetof(MethodObject, name), READONLY, nullptr},
-        {"__self__", T_OBJECT, offsetof(MethodObject, owner), READONLY, nullptr},
-        {nullptr, 0, 0, 0, nullptr}};
-    static PyType_Slot slots[] = {{Py_tp_call, reinterpret_cast<void*>(&PyVectorcall_Call)},
-                                  {Py_tp_repr, reinterpret_cast<void*>(&Repr)},
-                                  {Py_tp_dealloc, reinterpret_cast<void*>(&Dealloc)},
-                                  {Py_tp_members, members},
-                                  {0, nullptr}};
-    static PyType_Spec spec = {"cvxutils.Method", sizeof(MethodObject), 0,
-                               Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_VECTORCALL, slots};
-    auto* made = reinterpret_cast<PyTypeObject*>(PyType_FromSpec(&spec));
-    if (!made) throw py::error_already_set();
-    return made;  // kept for the process
-  }();
+  static PyTypeObject* const type = py_CallableType::Make<MethodObject>(
+      "cvxutils.Method",
+      {{"__name__", offsetof(MethodObject, name)}, {"__self__", offsetof(MethodObject, owner)}},
+      &Repr);
   return type;
 }
 
@@ -60,13 +46,4 @@ PyObject* py_Method::Call(PyObject* self, PyObject* const* args, std::size_t nar
 PyObject* py_Method::Repr(PyObject* self) {
   const auto* method = reinterpret_cast<MethodObject*>(self);
   return PyUnicode_FromFormat("<method %U of %R>", method->name, method->owner);
-}
-
-void py_Method::Dealloc(PyObject* self) {
-  auto* method = reinterpret_cast<MethodObject*>(self);
-  Py_XDECREF(method->owner);
-  Py_XDECREF(method->name);
-  PyTypeObject* type = Py_TYPE(self);
-  PyObject_Free(self);
-  Py_DECREF(type);
 }
