@@ -5,7 +5,9 @@
 // and the system's reason ("cannot be written: No space left on device"; on Windows the text
 // of FormatMessage, "cannot be opened: The system cannot find the file specified").
 // Thread-safe: no state is kept between calls.
+#include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <stdexcept>
@@ -17,6 +19,14 @@ public:
   class Failure : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
+
+    // The refusals every system words alike.
+    static Failure NotRegular(const char* what) {
+      return Failure(std::string(what) + ": it is not a regular file");
+    }
+    static Failure TooLarge(std::uintmax_t maxBytes) {
+      return Failure("cannot be read: it is larger than " + std::to_string(maxBytes) + " bytes");
+    }
   };
 
   // The contents of the regular file at path. Anything else (a directory, a FIFO, a device)
@@ -40,4 +50,26 @@ public:
   // is removed by a later save of the same file once it has not been written for StaleAfter
   // (a younger one may belong to a save in progress); until then it is ignored.
   static constexpr std::chrono::minutes StaleAfter{10};
+
+private:
+  // Reads a file said to hold size bytes through readSome(buffer, count), which answers the
+  // bytes it read, 0 at the end. Room for one byte more shows a file that grew meanwhile, and
+  // some files say they are empty and are not; more than maxBytes is refused either way.
+  template <class ReadSome>
+  static std::string ReadBounded(std::uintmax_t size, std::uintmax_t maxBytes, ReadSome readSome) {
+    if (size > maxBytes) throw Failure::TooLarge(maxBytes);
+    std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
+    std::size_t done = 0;
+    for (;;) {
+      if (done == bytes.size()) {
+        if (done > maxBytes) throw Failure::TooLarge(maxBytes);
+        bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(2 * done, maxBytes + 1)));
+      }
+      const std::size_t got = readSome(bytes.data() + done, bytes.size() - done);
+      if (got == 0) break;
+      done += got;
+    }
+    bytes.resize(done);
+    return bytes;
+  }
 };

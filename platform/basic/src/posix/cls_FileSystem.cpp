@@ -14,19 +14,12 @@
 namespace fs = std::filesystem;
 
 namespace {
+using Failure = cls_FileSystem::Failure;
+
 constexpr int kMaxLinks = 40;  // as many as the kernel follows in one path
 
 [[noreturn]] void Fail(const char* what, int error = errno) {
-  throw cls_FileSystem::Failure(std::string(what) + ": " + std::system_category().message(error));
-}
-
-[[noreturn]] void NotRegular(const char* what) {
-  throw cls_FileSystem::Failure(std::string(what) + ": it is not a regular file");
-}
-
-[[noreturn]] void TooLarge(std::uintmax_t maxBytes) {
-  throw cls_FileSystem::Failure("cannot be read: it is larger than " + std::to_string(maxBytes) +
-                                " bytes");
+  throw Failure(std::string(what) + ": " + std::system_category().message(error));
 }
 
 // Closes the descriptor on every way out.
@@ -60,7 +53,7 @@ Target Resolve(fs::path path) {
       Fail("cannot be written");
     }
     if (S_ISREG(info.st_mode)) return {path, info.st_mode & 07777};
-    if (!S_ISLNK(info.st_mode)) NotRegular("cannot be written");
+    if (!S_ISLNK(info.st_mode)) throw Failure::NotRegular("cannot be written");
     std::error_code error;
     const fs::path link = fs::read_symlink(path, error);
     if (error) Fail("cannot be written", error.value());
@@ -127,26 +120,15 @@ std::string cls_FileSystem::ReadFile(const fs::path& path, std::uintmax_t maxByt
   if (file.Get() < 0) Fail("cannot be opened");
   struct stat info {};
   if (::fstat(file.Get(), &info) != 0) Fail("cannot be read");
-  if (!S_ISREG(info.st_mode)) NotRegular("cannot be read");
-  if (static_cast<std::uintmax_t>(info.st_size) > maxBytes) TooLarge(maxBytes);
-  // Room for one byte more shows a file that grew meanwhile; some say they are empty and aren't.
-  std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
-  std::size_t done = 0;
-  for (;;) {
-    if (done == bytes.size()) {
-      if (done > maxBytes) TooLarge(maxBytes);
-      bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(2 * done, maxBytes + 1)));
-    }
-    const ssize_t got = ::read(file.Get(), bytes.data() + done, bytes.size() - done);
-    if (got == 0) break;
-    if (got > 0) {
-      done += static_cast<std::size_t>(got);
-    } else if (errno != EINTR) {
-      Fail("cannot be read");
-    }
-  }
-  bytes.resize(done);
-  return bytes;
+  if (!S_ISREG(info.st_mode)) throw Failure::NotRegular("cannot be read");
+  return ReadBounded(static_cast<std::uintmax_t>(info.st_size), maxBytes,
+                     [&file](char* to, std::size_t count) -> std::size_t {
+                       for (;;) {
+                         const ssize_t got = ::read(file.Get(), to, count);
+                         if (got >= 0) return static_cast<std::size_t>(got);
+                         if (errno != EINTR) Fail("cannot be read");
+                       }
+                     });
 }
 
 void cls_FileSystem::ReplaceFile(const fs::path& path, std::string_view bytes) {

@@ -18,6 +18,8 @@
 namespace fs = std::filesystem;
 
 namespace {
+using Failure = cls_FileSystem::Failure;
+
 // ReadFile and WriteFile take a 32-bit count.
 constexpr DWORD kChunk = DWORD{1} << 30;
 // What a save carries from the old file to the new one.
@@ -27,7 +29,8 @@ constexpr DWORD kKeptAttributes =
 std::string Utf8(std::wstring_view text) {
   if (text.empty()) return {};
   const int size = static_cast<int>(text.size());
-  const int bytes = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
+  const int bytes =
+      ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
   std::string result(static_cast<std::size_t>(std::max(bytes, 0)), '\0');
   ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, result.data(), bytes, nullptr, nullptr);
   return result;
@@ -50,16 +53,7 @@ std::string Reason(DWORD error) {
 }
 
 [[noreturn]] void Fail(const char* what, DWORD error = ::GetLastError()) {
-  throw cls_FileSystem::Failure(std::string(what) + ": " + Reason(error));
-}
-
-[[noreturn]] void NotRegular(const char* what) {
-  throw cls_FileSystem::Failure(std::string(what) + ": it is not a regular file");
-}
-
-[[noreturn]] void TooLarge(std::uintmax_t maxBytes) {
-  throw cls_FileSystem::Failure("cannot be read: it is larger than " + std::to_string(maxBytes) +
-                                " bytes");
+  throw Failure(std::string(what) + ": " + Reason(error));
 }
 
 // Closes the handle on every way out.
@@ -91,10 +85,10 @@ Handle OpenToInspect(const fs::path& path, DWORD access) {
 // The attributes of an open regular file; anything else (a folder, a pipe, a device) is
 // refused with what.
 DWORD RegularFileAttributes(const Handle& file, const char* what) {
-  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) NotRegular(what);
+  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) throw Failure::NotRegular(what);
   BY_HANDLE_FILE_INFORMATION info{};
   if (!::GetFileInformationByHandle(file.Get(), &info)) Fail(what);
-  if (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) NotRegular(what);
+  if (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) throw Failure::NotRegular(what);
   return info.dwFileAttributes;
 }
 
@@ -123,7 +117,8 @@ Target Resolve(const fs::path& path) {
   if (!file.IsOpen()) {
     const DWORD error = ::GetLastError();
     // A new file; a name that is there but cannot be opened is a link to nothing.
-    if (error == ERROR_FILE_NOT_FOUND && ::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) {
+    if (error == ERROR_FILE_NOT_FOUND &&
+        ::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) {
       return {path, std::nullopt};
     }
     Fail("cannot be written", error);
@@ -189,23 +184,15 @@ std::string cls_FileSystem::ReadFile(const fs::path& path, std::uintmax_t maxByt
   RegularFileAttributes(file, "cannot be read");
   LARGE_INTEGER size{};
   if (!::GetFileSizeEx(file.Get(), &size)) Fail("cannot be read");
-  if (static_cast<std::uintmax_t>(size.QuadPart) > maxBytes) TooLarge(maxBytes);
-  // Room for one byte more shows a file that grew meanwhile.
-  std::string bytes(static_cast<std::size_t>(size.QuadPart) + 1, '\0');
-  std::size_t done = 0;
-  for (;;) {
-    if (done == bytes.size()) {
-      if (done > maxBytes) TooLarge(maxBytes);
-      bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(2 * done, maxBytes + 1)));
-    }
-    DWORD got = 0;
-    const DWORD count = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kChunk));
-    if (!::ReadFile(file.Get(), bytes.data() + done, count, &got, nullptr)) Fail("cannot be read");
-    if (got == 0) break;
-    done += got;
-  }
-  bytes.resize(done);
-  return bytes;
+  return ReadBounded(static_cast<std::uintmax_t>(size.QuadPart), maxBytes,
+                     [&file](char* to, std::size_t count) -> std::size_t {
+                       DWORD got = 0;
+                       const auto chunk = static_cast<DWORD>(std::min<std::size_t>(count, kChunk));
+                       if (!::ReadFile(file.Get(), to, chunk, &got, nullptr)) {
+                         Fail("cannot be read");
+                       }
+                       return got;
+                     });
 }
 
 void cls_FileSystem::ReplaceFile(const fs::path& path, std::string_view bytes) {
