@@ -4,7 +4,9 @@
 #include <functional>
 
 namespace {
-std::size_t Hash(std::string_view keyword) noexcept { return std::hash<std::string_view>()(keyword); }
+std::size_t Hash(std::string_view keyword) noexcept {
+  return std::hash<std::string_view>()(keyword);
+}
 }  // namespace
 
 void omu_KeywordIndex::Build(const omu_PrimDictionary<cow_String>& keywords) {
@@ -20,14 +22,12 @@ void omu_KeywordIndex::Build(const omu_PrimDictionary<cow_String>& keywords) {
     while (m_Table[at] >= 0) at = (at + 1) & m_Mask;
     m_Table[at] = static_cast<int>(slot);
   }
-  m_Built = true;
 }
 
 void omu_KeywordIndex::Clear() noexcept {
   m_Entries.clear();
   m_Table.clear();
   m_Mask = 0;
-  m_Built = false;
 }
 
 int omu_KeywordIndex::Find(std::string_view keyword) const noexcept {

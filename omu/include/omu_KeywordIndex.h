@@ -21,7 +21,7 @@ public:
     return *this;
   }
 
-  bool Built() const noexcept { return m_Built; }
+  bool Built() const noexcept { return !m_Table.empty(); }
   void Build(const omu_PrimDictionary<cow_String>& keywords);
   void Clear() noexcept;
   // The keyword's slot, or -1 when the call does not give it (or nothing is built).
@@ -38,8 +38,8 @@ private:
   };
 
   std::vector<Entry> m_Entries;
-  // Open addressing with linear probing over slots, -1 where empty; at most half full.
+  // Open addressing with linear probing over slots, -1 where empty; at most half full. Empty
+  // until built, and never after.
   std::vector<int> m_Table;
   std::size_t m_Mask = 0;
-  bool m_Built = false;
 };
