@@ -46,8 +46,7 @@ std::vector<int> DimsOf(const Py_buffer& view) {
           omu_PrimArray::MaxDims);
   }
   if (view.len > INT_MAX) {
-    Raise(PyExc_ValueError, "an array of %zd bytes is larger than the library's 2 GiB",
-          view.len);
+    Raise(PyExc_ValueError, "an array of %zd bytes is larger than the library's 2 GiB", view.len);
   }
   return std::vector<int>(view.shape, view.shape + view.ndim);
 }

@@ -2,7 +2,8 @@
 
 #include "py_KeywordNames.h"
 
-omu_Arguments py_CallArguments::Build(PyObject* const* args, std::size_t nargsf, PyObject* kwnames) {
+omu_Arguments py_CallArguments::Build(PyObject* const* args, std::size_t nargsf,
+                                      PyObject* kwnames) {
   const Py_ssize_t positional = PyVectorcall_NARGS(nargsf);
   omu_Arguments arguments(static_cast<int>(positional));
   for (Py_ssize_t i = 0; i < positional; ++i) {

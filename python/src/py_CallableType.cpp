@@ -18,8 +18,8 @@ PyTypeObject* py_CallableType::Make(const char* name, std::size_t size,
                                     std::initializer_list<Field> fields, reprfunc repr) {
   auto* kind = new CallableKind;  // kept for the process, as the interpreter keeps the type
   for (const Field& field : fields) {
-    kind->members.push_back({field.name, T_OBJECT, static_cast<Py_ssize_t>(field.offset),
-                             READONLY, nullptr});
+    kind->members.push_back(
+        {field.name, T_OBJECT, static_cast<Py_ssize_t>(field.offset), READONLY, nullptr});
   }
   kind->members.push_back({});
   PyTypeObject& type = kind->type;

@@ -37,11 +37,13 @@ void py_Command::Add(py::module_& module, const char* name, Handler handler, con
   module.attr(name) = object;
 }
 
-PyObject* py_Command::Call(PyObject* self, PyObject* const* args, std::size_t nargsf, PyObject* kwnames) {
+PyObject* py_Command::Call(PyObject* self, PyObject* const* args, std::size_t nargsf,
+                           PyObject* kwnames) {
   const Handler handler = reinterpret_cast<CommandObject*>(self)->handler;
   return py_CallArguments::Run(handler, args, nargsf, kwnames);
 }
 
 PyObject* py_Command::Repr(PyObject* self) {
-  return PyUnicode_FromFormat("<cvxutils command %U>", reinterpret_cast<CommandObject*>(self)->name);
+  return PyUnicode_FromFormat("<cvxutils command %U>",
+                              reinterpret_cast<CommandObject*>(self)->name);
 }

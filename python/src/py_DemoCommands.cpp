@@ -23,7 +23,8 @@ omu_Primitive* CreateMaterial(omu_Arguments& args) {
   args.Optional();
   args.Get(keyColumns, "keyColumns");
   args.End("createMaterial");
-  auto record = std::make_shared<py_DemoMaterial::Record>(py_DemoMaterial::Record{name.Name(), mdl_PropertyTable(elastic)});
+  auto record = std::make_shared<py_DemoMaterial::Record>(
+      py_DemoMaterial::Record{name.Name(), mdl_PropertyTable(elastic)});
   py_DemoMaterial::SortAndValidate(record->elastic, keyColumns);
   return new py_DemoMaterial(std::move(record));
 }
@@ -104,16 +105,19 @@ omu_Primitive* CheckRangeAs(omu_Arguments& args, bool withUpper) {
 }
 
 bool FloatingLowerLimit(const omu_Arguments& args) {
-  const omu_Primitive* lower = args.Size() > 1 ? args.Index(1) : args.Keywords().FindKey(std::string_view("lower"));
+  const omu_Primitive* lower =
+      args.Size() > 1 ? args.Index(1) : args.Keywords().FindKey(std::string_view("lower"));
   return lower && lower->IsType('f');
 }
 
 omu_Primitive* CheckRange(omu_Arguments& args) {
-  return FloatingLowerLimit(args) ? CheckRangeAs<double>(args, true) : CheckRangeAs<int>(args, true);
+  return FloatingLowerLimit(args) ? CheckRangeAs<double>(args, true)
+                                  : CheckRangeAs<int>(args, true);
 }
 
 omu_Primitive* CheckGreaterThan(omu_Arguments& args) {
-  return FloatingLowerLimit(args) ? CheckRangeAs<double>(args, false) : CheckRangeAs<int>(args, false);
+  return FloatingLowerLimit(args) ? CheckRangeAs<double>(args, false)
+                                  : CheckRangeAs<int>(args, false);
 }
 
 omu_Primitive* Probe(omu_Arguments& args) {
@@ -144,18 +148,21 @@ void AddConstants(py::module_& module) {
 
 void py_DemoCommands::Register(py::module_& module) {
   py_Command::Add(module, "createMaterial", &CreateMaterial,
-                  "createMaterial(name, elastic, keyColumns=2): a Material with its elastic table sorted and validated");
+                  "createMaterial(name, elastic, keyColumns=2): a Material with its elastic table "
+                  "sorted and validated");
   py_Command::Add(module, "createSection", &CreateSection,
                   "createSection(name, thickness, material=''): a Section in its first step");
   py_Command::Add(module, "validateName", &ValidateName,
                   "validateName(name, kind=0): name when it is a legal name of the kind (0-7)");
   py_Command::Add(module, "makeLegalGuiName", &MakeLegalGuiName,
                   "makeLegalGuiName(name, replacements='x.--..'): (repaired, name)");
-  py_Command::Add(module, "checkRange", &CheckRange,
-                  "checkRange(name, lower, lowerInclusive, value, upper, upperInclusive): None or RangeError");
+  py_Command::Add(
+      module, "checkRange", &CheckRange,
+      "checkRange(name, lower, lowerInclusive, value, upper, upperInclusive): None or RangeError");
   py_Command::Add(module, "checkGreaterThan", &CheckGreaterThan,
                   "checkGreaterThan(name, lower, lowerInclusive, value): None or RangeError");
-  py_Command::Add(module, "probe", &Probe, "probe(a, b, c, flag=False, name=''): binds its arguments, answers None");
+  py_Command::Add(module, "probe", &Probe,
+                  "probe(a, b, c, flag=False, name=''): binds its arguments, answers None");
   AddConstants<mdl_PropagationStatusEnm>(module);
   AddConstants<mdl_PropAttributeStateEnm>(module);
 }

@@ -13,13 +13,15 @@ constexpr const char* kSource = "python/src/py_DemoMaterial";
 }
 
 py_DemoMaterial::py_DemoMaterial(std::shared_ptr<Record> record)
-    : omu_PrimLeaf(omu_Shortcut("mdb.models['Model-1'].materials[" + omu_NameString(record->name).StdString() + "]"),
+    : omu_PrimLeaf(omu_Shortcut("mdb.models['Model-1'].materials[" +
+                                omu_NameString(record->name).StdString() + "]"),
                    omu_OperationRules(true)),
       m_Record(std::move(record)) {
-  static const methodTable methods[] = {{"sort", &Call<py_DemoMaterial, &py_DemoMaterial::Sort>},
-                                        {"validate", &Call<py_DemoMaterial, &py_DemoMaterial::Validate>},
-                                        {"delete", &Call<py_DemoMaterial, &py_DemoMaterial::Delete>},
-                                        {nullptr, nullptr}};
+  static const methodTable methods[] = {
+      {"sort", &Call<py_DemoMaterial, &py_DemoMaterial::Sort>},
+      {"validate", &Call<py_DemoMaterial, &py_DemoMaterial::Validate>},
+      {"delete", &Call<py_DemoMaterial, &py_DemoMaterial::Delete>},
+      {nullptr, nullptr}};
   static const memberTable members[] = {
       {"name", &Read<py_DemoMaterial, &py_DemoMaterial::Name>, nullptr},
       {"elastic", &Read<py_DemoMaterial, &py_DemoMaterial::Elastic>,

@@ -4,8 +4,8 @@
 #include <omu_IndexErrorException.h>
 #include <omu_KeyErrorException.h>
 #include <omu_NameString.h>
-#include <omu_PrimNone.h>
 #include <omu_OperationRules.h>
+#include <omu_PrimNone.h>
 #include <omu_PrimNumber.h>
 #include <omu_PrimString.h>
 #include <omu_RangeChecker.h>
@@ -26,7 +26,8 @@ void Assign(omu_Arguments& args, const char* member, mdl_PropAttr<T>& attribute)
 }  // namespace
 
 py_DemoSection::py_DemoSection(std::shared_ptr<Record> record)
-    : omu_PrimLeaf(omu_Shortcut("mdb.models['Model-1'].sections[" + omu_NameString(record->name).StdString() + "]"),
+    : omu_PrimLeaf(omu_Shortcut("mdb.models['Model-1'].sections[" +
+                                omu_NameString(record->name).StdString() + "]"),
                    omu_OperationRules(true)),
       m_Record(std::move(record)) {
   using S = py_DemoSection;
@@ -47,8 +48,12 @@ py_DemoSection::py_DemoSection(std::shared_ptr<Record> record)
 }
 
 omu_Primitive* py_DemoSection::Name() const { return new omu_PrimString(m_Record->name); }
-omu_Primitive* py_DemoSection::Thickness() const { return new omu_PrimNumber(m_Record->thickness.ConstGet()); }
-omu_Primitive* py_DemoSection::Material() const { return new omu_PrimString(m_Record->material.ConstGet()); }
+omu_Primitive* py_DemoSection::Thickness() const {
+  return new omu_PrimNumber(m_Record->thickness.ConstGet());
+}
+omu_Primitive* py_DemoSection::Material() const {
+  return new omu_PrimString(m_Record->material.ConstGet());
+}
 
 omu_Primitive* py_DemoSection::SetThickness(omu_Arguments& args) const {
   Assign(args, "thickness", m_Record->thickness);
@@ -124,6 +129,7 @@ omu_Primitive* py_DemoSection::StatusAt(omu_Arguments& args) {
   args.Begin();
   args.Get(step, "step");
   args.End("statusAt");
-  if (step < 0 || step >= m_Record->statuses.Length()) NEX_THROW(omu_IndexErrorException(step), kSource);
+  if (step < 0 || step >= m_Record->statuses.Length())
+    NEX_THROW(omu_IndexErrorException(step), kSource);
   return new Status(m_Record->statuses[step]);
 }

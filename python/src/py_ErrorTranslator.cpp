@@ -21,20 +21,24 @@ struct ModuleError {
 
 // Error name -> class; filled at import, read under the GIL.
 std::map<std::string, py::object, std::less<>>& Classes() {
-  static auto* classes = new std::map<std::string, py::object, std::less<>>();  // lives as long as the interpreter may call in
+  static auto* classes =
+      new std::map<std::string, py::object,
+                   std::less<>>();  // lives as long as the interpreter may call in
   return *classes;
 }
 
 void SetText(PyObject* type, const atr_StringBase& text) {
-  const py::object message = py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(text));
+  const py::object message =
+      py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(text));
   PyErr_SetObject(type, message.ptr());
 }
 }  // namespace
 
 void py_ErrorTranslator::Register(py::module_& module) {
-  const ModuleError errors[] = {{"CorvexNameError", PyExc_ValueError}, {"RangeError", PyExc_ValueError},
-                                {"FontError", PyExc_ValueError},       {"ColorError", PyExc_ValueError},
-                                {"AccessError", PyExc_ReferenceError}, {"GuiAccessError", PyExc_RuntimeError}};
+  const ModuleError errors[] = {
+      {"CorvexNameError", PyExc_ValueError}, {"RangeError", PyExc_ValueError},
+      {"FontError", PyExc_ValueError},       {"ColorError", PyExc_ValueError},
+      {"AccessError", PyExc_ReferenceError}, {"GuiAccessError", PyExc_RuntimeError}};
   for (const ModuleError& error : errors) {
     const std::string qualified = "cvxutils." + std::string(error.name);
     py::object type = py::reinterpret_steal<py::object>(
@@ -57,14 +61,17 @@ py::handle py_ErrorTranslator::ClassOf(const nex_CommandException& error) {
   auto known = Classes().find(name.View());
   if (known != Classes().end()) return known->second;
   // A built-in exception class of that name, found once.
-  py::object builtin = py::module_::import("builtins").attr("__dict__").attr("get")(py::str(name.StdString()));
-  if (!PyExceptionClass_Check(builtin.ptr())) builtin = py::reinterpret_borrow<py::object>(PyExc_RuntimeError);
+  py::object builtin =
+      py::module_::import("builtins").attr("__dict__").attr("get")(py::str(name.StdString()));
+  if (!PyExceptionClass_Check(builtin.ptr()))
+    builtin = py::reinterpret_borrow<py::object>(PyExc_RuntimeError);
   return Classes().emplace(name.StdString(), builtin).first->second;
 }
 
 void py_ErrorTranslator::RaiseScriptingError(const nex_CommandException& error) {
   const py::handle type = ClassOf(error);
-  const py::object message = py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(error.JournalMessage()));
+  const py::object message =
+      py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(error.JournalMessage()));
   const py::object exception = type(message);
   py_ErrorFields::Attach(error, exception);
   PyErr_SetObject(type.ptr(), exception.ptr());

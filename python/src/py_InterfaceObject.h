@@ -31,7 +31,8 @@ private:
   // The object of a live handle; a stale one raises AccessError.
   static omu_InterfaceObj& Live(omu_InterfaceObj& object);
   static pybind11::object GetAttribute(pybind11::object self, const std::string& name);
-  static void SetAttribute(omu_InterfaceObj& object, const std::string& name, pybind11::handle value);
+  static void SetAttribute(omu_InterfaceObj& object, const std::string& name,
+                           pybind11::handle value);
   static void DeleteAttribute(omu_InterfaceObj& object, const std::string& name);
   static pybind11::list Dir(omu_InterfaceObj& object);
   static pybind11::object Repr(const omu_InterfaceObj& object);

@@ -34,7 +34,8 @@ PyObject* py_Method::Bind(PyObject* owner, PyObject* name) {
   return reinterpret_cast<PyObject*>(method);
 }
 
-PyObject* py_Method::Call(PyObject* self, PyObject* const* args, std::size_t nargsf, PyObject* kwnames) {
+PyObject* py_Method::Call(PyObject* self, PyObject* const* args, std::size_t nargsf,
+                          PyObject* kwnames) {
   const auto* method = reinterpret_cast<MethodObject*>(self);
   return py_CallArguments::Run(
       [method](omu_Arguments& arguments) {

@@ -11,6 +11,7 @@ public:
 
 private:
   static PyTypeObject* Type();
-  static PyObject* Call(PyObject* self, PyObject* const* args, std::size_t nargsf, PyObject* kwnames);
+  static PyObject* Call(PyObject* self, PyObject* const* args, std::size_t nargsf,
+                        PyObject* kwnames);
   static PyObject* Repr(PyObject* self);
 };

@@ -21,14 +21,15 @@ py::object Echo(py::handle value) {
 
 py::object Text(py::handle value) {
   const omu_PrimOwner primitive = py_ValueConverter::ToPrimitive(value.ptr());
-  return py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(
-      std::make_unique<omu_PrimString>(primitive->AsRepr()).get()));
+  return py::reinterpret_steal<py::object>(
+      py_ValueConverter::ToPython(std::make_unique<omu_PrimString>(primitive->AsRepr()).get()));
 }
 }  // namespace
 
 PYBIND11_MODULE(cvxutils, module) {
-  module.doc() = "The CaeUtils library as a script meets it: values, errors, commands and "
-                 "repository objects.";
+  module.doc() =
+      "The CaeUtils library as a script meets it: values, errors, commands and "
+      "repository objects.";
   py_Library::Start();
   py_ErrorTranslator::Register(module);
   py_ValueTypes::Register(module);

@@ -12,7 +12,7 @@ py_ScalarTable::Row RowOf() {
           [](const omu_Primitive& value, omu_BindingRuleEnum rule) -> PyObject* {
             T out{};
             return omu_Binding<T>::Convert(value, out, rule) ? py_Caster<T>::ToPython(out)
-                                                            : nullptr;
+                                                             : nullptr;
           }};
 }
 }  // namespace
@@ -20,7 +20,8 @@ py_ScalarTable::Row RowOf() {
 py_ScalarTable::py_ScalarTable() {
   omu_BindingTypes::ForEach([this](auto type) {
     using T = typename decltype(type)::type;
-    if constexpr (py_Castable<T> && omu_Puttable<T> && omu_Gettable<T>) m_Rows.push_back(RowOf<T>());
+    if constexpr (py_Castable<T> && omu_Puttable<T> && omu_Gettable<T>)
+      m_Rows.push_back(RowOf<T>());
   });
 }
 

@@ -52,7 +52,8 @@ private:
 thread_local std::vector<PyObject*> OpenContainer::s_Open;
 
 int CheckedSize(Py_ssize_t size) {
-  if (size > INT_MAX) Raise(PyExc_OverflowError, "%S items are more than the library holds", py::int_(size).ptr());
+  if (size > INT_MAX)
+    Raise(PyExc_OverflowError, "%S items are more than the library holds", py::int_(size).ptr());
   return static_cast<int>(size);
 }
 
@@ -92,7 +93,8 @@ omu_PrimOwner ToDictionary(const py::list& items) {
     } else {
       nativeKey = py_Caster<cow_String>::FromPython(key);
     }
-    result->Put(py_ValueConverter::ToPrimitive(PyTuple_GET_ITEM(item.ptr(), 1)).release(), nativeKey);
+    result->Put(py_ValueConverter::ToPrimitive(PyTuple_GET_ITEM(item.ptr(), 1)).release(),
+                nativeKey);
   }
   return result;
 }
@@ -121,7 +123,8 @@ template <class K>
 PyObject* DictionaryToPython(const omu_PrimDictionary<K>& dictionary) {
   py::dict result;
   for (const auto& [key, value] : dictionary.GetEntries()) {
-    const py::object item = py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(value.ConstGet()));
+    const py::object item =
+        py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(value.ConstGet()));
     if constexpr (std::is_same_v<K, int>) {
       result[py::int_(key)] = item;
     } else {
@@ -141,7 +144,8 @@ PyObject* DictionaryToPython(const omu_Primitive& value) {
 PyObject* SequenceToPython(const omu_PrimSequence& sequence) {
   const bool list = dynamic_cast<const omu_PrimList*>(&sequence) != nullptr;
   const Py_ssize_t size = sequence.Size();
-  py::object result = py::reinterpret_steal<py::object>(list ? PyList_New(size) : PyTuple_New(size));
+  py::object result =
+      py::reinterpret_steal<py::object>(list ? PyList_New(size) : PyTuple_New(size));
   if (!result) throw py::error_already_set();
   for (Py_ssize_t i = 0; i < size; ++i) {
     PyObject* item = py_ValueConverter::ToPython(sequence.Index(static_cast<int>(i)));
@@ -187,7 +191,8 @@ PyObject* py_ValueConverter::ToPython(const omu_Primitive* value) {
   if (!value) return Py_NewRef(Py_None);
   switch (value->TypeCode()) {
     case 'W': {
-      PyObject* object = py_ScriptObject::Object(static_cast<const omu_PyObjectWrapper&>(*value).Object());
+      PyObject* object =
+          py_ScriptObject::Object(static_cast<const omu_PyObjectWrapper&>(*value).Object());
       return Py_NewRef(object ? object : Py_None);
     }
     case '(':
@@ -197,8 +202,8 @@ PyObject* py_ValueConverter::ToPython(const omu_Primitive* value) {
     case 'o':
       return py_ArrayConverter::ToPython(static_cast<const omu_PrimArray&>(*value));
     case 'r':
-      return py::cast(std::unique_ptr<omu_InterfaceObj>(
-                          static_cast<omu_InterfaceObj*>(value->Copy())))
+      return py::cast(
+                 std::unique_ptr<omu_InterfaceObj>(static_cast<omu_InterfaceObj*>(value->Copy())))
           .release()
           .ptr();
     default:

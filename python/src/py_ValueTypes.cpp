@@ -20,7 +20,8 @@ py::str Text(const cow_String& text) {
 omu_PrimPath MakePath(const std::vector<std::string>& components, const std::string& contextType) {
   if (contextType.size() > 1) throw py::value_error("a path's context type is one character");
   std::vector<cow_String> texts(components.begin(), components.end());
-  return omu_PrimPath(cow_List<cow_String>(std::move(texts)), contextType.empty() ? '\0' : contextType[0]);
+  return omu_PrimPath(cow_List<cow_String>(std::move(texts)),
+                      contextType.empty() ? '\0' : contextType[0]);
 }
 
 std::string Dotted(const omu_PrimPath& path) {
@@ -49,28 +50,42 @@ void RegisterPath(py::module_& module) {
       .def_property_readonly("components",
                              [](const omu_PrimPath& path) {
                                py::list components;
-                               for (const cow_String& component : path.Context()) components.append(Text(component));
+                               for (const cow_String& component : path.Context())
+                                 components.append(Text(component));
                                return components;
                              })
       .def_property_readonly("context_type",
                              [](const omu_PrimPath& path) {
-                               return path.ContextType() ? std::string(1, path.ContextType()) : std::string();
+                               return path.ContextType() ? std::string(1, path.ContextType())
+                                                         : std::string();
                              })
-      .def("__repr__", [](const omu_PrimPath& path) { return "cvxutils.Path(" + path.AsString(0).StdString() + ")"; })
+      .def("__repr__",
+           [](const omu_PrimPath& path) {
+             return "cvxutils.Path(" + path.AsString(0).StdString() + ")";
+           })
       .def("__str__", &Dotted)
-      .def("__eq__", [](const omu_PrimPath& a, const omu_PrimPath& b) { return a == b; }, py::is_operator())
+      .def(
+          "__eq__", [](const omu_PrimPath& a, const omu_PrimPath& b) { return a == b; },
+          py::is_operator())
       .def("__hash__", [](const omu_PrimPath& path) { return py::hash(py::str(Dotted(path))); });
 }
 
 void RegisterConstant(py::module_& module) {
   py::class_<omu_PrimEnumBase>(module, "SymbolicConstant",
                                "An enumerated value, carried by its symbolic name.")
-      .def(py::init([](const std::string& name) { return omu_PrimEnumBase(cow_String(name)); }), "name"_a)
-      .def_property_readonly("name", [](const omu_PrimEnumBase& constant) { return Text(constant.Name()); })
+      .def(py::init([](const std::string& name) { return omu_PrimEnumBase(cow_String(name)); }),
+           "name"_a)
+      .def_property_readonly("name",
+                             [](const omu_PrimEnumBase& constant) { return Text(constant.Name()); })
       .def("__repr__", [](const omu_PrimEnumBase& constant) { return Text(constant.Name()); })
-      .def("__eq__", [](const omu_PrimEnumBase& a, const omu_PrimEnumBase& b) { return a == b; }, py::is_operator())
-      .def("__eq__", [](const omu_PrimEnumBase& a, py::str b) { return Text(a.Name()).equal(b); }, py::is_operator())
-      .def("__hash__", [](const omu_PrimEnumBase& constant) { return py::hash(Text(constant.Name())); });
+      .def(
+          "__eq__", [](const omu_PrimEnumBase& a, const omu_PrimEnumBase& b) { return a == b; },
+          py::is_operator())
+      .def(
+          "__eq__", [](const omu_PrimEnumBase& a, py::str b) { return Text(a.Name()).equal(b); },
+          py::is_operator())
+      .def("__hash__",
+           [](const omu_PrimEnumBase& constant) { return py::hash(Text(constant.Name())); });
 }
 }  // namespace
 
