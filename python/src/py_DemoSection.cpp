@@ -129,7 +129,8 @@ omu_Primitive* py_DemoSection::StatusAt(omu_Arguments& args) {
   args.Begin();
   args.Get(step, "step");
   args.End("statusAt");
-  if (step < 0 || step >= m_Record->statuses.Length())
+  if (step < 0 || step >= m_Record->statuses.Length()) {
     NEX_THROW(omu_IndexErrorException(step), kSource);
+  }
   return new Status(m_Record->statuses[step]);
 }

@@ -21,9 +21,8 @@ struct ModuleError {
 
 // Error name -> class; filled at import, read under the GIL.
 std::map<std::string, py::object, std::less<>>& Classes() {
-  static auto* classes =
-      new std::map<std::string, py::object,
-                   std::less<>>();  // lives as long as the interpreter may call in
+  // Never freed: it lives as long as the interpreter may call in.
+  static auto* classes = new std::map<std::string, py::object, std::less<>>();
   return *classes;
 }
 
@@ -63,8 +62,9 @@ py::handle py_ErrorTranslator::ClassOf(const nex_CommandException& error) {
   // A built-in exception class of that name, found once.
   py::object builtin =
       py::module_::import("builtins").attr("__dict__").attr("get")(py::str(name.StdString()));
-  if (!PyExceptionClass_Check(builtin.ptr()))
+  if (!PyExceptionClass_Check(builtin.ptr())) {
     builtin = py::reinterpret_borrow<py::object>(PyExc_RuntimeError);
+  }
   return Classes().emplace(name.StdString(), builtin).first->second;
 }
 

@@ -43,16 +43,18 @@ void py_InterfaceObject::Register(py::module_& module) {
 }
 
 omu_InterfaceObj& py_InterfaceObject::Live(omu_InterfaceObj& object) {
-  if (object.IsStale())
+  if (object.IsStale()) {
     NEX_THROW(omu_AccessErrorException(object.PathString()), "python/src/py_InterfaceObject");
+  }
   return object;
 }
 
 py::object py_InterfaceObject::GetAttribute(py::object self, const std::string& name) {
   omu_InterfaceObj& object = Live(self.cast<omu_InterfaceObj&>());
   bool deprecated = false;
-  if (object.IsMethod(name.c_str(), deprecated))
+  if (object.IsMethod(name.c_str(), deprecated)) {
     return Steal(py_Method::Bind(self.ptr(), py::str(name).ptr()));
+  }
   const std::unique_ptr<omu_Primitive> value(object.GetMember(name.c_str(), deprecated));
   if (!value) NoSuchAttribute(object, name);
   return Steal(py_ValueConverter::ToPython(value.get()));

@@ -52,8 +52,9 @@ private:
 thread_local std::vector<PyObject*> OpenContainer::s_Open;
 
 int CheckedSize(Py_ssize_t size) {
-  if (size > INT_MAX)
+  if (size > INT_MAX) {
     Raise(PyExc_OverflowError, "%S items are more than the library holds", py::int_(size).ptr());
+  }
   return static_cast<int>(size);
 }
 

@@ -50,8 +50,9 @@ void RegisterPath(py::module_& module) {
       .def_property_readonly("components",
                              [](const omu_PrimPath& path) {
                                py::list components;
-                               for (const cow_String& component : path.Context())
+                               for (const cow_String& component : path.Context()) {
                                  components.append(Text(component));
+                               }
                                return components;
                              })
       .def_property_readonly("context_type",
