@@ -208,17 +208,10 @@ void omu_PrimArray::Fill(int numDims, const int* dims, DataTypeEnm dataType, con
 }
 
 void omu_PrimArray::Adopt(std::vector<int> dims, DataTypeEnm dataType, std::vector<std::byte> data) {
-  const int itemSize = ItemSize(dataType);
-  std::vector<int> strides(dims.size());
-  int stride = itemSize;
-  for (std::size_t d = dims.size(); d-- > 0;) {
-    strides[d] = stride;
-    stride *= dims[d];
-  }
   m_NumDims = static_cast<int>(dims.size());
   m_DataType = dataType;
   m_Shared = cow_CountedHld<omu_PrimArrayData>(
-      std::make_unique<omu_PrimArrayData>(std::move(data), std::move(dims), std::move(strides)));
+      std::make_unique<omu_PrimArrayData>(std::move(data), std::move(dims), ItemSize(dataType)));
   m_Dims = m_Shared->Dims();
   m_Strides = m_Shared->Strides();
   m_Data = m_Shared->Data();

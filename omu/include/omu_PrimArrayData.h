@@ -1,6 +1,8 @@
 #pragma once
 // The buffers behind numeric arrays, owned together: the numbers, the dimensions and the
-// strides. Arrays, their copies and their sub-arrays share one through a counted handle.
+// C-order strides. Arrays, their copies and their sub-arrays share one through a counted handle.
+// A subclass may keep the numbers elsewhere (a host's block, filled without zeroing it first):
+// it passes no numbers here and overrides Data.
 #include <CVX_Export.h>
 
 #include <cstddef>
@@ -8,11 +10,11 @@
 
 class CVX_EXPORT omu_PrimArrayData {
 public:
-  omu_PrimArrayData(std::vector<std::byte> data, std::vector<int> dims, std::vector<int> strides)
-      : m_Data(std::move(data)), m_Dims(std::move(dims)), m_Strides(std::move(strides)) {}
+  // data holds the numbers laid out by dims in C order, each itemSize bytes.
+  omu_PrimArrayData(std::vector<std::byte> data, std::vector<int> dims, int itemSize);
   virtual ~omu_PrimArrayData();
 
-  std::byte* Data() noexcept { return m_Data.data(); }
+  virtual std::byte* Data() noexcept { return m_Data.data(); }
   const int* Dims() const noexcept { return m_Dims.data(); }
   const int* Strides() const noexcept { return m_Strides.data(); }
 

@@ -85,13 +85,13 @@ omu_PrimOwner py_ArrayConverter::ToPrimitive(PyObject* array) {
   }
   auto storage = std::make_unique<py_ArrayStorage>(DimsOf(view), static_cast<int>(view.itemsize),
                                                    static_cast<std::size_t>(view.len));
-  if (PyBuffer_ToContiguous(storage->Bytes(), &view, view.len, 'C') != 0) {
+  if (PyBuffer_ToContiguous(storage->Data(), &view, view.len, 'C') != 0) {
     throw py::error_already_set();
   }
   py_ArrayStorage& numbers = *storage;
   const cow_CountedHld<omu_PrimArrayData> shared(std::move(storage));
   return std::make_unique<omu_PrimArray>(view.ndim, numbers.Dims(), numbers.Strides(),
-                                         numbers.Bytes(), static_cast<DataType>(dataType), shared);
+                                         numbers.Data(), static_cast<DataType>(dataType), shared);
 }
 
 PyObject* py_ArrayConverter::ToPython(const omu_PrimArray& array) {

@@ -1,8 +1,8 @@
 #pragma once
 // The numbers of an array that came from NumPy: one uninitialised block filled by a single
-// bulk copy of the NumPy buffer (a strided buffer is gathered into C order by that same copy),
-// with its dimensions and C-order strides. Arrays made on it share it like any other
-// omu_PrimArrayData, so the library's copies and sub-arrays never copy it again.
+// bulk copy of the NumPy buffer (a strided buffer is gathered into C order by that same copy).
+// Arrays made on it share it like any other omu_PrimArrayData, so the library's copies and
+// sub-arrays never copy it again.
 #include <omu_PrimArrayData.h>
 
 #include <cstddef>
@@ -14,12 +14,8 @@ public:
   // Room for byteCount bytes laid out by dims in C order, elements of itemSize bytes.
   py_ArrayStorage(std::vector<int> dims, int itemSize, std::size_t byteCount);
 
-  std::byte* Bytes() noexcept { return m_Bytes.get(); }
-  const int* Dims() const noexcept { return m_Dims.data(); }
-  const int* Strides() const noexcept { return m_Strides.data(); }
+  std::byte* Data() noexcept override { return m_Bytes.get(); }
 
 private:
   std::unique_ptr<std::byte[]> m_Bytes;
-  std::vector<int> m_Dims;
-  std::vector<int> m_Strides;
 };
