@@ -12,6 +12,8 @@
 namespace py = pybind11;
 
 namespace {
+constexpr const char* kSource = "python/src/py_InterfaceObject";
+
 py::object Steal(PyObject* value) {
   if (!value) throw py::error_already_set();
   return py::reinterpret_steal<py::object>(value);
@@ -21,7 +23,7 @@ py::object Steal(PyObject* value) {
   NEX_THROW(omu_AttributeErrorException(
                 2, atr_StringBase::Format("'%s' object has no attribute '%s'",
                                           object.TypeString().CStr(), name.c_str())),
-            "python/src/py_InterfaceObject");
+            kSource);
 }
 }  // namespace
 
@@ -44,7 +46,7 @@ void py_InterfaceObject::Register(py::module_& module) {
 
 omu_InterfaceObj& py_InterfaceObject::Live(omu_InterfaceObj& object) {
   if (object.IsStale()) {
-    NEX_THROW(omu_AccessErrorException(object.PathString()), "python/src/py_InterfaceObject");
+    NEX_THROW(omu_AccessErrorException(object.PathString()), kSource);
   }
   return object;
 }
@@ -70,7 +72,7 @@ void py_InterfaceObject::SetAttribute(omu_InterfaceObj& object, const std::strin
       object.SetMember(name.c_str(), arguments, deprecated));
   if (result) return;
   if (!object.MemberList().Contains(cow_String(name))) NoSuchAttribute(object, name);
-  NEX_THROW(omu_AttributeErrorException(1, name), "python/src/py_InterfaceObject");
+  NEX_THROW(omu_AttributeErrorException(1, name), kSource);
 }
 
 void py_InterfaceObject::DeleteAttribute(omu_InterfaceObj& object, const std::string& name) {
