@@ -1,5 +1,6 @@
 // The cvxutils module: the library's values, errors, commands and repository objects as a
 // script meets them.
+#include "py_Caster.h"
 #include "py_DemoCommands.h"
 #include "py_ErrorSamples.h"
 #include "py_ErrorTranslator.h"
@@ -8,7 +9,6 @@
 #include "py_ValueConverter.h"
 #include "py_ValueTypes.h"
 
-#include <omu_PrimString.h>
 #include <pybind11/pybind11.h>
 
 namespace py = pybind11;
@@ -21,8 +21,9 @@ py::object Echo(py::handle value) {
 
 py::object Text(py::handle value) {
   const omu_PrimOwner primitive = py_ValueConverter::ToPrimitive(value.ptr());
-  return py::reinterpret_steal<py::object>(
-      py_ValueConverter::ToPython(std::make_unique<omu_PrimString>(primitive->AsRepr()).get()));
+  PyObject* text = py_Caster<cow_String>::ToPython(primitive->AsRepr());
+  if (!text) throw py::error_already_set();
+  return py::reinterpret_steal<py::object>(text);
 }
 }  // namespace
 
