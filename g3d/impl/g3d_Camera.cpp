@@ -262,8 +262,9 @@ void g3d_Camera::MoveEyeAndTarget(const g3d_Vector& by) {
 
 g3d_Camera& g3d_Camera::Pan(float dx, float dy, float dz, bool fitClipping) {
   // A window unit is a world unit at the target; in perspective the window is at the near
-  // plane, so scale by the ratio of the distances.
-  const float scale = IsPerspective() ? EyeDistance() / m_Near : 1.0f;
+  // plane, so scale by the ratio of the distances. A near plane at or behind the eye has no
+  // such ratio: there, as in parallel projection, window units are taken at the target.
+  const float scale = IsPerspective() && m_Near > 0.0f ? EyeDistance() / m_Near : 1.0f;
   MoveEyeAndTarget(ToWorld(g3d_Vector(dx, dy, dz)) * scale);
   if (fitClipping) FitClippingToModel();
   ClearUserMark();

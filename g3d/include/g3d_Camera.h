@@ -80,6 +80,8 @@ public:
   g3d_Camera& Zoom(float x0, float y0, float x1, float y1, bool dolly);
   // Moves eye and target together by (dx, dy, dz) in window units along the eye's right, up
   // and backward axes. With fitClipping set, near and far then re-fit the recorded model.
+  // In perspective with a near distance of zero or less, window units are taken at the
+  // target, as in parallel projection, so that no step becomes infinite.
   g3d_Camera& Pan(float dx, float dy, float dz, bool fitClipping);
 
   // Turns the scene (the camera moves the opposite way) so that direction from appears
