@@ -49,6 +49,7 @@ cvx_module(omu SOURCES ${PROJECT_SOURCE_DIR}/omu/impl/*.cpp LINKS cvx_idb)
 cvx_module(mdl SOURCES ${PROJECT_SOURCE_DIR}/mdl/impl/*.cpp LINKS cvx_omu)
 cvx_module(uti SOURCES ${PROJECT_SOURCE_DIR}/uti/impl/*.cpp
            LINKS cvx_wip cvx_idb cvx_g3d cvx_omu cvx_mdl)
+target_compile_definitions(cvx_uti PRIVATE CVX_VERSION="${PROJECT_VERSION}")
 
 # Consumers see every module's headers, by class name.
 foreach(module IN LISTS cvx_modules)

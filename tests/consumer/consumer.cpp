@@ -5,6 +5,7 @@
 #include <omu_PrimTuple.h>
 
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <memory>
 
@@ -19,6 +20,8 @@ void Expect(bool holds, const char* what) {
 }  // namespace
 
 int main() {
+  Expect(std::strcmp(UTI_CaeUtils_version(), CVX_PACKAGE_VERSION) == 0,
+         "the library's version is not the package's");
   int count = 0;
   UTI_CaeUtils_initialize(count);
   {
@@ -43,6 +46,6 @@ int main() {
     Expect(*back == tuple, "the tuple did not read back equal");
   }
   UTI_CaeUtils_finalize(count);
-  if (failures == 0) std::puts("consumer: start-up, values, errors and archives work");
+  if (failures == 0) std::puts("consumer: version, start-up, values, errors and archives work");
   return failures == 0 ? 0 : 1;
 }

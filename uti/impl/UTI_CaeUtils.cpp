@@ -7,6 +7,8 @@ namespace {
 omi_UseCounter s_Uses;
 }
 
+const char* UTI_CaeUtils_version() { return CVX_VERSION; }
+
 void UTI_CaeUtils_initialize(int& count) {
   s_Uses.Initialize(count, [&count] {
     QRLBasCoreUtils_initialize(count);

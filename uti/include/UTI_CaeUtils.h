@@ -4,6 +4,10 @@
 // count by one. Call on one thread, before and after all other use.
 #include <CVX_Export.h>
 
+// The library's version, "major.minor.patch", the same as the installed package's
+// CaeUtilsConfigVersion.cmake and the newest entry of CHANGELOG.md. Needs no start-up.
+CVX_EXPORT const char* UTI_CaeUtils_version();
+
 CVX_EXPORT void UTI_CaeUtils_initialize(int& count);
 CVX_EXPORT void UTI_CaeUtils_finalize(int& count);
 
