@@ -17,7 +17,7 @@ constexpr const char* kUndetermined = "Undetermined";
 omu_Arguments::omu_Arguments(int size) : omu_PrimLeaf(size, '(') {}
 
 void omu_Arguments::Begin() {
-  m_Claimed.assign(static_cast<std::size_t>(m_Keywords.Length()), 0);
+  m_Claimed.assign(static_cast<std::size_t>(m_Keywords.Length()), '\0');
   m_Unclaimed = m_Keywords.Length();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
   m_KeywordInError = cow_String();

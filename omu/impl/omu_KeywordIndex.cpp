@@ -10,10 +10,16 @@ std::size_t Hash(std::string_view keyword) noexcept {
 }  // namespace
 
 void omu_KeywordIndex::Build(const omu_PrimDictionary<cow_String>& keywords) {
-  m_Entries.clear();
-  for (const auto& [keyword, value] : keywords.GetEntries()) {
-    m_Entries.push_back({keyword.View(), value.ConstGet()});
+  m_Size = keywords.Length();
+  Entry* into = m_Inline.data();
+  if (!IsInline()) {
+    m_Entries.resize(static_cast<std::size_t>(m_Size));
+    into = m_Entries.data();
   }
+  for (const auto& [keyword, value] : keywords.GetEntries()) {
+    *into++ = {keyword.View(), value.ConstGet()};
+  }
+  if (IsInline()) return;
   const std::size_t size = std::bit_ceil(2 * m_Entries.size() + 1);
   m_Table.assign(size, -1);
   m_Mask = size - 1;
@@ -24,14 +30,16 @@ void omu_KeywordIndex::Build(const omu_PrimDictionary<cow_String>& keywords) {
   }
 }
 
-void omu_KeywordIndex::Clear() noexcept {
-  m_Entries.clear();
-  m_Table.clear();
-  m_Mask = 0;
+int omu_KeywordIndex::Find(std::string_view keyword) const noexcept {
+  if (m_Size < 0) return -1;
+  if (!IsInline()) return FindHashed(keyword);
+  for (int slot = 0; slot < m_Size; ++slot) {
+    if (m_Inline[static_cast<std::size_t>(slot)].keyword == keyword) return slot;
+  }
+  return -1;
 }
 
-int omu_KeywordIndex::Find(std::string_view keyword) const noexcept {
-  if (m_Table.empty()) return -1;
+int omu_KeywordIndex::FindHashed(std::string_view keyword) const noexcept {
   for (std::size_t at = Hash(keyword) & m_Mask;; at = (at + 1) & m_Mask) {
     const int slot = m_Table[at];
     if (slot < 0 || m_Entries[static_cast<std::size_t>(slot)].keyword == keyword) return slot;

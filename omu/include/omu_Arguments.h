@@ -12,6 +12,8 @@
 #include <omu_PrimDictionary.h>
 #include <omu_PrimTuple.h>
 
+#include <string>
+
 class CVX_EXPORT omu_Arguments : public omu_PrimLeaf<omu_Arguments, omu_PrimTuple> {
 public:
   explicit omu_Arguments(int size = 0);
@@ -43,6 +45,11 @@ public:
   const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*,
                               std::string_view keyword);
 
+  // Room for count keyword Puts in the stored keywords, so that building a call of many
+  // keywords grows that list once.
+  void ReserveKeywords(int count) {
+    m_StoredKeywords.MutableVector().reserve(static_cast<std::size_t>(count));
+  }
   // Stores value under keyword (as the keyword dictionary's Put does), for argument lists
   // built to be passed on.
   template <class T>
@@ -114,8 +121,9 @@ private:
   omu_PrimDictionary<cow_String> m_Keywords;
   omu_KeywordIndex m_Index;
   // The unclaimed keywords: one flag per keyword in key order (set once a Get took it), so
-  // that reading claims nothing by copying texts.
-  std::vector<unsigned char> m_Claimed;
+  // that reading claims nothing by copying texts. A string for its small buffer: a call of up
+  // to 15 keywords allocates no flags.
+  std::string m_Claimed;
   int m_Unclaimed = 0;
   cow_List<cow_String> m_StoredKeywords;
   int m_KeywordsTaken = 0;

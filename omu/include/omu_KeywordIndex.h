@@ -5,15 +5,20 @@
 // The index points into the dictionary it was built from: it is valid until that dictionary
 // changes, so its owner clears it before every change and builds it again when next asked. A
 // copied or assigned index is cleared: it would point into another call's keywords.
-// Building allocates once for the entries and once for the hash table, reused by later builds
-// of no more keywords. Not thread-safe; a call is bound on one thread.
+// A call of up to Inline keywords, the common case, is indexed in place and searched linearly:
+// building allocates nothing. Larger calls get a hash table, allocated once for the entries and
+// once for the table, reused by later builds of no more keywords. Not thread-safe; a call is
+// bound on one thread.
 #include <omu_PrimDictionary.h>
 
+#include <array>
 #include <string_view>
 #include <vector>
 
 class CVX_EXPORT omu_KeywordIndex {
 public:
+  static constexpr std::size_t Inline = 8;
+
   omu_KeywordIndex() noexcept = default;
   omu_KeywordIndex(const omu_KeywordIndex&) noexcept {}
   omu_KeywordIndex& operator=(const omu_KeywordIndex&) noexcept {
@@ -21,14 +26,14 @@ public:
     return *this;
   }
 
-  bool Built() const noexcept { return !m_Table.empty(); }
+  bool Built() const noexcept { return m_Size >= 0; }
   void Build(const omu_PrimDictionary<cow_String>& keywords);
-  void Clear() noexcept;
+  void Clear() noexcept { m_Size = -1; }
   // The keyword's slot, or -1 when the call does not give it (or nothing is built).
   int Find(std::string_view keyword) const noexcept;
   // The value in a slot that Find answered.
   const omu_Primitive* Value(int slot) const noexcept {
-    return m_Entries[static_cast<std::size_t>(slot)].value;
+    return Entries()[static_cast<std::size_t>(slot)].value;
   }
 
 private:
@@ -37,9 +42,15 @@ private:
     const omu_Primitive* value;
   };
 
+  bool IsInline() const noexcept { return static_cast<std::size_t>(m_Size) <= Inline; }
+  const Entry* Entries() const noexcept { return IsInline() ? m_Inline.data() : m_Entries.data(); }
+  int FindHashed(std::string_view keyword) const noexcept;
+
+  // The number of keywords indexed, -1 until built.
+  int m_Size = -1;
+  std::array<Entry, Inline> m_Inline;
   std::vector<Entry> m_Entries;
-  // Open addressing with linear probing over slots, -1 where empty; at most half full. Empty
-  // until built, and never after.
+  // Open addressing with linear probing over slots, -1 where empty; at most half full.
   std::vector<int> m_Table;
   std::size_t m_Mask = 0;
 };

@@ -10,6 +10,7 @@ omu_Arguments py_CallArguments::Build(PyObject* const* args, std::size_t nargsf,
     arguments.Put(py_ValueConverter::ToPrimitive(args[i]).release());
   }
   const Py_ssize_t keywords = kwnames ? PyTuple_GET_SIZE(kwnames) : 0;
+  if (keywords > 0) arguments.ReserveKeywords(static_cast<int>(keywords));
   for (Py_ssize_t i = 0; i < keywords; ++i) {
     const cow_String keyword = py_KeywordNames::Text(PyTuple_GET_ITEM(kwnames, i));
     omu_Primitive* value = py_ValueConverter::ToPrimitive(args[positional + i]).release();
