@@ -1,7 +1,6 @@
 #include "OmuTestSupport.h"
 #include "TestRepository.h"
 
-#include <omu_ArgNumberErrorException.h>
 #include <omu_Arguments.h>
 #include <omu_Deprecation.h>
 #include <omu_Get.h>
@@ -12,17 +11,22 @@
 #include <variant>
 
 namespace {
+std::string Failure(const nex_CommandException& e) {
+  return e.PythonType().StdString() + ": " + e.JournalMessage().StdString();
+}
+
 // The script-level error End raises, as "TypeName: message", or "ok".
 std::string Outcome(omu_Arguments& args) {
   try {
     args.End("");
   } catch (const nex_CommandException& e) {
-    return e.PythonType().StdString() + ": " + e.JournalMessage().StdString();
+    return Failure(e);
   }
   return "ok";
 }
 
-using Value = std::variant<int, double, cow_String>;
+using Value = std::variant<int, double, cow_String, cow_List<double>, cow_List<int>,
+                           cow_2DArray<double>, omu_PrimTuple>;
 
 void Put(omu_Arguments& args, const Value& value, const char* keyword = nullptr) {
   std::visit([&](const auto& v) { keyword ? args.Put(v, keyword) : args.Put(v); }, value);
@@ -37,6 +41,25 @@ omu_Arguments Call(std::initializer_list<Value> positional,
   return args;
 }
 
+struct Irregular {
+  cow_2DArray<double> rows;
+};
+
+template <class T>
+void Get(omu_Arguments& args, T& value, std::string_view keyword) {
+  args.Get(value, keyword);
+}
+template <class T>
+void Get(omu_Arguments& args, cow_List<T>& value, std::string_view keyword) {
+  omu_Get(args, value, cow_String(keyword));
+}
+void Get(omu_Arguments& args, cow_2DArray<double>& value, std::string_view keyword) {
+  omu_Get(args, value, cow_String(keyword));
+}
+void Get(omu_Arguments& args, Irregular& value, std::string_view keyword) {
+  omu_GetIrregular(args, value.rows, cow_String(keyword));
+}
+
 std::string Show(double value) {
   std::ostringstream text;
   text << value;
@@ -44,27 +67,51 @@ std::string Show(double value) {
 }
 std::string Show(const cow_String& value) { return value.StdString(); }
 std::string Show(const omu_CorvexName& name) { return name.Name().StdString(); }
+template <class T>
+std::string Show(const cow_List<T>& list) {
+  std::string text;
+  for (const T& value : list) text += (text.empty() ? "" : ",") + Show(value);
+  return text;
+}
+std::string Show(const cow_2DArray<double>& table) {  // rows split by '/'
+  std::string text;
+  for (std::size_t i = 0; i < table.Cells().size(); ++i) {
+    text += (i == 0 ? "" : i % static_cast<std::size_t>(table.Columns()) ? "," : "/") +
+            Show(table.Cells()[i]);
+  }
+  return text;
+}
+std::string Show(const Irregular& value) { return Show(value.rows); }
 
 template <class T>
 std::string ReadOne(omu_Arguments& args, std::string_view keyword, T value) {
-  args.Get(value, keyword);
+  Get(args, value, keyword);
   return Show(value) + (args.ErrorOnPrevious() ? "! " : " ");
 }
 
 // Reads the call, one token each: "?" makes the rest optional, "|" retries the read before it;
-// "i:k", "f:k", "s:k" and "n:k" read keyword k as an int, a float, a string or a job name. Gives
-// each value read ("!" after a read that failed), then the outcome of End.
+// "i:k", "f:k", "s:k", "n:k" read keyword k as an int, a float, a string or a job name, and
+// "L:k", "I:k", "T:k", "R:k" as a list of floats or ints, a table or ragged rows. Gives each
+// value read ("!" after a read that failed), then the outcome of End (or of a read that raised).
 std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> reads) {
   std::string text;
   args.Begin();
-  for (std::string_view read : reads) {
-    const std::string_view keyword = read.substr(std::min<std::size_t>(2, read.size()));
-    if (read == "?") args.Optional();
-    if (read == "|") text += args.Alternative() ? "retry " : "no-retry ";
-    if (read[0] == 'i') text += ReadOne(args, keyword, -1);
-    if (read[0] == 'f') text += ReadOne(args, keyword, -1.0);
-    if (read[0] == 's') text += ReadOne(args, keyword, cow_String("-"));
-    if (read[0] == 'n') text += ReadOne(args, keyword, omu_CorvexName("kept", omu_JOB_NAME));
+  try {
+    for (std::string_view read : reads) {
+      const std::string_view keyword = read.substr(std::min<std::size_t>(2, read.size()));
+      if (read == "?") args.Optional();
+      if (read == "|") text += args.Alternative() ? "retry " : "no-retry ";
+      if (read[0] == 'i') text += ReadOne(args, keyword, -1);
+      if (read[0] == 'f') text += ReadOne(args, keyword, -1.0);
+      if (read[0] == 's') text += ReadOne(args, keyword, cow_String("-"));
+      if (read[0] == 'n') text += ReadOne(args, keyword, omu_CorvexName("kept", omu_JOB_NAME));
+      if (read[0] == 'L') text += ReadOne(args, keyword, cow_List<double>{9});
+      if (read[0] == 'I') text += ReadOne(args, keyword, cow_List<int>{9});
+      if (read[0] == 'T') text += ReadOne(args, keyword, cow_2DArray<double>());
+      if (read[0] == 'R') text += ReadOne(args, keyword, Irregular());
+    }
+  } catch (const nex_CommandException& e) {
+    return text + "raises " + Failure(e);
   }
   const bool error = args.Error();
   const std::string outcome = Outcome(args);
@@ -75,6 +122,9 @@ std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> re
 
 // The messages and most of their order are in python/tests/test_commands.py (probe).
 TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
+  omu_PrimTuple ragged(2);
+  ragged.Put(cow_List<double>{1, 2, 3});
+  ragged.Put(cow_List<double>{4});
   const struct {
     std::string got;
     const char* expected;
@@ -90,6 +140,17 @@ TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
        "no-retry -1! retry fine ok"},
       {Reads(Call({4, 5}), {"i:a", "|", "s:b", "|", "i:b"}), "4 no-retry -! retry 5 ok"},
       {Reads(Call({}, {{"job", "Job-1"}}), {"n:job", "?", "n:none"}), "Job-1 kept! ok"},
+      // Lists and tables are read element by element from a nested tuple.
+      {Reads(Call({cow_List<double>{1, 2, 3.5}}, {{"ids", cow_List<int>{1, 2}}}),
+             {"L:values", "I:ids", "I:more"}),
+       "1,2,3.5 1,2 9! TypeError: not all required arguments specified; expected 3, got 2"},
+      {Reads(Call({TupleOf({new omu_PrimNumber(1.0), StringOf("x")})}), {"L:points"}),
+       "raises TypeError: arg2; found string, expecting float"},
+      {Reads(Call({cow_2DArray<double>(2, 3, 1.5)}), {"T:table"}), "1.5,1.5,1.5/1.5,1.5,1.5 ok"},
+      {Reads(Call({ragged}), {"T:rows"}),
+       "raises TypeError: not all required arguments specified; expected 3, got 1"},
+      // Ragged rows padded, each led by its length.
+      {Reads(Call({ragged}), {"R:rows"}), "3,1,2,3/1,4,0,0 ok"},
   };
   for (const auto& c : cases) EXPECT_EQ(c.got, c.expected);
 }
@@ -147,56 +208,6 @@ TEST(Arguments, InterfaceObjectsByScriptType) {
   EXPECT_EQ(part->TypeString(), "Part");
   EXPECT_EQ(args.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
   EXPECT_EQ(Outcome(args), "TypeError: other; found Feature, expecting Part");
-}
-
-TEST(Collections, ListsReadElementByElementAndRaiseFromTheInnerTuple) {
-  omu_Arguments args(1);
-  args.Put(cow_List<double>{1.0, 2.0, 3.5});
-  args.Put(cow_List<int>{1, 2}, "ids");
-  cow_List<double> values;
-  cow_List<int> ids, kept{9};
-  args.Begin();
-  omu_Get(args, values, "values");
-  omu_Get(args, ids, "ids");
-  EXPECT_EQ(Outcome(args), "ok");
-  EXPECT_EQ(values, (cow_List<double>{1.0, 2.0, 3.5}));
-  EXPECT_EQ(ids, (cow_List<int>{1, 2}));
-  args.Begin();  // a missing list stays recorded for the outer End
-  omu_Get(args, values, "values");
-  omu_Get(args, ids, "ids");
-  omu_Get(args, kept, "more");
-  EXPECT_EQ(kept, cow_List<int>{9});
-  EXPECT_EQ(Outcome(args), "TypeError: not all required arguments specified; expected 3, got 2");
-
-  omu_Arguments wrong(1);
-  wrong.Put(TupleOf({new omu_PrimNumber(1.0), StringOf("x")}));
-  wrong.Begin();
-  EXPECT_EQ(Raised<nex_CommandException>([&] { omu_Get(wrong, values, "points"); }),
-            "arg2; found string, expecting float");
-}
-
-TEST(Collections, TwoDimensionalArraysAndRaggedRows) {
-  omu_Arguments args(1);
-  args.Put(cow_2DArray<double>(2, 3, 1.5));
-  cow_2DArray<double> table;
-  args.Begin();
-  omu_Get(args, table, "table");
-  EXPECT_EQ(Outcome(args), "ok");
-  EXPECT_EQ(table, cow_2DArray<double>(2, 3, 1.5));
-
-  omu_PrimTuple rows(2);
-  rows.Put(cow_List<double>{1, 2, 3});
-  rows.Put(cow_List<double>{4});
-  omu_Arguments ragged(1);
-  ragged.Put(rows);
-  ragged.Begin();
-  EXPECT_THROW(omu_Get(ragged, table, "rows"), omu_ArgNumberErrorException);
-  cow_2DArray<double> irregular;
-  ragged.Begin();
-  omu_GetIrregular(ragged, irregular, "rows");
-  ASSERT_EQ(irregular.Rows(), 2);
-  ASSERT_EQ(irregular.Columns(), 4);
-  EXPECT_EQ(irregular.Cells(), (std::vector<double>{3, 1, 2, 3, 1, 4, 0, 0}));
 }
 
 TEST(Collections, ResultsComeBackAsNumbersAndStrings) {
