@@ -2,12 +2,12 @@
 #include "TestRepository.h"
 
 #include <omu_Arguments.h>
+#include <omu_BindingTypes.h>
 #include <omu_Deprecation.h>
 #include <omu_Get.h>
 #include <omu_ReturnPrim.h>
 
 #include <algorithm>
-#include <sstream>
 #include <variant>
 
 namespace {
@@ -60,27 +60,12 @@ void Get(omu_Arguments& args, Irregular& value, std::string_view keyword) {
   omu_GetIrregular(args, value.rows, cow_String(keyword));
 }
 
-std::string Show(double value) {
-  std::ostringstream text;
-  text << value;
-  return text.str();
-}
-std::string Show(const cow_String& value) { return value.StdString(); }
-std::string Show(const omu_CorvexName& name) { return name.Name().StdString(); }
+// A value read, in the library's text.
 template <class T>
-std::string Show(const cow_List<T>& list) {
-  std::string text;
-  for (const T& value : list) text += (text.empty() ? "" : ",") + Show(value);
-  return text;
+std::string Show(const T& value) {
+  return Text(*omu_PrimMake(value));
 }
-std::string Show(const cow_2DArray<double>& table) {  // rows split by '/'
-  std::string text;
-  for (std::size_t i = 0; i < table.Cells().size(); ++i) {
-    text += (i == 0 ? "" : i % static_cast<std::size_t>(table.Columns()) ? "," : "/") +
-            Show(table.Cells()[i]);
-  }
-  return text;
-}
+std::string Show(const omu_CorvexName& name) { return name.Name().StdString(); }
 std::string Show(const Irregular& value) { return Show(value.rows); }
 
 template <class T>
@@ -135,22 +120,24 @@ TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
       {Reads(Call({"s"}, {{"b", "t"}}), {"i:a", "i:b"}),
        "-1! -1! TypeError: arg1; found string, expecting int"},  // b not read after the error
       {Reads(Call({}, {{"size", "big"}}), {"f:size"}),
-       "-1! TypeError: size; found string, expecting float"},
+       "-1.0! TypeError: size; found string, expecting float"},
       {Reads(Call({}, {{"mesh", "fine"}}), {"|", "f:mesh", "|", "s:mesh"}),
-       "no-retry -1! retry fine ok"},
-      {Reads(Call({4, 5}), {"i:a", "|", "s:b", "|", "i:b"}), "4 no-retry -! retry 5 ok"},
+       "no-retry -1.0! retry 'fine' ok"},
+      {Reads(Call({4, 5}), {"i:a", "|", "s:b", "|", "i:b"}), "4 no-retry '-'! retry 5 ok"},
       {Reads(Call({}, {{"job", "Job-1"}}), {"n:job", "?", "n:none"}), "Job-1 kept! ok"},
       // Lists and tables are read element by element from a nested tuple.
       {Reads(Call({cow_List<double>{1, 2, 3.5}}, {{"ids", cow_List<int>{1, 2}}}),
              {"L:values", "I:ids", "I:more"}),
-       "1,2,3.5 1,2 9! TypeError: not all required arguments specified; expected 3, got 2"},
+       "(1.0, 2.0, 3.5) (1, 2) (9,)! "
+       "TypeError: not all required arguments specified; expected 3, got 2"},
       {Reads(Call({TupleOf({new omu_PrimNumber(1.0), StringOf("x")})}), {"L:points"}),
        "raises TypeError: arg2; found string, expecting float"},
-      {Reads(Call({cow_2DArray<double>(2, 3, 1.5)}), {"T:table"}), "1.5,1.5,1.5/1.5,1.5,1.5 ok"},
+      {Reads(Call({cow_2DArray<double>(2, 3, 1.5)}), {"T:table"}),
+       "((1.5, 1.5, 1.5), (1.5, 1.5, 1.5)) ok"},
       {Reads(Call({ragged}), {"T:rows"}),
        "raises TypeError: not all required arguments specified; expected 3, got 1"},
       // Ragged rows padded, each led by its length.
-      {Reads(Call({ragged}), {"R:rows"}), "3,1,2,3/1,4,0,0 ok"},
+      {Reads(Call({ragged}), {"R:rows"}), "((3.0, 1.0, 2.0, 3.0), (1.0, 4.0, 0.0, 0.0)) ok"},
   };
   for (const auto& c : cases) EXPECT_EQ(c.got, c.expected);
 }
