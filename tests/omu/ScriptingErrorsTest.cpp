@@ -3,8 +3,7 @@
 // or one text held against files an earlier build wrote: the same errors still write the same
 // bytes, those files read back to the same errors, and the registry describes their fields as
 // it did.
-#include "LibraryEnvironment.h"
-#include "TestArchive.h"
+#include "OmuTestSupport.h"
 
 #include <cls_MetadataRegistrar.h>
 #include <g3d_ColorErrorException.h>
@@ -108,12 +107,6 @@ cls_Archive RowsArchive() {
   cls_Archive archive;
   for (const Case& row : kFieldCases) archive.Add(*Made(row));
   return archive;
-}
-
-std::string SoloBytes(const nex_CommandException& error) {
-  cls_Archive archive;
-  archive.Add(error);
-  return archive.ToBytes();
 }
 
 // The registry's view of each class: identity, parent, word and every attribute descriptor.

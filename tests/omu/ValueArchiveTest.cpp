@@ -19,12 +19,6 @@
 #include <vector>
 
 namespace {
-std::string SoloBytes(const omu_Primitive& value) {
-  cls_Archive archive;
-  archive.Add(value);
-  return archive.ToBytes();
-}
-
 std::vector<std::unique_ptr<const omu_Primitive>> Values() {
   std::vector<std::unique_ptr<const omu_Primitive>> values;
   auto add = [&](const omu_Primitive& value) { values.emplace_back(value.Copy()); };
