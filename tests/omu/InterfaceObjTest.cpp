@@ -18,15 +18,6 @@ std::string Member(const omu_InterfaceObj& object, const char* name) {
   const std::unique_ptr<omu_Primitive> owned(object.GetMember(name, deprecated));
   return owned ? Text(*owned) + (deprecated ? " (deprecated)" : "") : "null";
 }
-
-class ScopedEnv {
-public:
-  ScopedEnv(const char* name, const char* value) : m_Name(name) { setenv(name, value, 1); }
-  ~ScopedEnv() { unsetenv(m_Name); }
-
-private:
-  const char* m_Name;
-};
 }  // namespace
 
 TEST(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived) {
@@ -78,10 +69,11 @@ TEST(InterfaceObj, StaleHandlesReportWhenAsked) {
     EXPECT_TRUE(part.IsStale());
     EXPECT_EQ(errors.Text(), "");  // silent without the variable
   }
-  ScopedEnv info("CVX_STALEHANDLE_INFO", "2");
+  setenv("CVX_STALEHANDLE_INFO", "2", 1);
   CapturedErrors errors;
   part.SetStale(false);  // reports the handle as it was, then as it is
   part.IsStale();
+  unsetenv("CVX_STALEHANDLE_INFO");
   const std::string text = errors.Text();
   EXPECT_NE(text.find("omu_InterfaceObj::SetStale(value=0)  this:0x"), std::string::npos) << text;
   EXPECT_NE(text.find("  <stale handle>\n"), std::string::npos) << text;
