@@ -100,21 +100,17 @@ TEST(Binding, ATypeBoundOnlyHereGoesThroughEveryContainer) {
 }
 
 TEST(Binding, ThePutOverloadsStayExact) {
-  struct Case {
-    const char* call;
-    std::function<void(omu_PrimTuple&)> put;
-    omu_PrimNumber::DataTypeEnm stored;
-  } cases[] = {
-      {"Put(1.5f)", [](omu_PrimTuple& t) { t.Put(1.5f); }, omu_PrimNumber::DOUBLE},
-      {"Put('a')", [](omu_PrimTuple& t) { t.Put('a'); }, omu_PrimNumber::INT},
-      {"Put(short)", [](omu_PrimTuple& t) { t.Put(static_cast<short>(1)); }, omu_PrimNumber::SHORT},
-      {"Put(2u)", [](omu_PrimTuple& t) { t.Put(2u); }, omu_PrimNumber::UINT},
-      {"PutValue(1.5f)", [](omu_PrimTuple& t) { t.PutValue(1.5f); }, omu_PrimNumber::FLOAT},
-  };
-  for (const Case& c : cases) {
-    omu_PrimTuple tuple(1);
-    c.put(tuple);
-    EXPECT_EQ(static_cast<const omu_PrimNumber*>(tuple.Index(0))->DataType(), c.stored) << c.call;
+  omu_PrimTuple tuple(5);
+  tuple.Put(1.5f);
+  tuple.Put('a');
+  tuple.Put(static_cast<short>(1));
+  tuple.Put(2u);
+  tuple.PutValue(1.5f);
+  const omu_PrimNumber::DataTypeEnm stored[] = {omu_PrimNumber::DOUBLE, omu_PrimNumber::INT,
+                                                omu_PrimNumber::SHORT, omu_PrimNumber::UINT,
+                                                omu_PrimNumber::FLOAT};
+  for (int i = 0; i < 5; ++i) {
+    EXPECT_EQ(static_cast<const omu_PrimNumber*>(tuple.Index(i))->DataType(), stored[i]) << i;
   }
 }
 
