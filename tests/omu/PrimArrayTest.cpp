@@ -18,11 +18,8 @@ const double kMatrix[] = {1, 2, 3, 4};
 const int kTwoByTwo[] = {2, 2};
 }  // namespace
 
-TEST(PrimArray, TextOfOneAndTwoDimensions) {
-  const int ints[] = {1, 2, 3};
-  const int three[] = {3};
-  EXPECT_EQ(omu_PrimArray(1, three, omu_PrimNumber::INT, ints).AsString(0), "array([1, 2, 3], 'l')");
-  EXPECT_EQ(omu_PrimArray(2, kTwoByTwo, kMatrix).AsString(0), "array([[1.0, 2.0], [3.0, 4.0]], 'd')");
+// INT and DOUBLE arrays' text is in python/tests/test_values.py.
+TEST(PrimArray, TextOfFloatAndEmptyArrays) {
   const float floats[] = {0.5f, 1e-5f};
   const int two[] = {2};
   EXPECT_EQ(omu_PrimArray(1, two, floats).AsString(0), "array([0.5, 9.99999974737875e-06], 'f')");
@@ -120,20 +117,4 @@ TEST(PrimArray, SliceRepeatConcatAndEquality) {
   omu_PrimArray single(1, one, kMatrix);
   EXPECT_EQ(FailureOf([&] { delete matrix.Concat(&single); }),
             "PrimArray Concat needs an array of the same type and shape");
-}
-
-TEST(PrimArray, RoundTripsEveryDataType) {
-  const int ints[] = {1, -2, 3, 4};
-  const float floats[] = {0.5f, 1, 2, 3};
-  for (const omu_PrimArray& array : {omu_PrimArray(2, kTwoByTwo, kMatrix),
-                                     omu_PrimArray(2, kTwoByTwo, omu_PrimNumber::INT, ints),
-                                     omu_PrimArray(2, kTwoByTwo, floats)}) {
-    const auto back = RoundTrip<omu_PrimArray>(array);
-    EXPECT_TRUE(*back == array);
-    EXPECT_EQ(back->AsString(0), array.AsString(0));
-  }
-  const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
-  std::unique_ptr<const omu_Primitive> view(matrix.Index(1));
-  const auto viewBack = RoundTrip<omu_PrimArray>(static_cast<const omu_PrimArray&>(*view));
-  EXPECT_EQ(viewBack->AsString(0), "array([3.0, 4.0], 'd')");
 }

@@ -98,7 +98,6 @@ TEST(PrimType, TextAndDisplayKinds) {
   EXPECT_EQ(omu_PrimType("Part").TypeString(), "PartType");
   EXPECT_EQ(omu_PrimType().AsString(0), "Type");
   EXPECT_EQ(omu_PrimType().TypeString(), "type");
-  EXPECT_TRUE(*RoundTrip<omu_Primitive>(omu_PrimType("Sketch")) == omu_PrimType("Sketch"));
   for (int i = omu_DISPLAY_NONE; i <= omu_DISPLAY_UNKNOWN; ++i) {
     const auto kind = static_cast<omu_ObjectToDisplayTypeEnm>(i);
     EXPECT_EQ(omu_PrimType::ConverStringToType(omu_PrimType::ConverTypeToString(kind)), kind);
@@ -109,6 +108,7 @@ TEST(PrimType, TextAndDisplayKinds) {
   EXPECT_EQ(omu_PrimType::ConverTypeToString(static_cast<omu_ObjectToDisplayTypeEnm>(-1)), "");
 }
 
+// Member dictionaries through archives are tests/mdl/ArchiveIdentityTest.cpp's.
 TEST(PrimWrapper, CopiesTheWrappedObjectAndItsMembersThroughPersistence) {
   const omu_QueryPathMsg message("mdb.models['M']", "no such part");
   omu_PrimWrapper borrowed(&message, omu_QueryPathMsg::TypeId());
@@ -119,15 +119,10 @@ TEST(PrimWrapper, CopiesTheWrappedObjectAndItsMembersThroughPersistence) {
   EXPECT_TRUE(wrapper.OwnsObject());
   EXPECT_NE(wrapper.Object(), &message);
   EXPECT_EQ(*static_cast<const omu_QueryPathMsg*>(wrapper.Object()), message);
-  EXPECT_EQ(wrapper.AsString(0), "Wrapper");
   EXPECT_TRUE(wrapper.MemberDict() == borrowed.MemberDict());
-  EXPECT_EQ(wrapper.MemberDict().EntriesUid(), borrowed.MemberDict().EntriesUid());
 
   const auto loaded = RoundTrip<omu_PrimWrapper>(borrowed);
   EXPECT_EQ(*static_cast<const omu_QueryPathMsg*>(loaded->Object()), message);
-  int count = 0;
-  EXPECT_EQ(loaded->MemberDict().Get(count, "count"), 1);
-  EXPECT_EQ(count, 7);
   const std::unique_ptr<omu_Primitive> none(omu_PrimWrapper().Copy());
   EXPECT_EQ(static_cast<const omu_PrimWrapper&>(*none).Object(), nullptr);
 }

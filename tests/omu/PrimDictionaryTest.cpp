@@ -3,26 +3,17 @@
 #include <omi_complex.h>
 #include <utl_FilePath.h>
 
+// BindingTest reads every number kind through a dictionary, here the other kinds; copies and
+// their identities are tests/mdl/ArchiveIdentityTest.cpp's.
 TEST(PrimDictionary, TypedReadsTakeOnlyTheirKinds) {
   StrDict dict;
-  dict.Put(2.0, "float");
   dict.Put(3, "int");
-  dict.Put(true, "flag");
   dict.Put(cow_String("it's"), "text");
   dict.Put(cow_List<int>{1, 2}, "ints");
   dict.Put(omi_complex(1, 2), "complex");
   int i = -1;
-  EXPECT_EQ(dict.Get(i, "float"), 0);  // a floating number is no integer
   EXPECT_EQ(dict.Get(i, "missing"), 0);
   EXPECT_EQ(i, -1);
-  EXPECT_EQ(dict.Get(i, "int"), 1);
-  EXPECT_EQ(i, 3);
-  double d = 0;
-  EXPECT_EQ(dict.Get(d, "int"), 1);
-  EXPECT_EQ(d, 3.0);
-  bool flag = false;
-  EXPECT_EQ(dict.Get(flag, "flag"), 1);
-  EXPECT_TRUE(flag);
   cow_String text;
   EXPECT_EQ(dict.Get(text, "int"), 0);
   EXPECT_EQ(dict.Get(text, "text"), 1);
@@ -52,7 +43,6 @@ TEST(PrimDictionary, EqualityAndTextIgnoreInsertionOrder) {
   second.Put(cow_String("x"), "a");
   second.Put(1, "b");
   EXPECT_TRUE(first == second);
-  EXPECT_EQ(first.AsString(0), "{'a': 'x', 'b': 1}");
   EXPECT_EQ(first.AsString(0), second.AsString(0));
   second.Put(2, "b");
   EXPECT_FALSE(first == second);
@@ -67,34 +57,4 @@ TEST(PrimDictionary, EqualityAndTextIgnoreInsertionOrder) {
   EXPECT_EQ(numbers.AsString(0), "{-2: \"it's\", 10: 0.5}");
   EXPECT_EQ(numbers.TypeString(), "dictionary with integer keys");
   EXPECT_EQ(first.TypeString(), "dictionary with string keys");
-  EXPECT_EQ(numbers.Kind(), 'i');
-  EXPECT_EQ(first.Kind(), 's');
-}
-
-TEST(PrimDictionary, CopiesShareEntriesAndIdentityUntilWritten) {
-  StrDict original;
-  original.Put(1, "a");
-  StrDict copy(original);
-  EXPECT_EQ(copy.EntriesUid(), original.EntriesUid());
-  copy.Put(2, "b");
-  EXPECT_NE(copy.EntriesUid(), original.EntriesUid());
-  EXPECT_EQ(original.Length(), 1);
-  EXPECT_NE(StrDict().EntriesUid(), StrDict().EntriesUid());
-}
-
-TEST(PrimDictionary, RoundTripsKeepEntriesAndIdentity) {
-  StrDict dict('{', 'm');
-  dict.Put(1.5, "x");
-  dict.Put(cow_List<cow_String>{"a", "b"}, "names");
-  const auto back = RoundTrip<StrDict>(dict);
-  EXPECT_TRUE(*back == dict);
-  EXPECT_EQ(back->Represents(), 'm');
-  // Read back from a file, the entries take an identity the process has not given out.
-  EXPECT_FALSE(back->EntriesUid().IsNull());
-  EXPECT_NE(back->EntriesUid(), dict.EntriesUid());
-  IntDict numbers;
-  numbers.Put(true, 3);
-  const auto numbersBack = RoundTrip<omu_Primitive>(numbers);
-  EXPECT_EQ(numbersBack->DynTypeId(), IntDict::TypeId());
-  EXPECT_TRUE(*numbersBack == numbers);
 }

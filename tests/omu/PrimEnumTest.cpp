@@ -8,15 +8,13 @@ using Formulation = omu_PrimEnum<mdl_Model::FormulationEnm, 1>;
 using RestartInc = omu_PrimEnum<mdl_Model::RestartIncEnm, 1>;
 using BoolSelect = omu_PrimEnum<omu_BoolSelectEnum, 1>;
 
+// The refusal of a name is in python/tests/test_errors.py.
 TEST(PrimEnum, RefusalsCarryTheirExactMessages) {
   auto messageOf = [](const std::function<void()>& build) {
     return Raised<omu_ValueErrorException>(build, "include/omu_PrimEnum");
   };
   EXPECT_EQ(messageOf([] { RestartInc(static_cast<mdl_Model::RestartIncEnm>(3)); }),
             "omu_PrimEnum(Enum) - Enum value not allowed: 3  Permissible: {STEP_END: 4294967294}");
-  EXPECT_EQ(messageOf([] { Formulation(cow_String("total")); }),
-            "omu_PrimEnum(const cow_String&) - str not allowed: total  Permissible: "
-            "{NOT_SET: 0, SCATTERED: 1, TOTAL: 2}");
   EXPECT_EQ(messageOf([] { Formulation(omu_PrimEnumBase("ON_OFF")); }),
             "omu_PrimEnum(const omu_PrimEnumBase&) - str not allowed: ON_OFF");
 }
@@ -64,8 +62,6 @@ TEST(PrimBool, ThreeSpellingsWithTheirOwnClasses) {
   EXPECT_EQ(on.AsString(0), "ON");
   EXPECT_EQ(no.AsString(0), "FALSE");
   EXPECT_EQ(yes.AsString(0), "YES");
-  EXPECT_EQ(on.DynTypeId(), omu_OnOffConst::TypeId());
-  EXPECT_TRUE(on.IsA(omu_PrimEnumBase::TypeId()));
   EXPECT_THROW(omu_YesNoConst(cow_String("ON")), omu_ValueErrorException);
   std::unique_ptr<omu_Primitive> copy(yes.Copy());
   EXPECT_EQ(copy->DynTypeId(), omu_YesNoConst::TypeId());
@@ -82,14 +78,4 @@ TEST(PrimBool, VisitorsSeeOnOffAsItsOwnKindAndTheOthersAsEnumerations) {
   EXPECT_EQ(seen.kind, "onoff");
   omu_TrueFalseConst(true).Accept(&seen);
   EXPECT_EQ(seen.kind, "enum");
-}
-
-TEST(PrimBool, ConstantsRoundTripAsTheirOwnClass) {
-  const omu_TrueFalseConst value(true);
-  auto back = RoundTrip<omu_Primitive>(value);
-  ASSERT_EQ(back->DynTypeId(), omu_TrueFalseConst::TypeId());
-  EXPECT_TRUE(static_cast<bool>(static_cast<const omu_TrueFalseConst&>(*back)));
-  EXPECT_TRUE(*back == value);
-  auto formulation = RoundTrip<omu_PrimEnumBase>(Formulation(mdl_Model::SCATTERED));
-  EXPECT_STREQ(formulation->GetString(), "SCATTERED");
 }

@@ -1,9 +1,9 @@
-// Every scripting error's message, script type, copy and archive round trip; and the errors
-// with fields of their own or one text held against files an earlier build wrote: the same
-// errors still write the same bytes, those files read back to the same errors, and the
-// registry still describes their fields as it did.
-#include "LibraryEnvironment.h"
-#include "TestArchive.h"
+// Every scripting error class's message, script type, copy and archive round trip (the other
+// message formats are in python/tests/test_errors.py); and the errors with fields of their own
+// or one text held against files an earlier build wrote: the same errors still write the same
+// bytes, those files read back to the same errors, and the registry describes their fields as
+// it did.
+#include "OmuTestSupport.h"
 
 #include <cls_MetadataRegistrar.h>
 #include <g3d_ColorErrorException.h>
@@ -56,52 +56,16 @@ std::function<nex_CommandException*()> Make(Args... args) {
 
 using Range = omu_RangeErrorException;
 
+// The message formats python/tests/test_errors.py does not reach, and GenericTypeError, which
+// kFieldCases lacks, for its copy and round trip.
 const Case kCases[] = {
-    {Make<omu_AccessErrorException>("Part-1"), "AccessError", "Part-1 no longer exists"},
-    {Make<omu_AttributeErrorException>(0, "x"), "AttributeError", "read-only attributes"},
-    {Make<omu_AttributeErrorException>(2, "no such member"), "AttributeError", "no such member"},
-    {Make<omu_AttributeErrorException>(5, "x"), "AttributeError", "Error message not implemented yet"},
     {Make<omu_AttributeErrorException>(-1, "x"), "AttributeError", "Error message not implemented yet"},
-    {Make<omu_CorNameErrorException>(0), "CorvexNameError", "invalid name"},
-    {Make<omu_CorNameErrorException>(1), "CorvexNameError", "name is empty"},
-    {Make<omu_CorNameErrorException>(2), "CorvexNameError", "invalid job name"},
-    {Make<omu_CorNameErrorException>(4), "CorvexNameError", ""},
-    {Make<omu_FontErrorException>("Courier"), "FontError", "Courier is not a valid font."},
-    {Make<omu_GuiAccessErrorException>("busy"), "GuiAccessError", "busy"},
-    {Make<omu_IndexErrorException>(-3), "IndexError", "-3"},
-    {Make<omu_IndexErrorException>(7), "IndexError", "7"},
-    {Make<omu_KeyErrorException>("'Part-9' not found"), "KeyError", "'Part-9' not found"},
     {Make<omu_KeyErrorException>("100%s sure"), "KeyError", "100%s sure"},  // not a format
-    {Make<omu_NameErrorException>("x undefined"), "NameError", "x undefined"},
-    {Make<omu_OverflowErrorException>("too big"), "OverflowError", "too big"},
-    {Make<omu_ValueErrorException>(""), "ValueError", ""},
-    {Make<omu_ZeroDivisionErrorException>("by zero"), "ZeroDivisionError", "by zero"},
     {Make<omu_GenericTypeErrorException>(), "TypeError", "illegal argument type for built-in operation"},
-    {Make<omu_ArgNumberErrorException>(2, 3, ""), "TypeError", "too many arguments; expected 2, got 3"},
-    {Make<omu_ArgNumberErrorException>(2, 2, ""), "TypeError",
-     "not all required arguments specified; expected 2, got 2"},
-    {Make<omu_ArgNumberErrorException>(3, 1, "points"), "TypeError",
-     "points; not all required arguments specified; expected 3, got 1"},
     {Make<omu_ArgNumberErrorException>(-1, 0, ""), "TypeError", "too many arguments; expected -1, got 0"},
-    {Make<omu_ArgTypeErrorException>(1, "int", "string", ""), "TypeError",
-     "arg1; found string, expecting int"},
-    {Make<omu_ArgTypeErrorException>(1, "int", "string", "points"), "TypeError",
-     "points[0]; found string, expecting int"},
-    {Make<omu_ArgTypeErrorException>(3, "float", "None", "points"), "TypeError",
-     "points[2]; found None, expecting float"},
-    {Make<omu_KeywordErrorException>("name", ""), "TypeError", "keyword error on name"},
-    {Make<omu_KeywordErrorException>("b", "setValues"), "TypeError", "setValueskeyword error on b"},
-    {Make<omu_KeywordTypeErrorException>("size", "float", "string", ""), "TypeError",
-     "size; found string, expecting float"},
     {Make<omu_KeywordTypeErrorException>("it's", "int", "None", "opts"), "TypeError",
      "opts[\"it's\"]; found None, expecting int"},
-    {Make<Range>("n", 1, "1", 2, "10", 1), "RangeError", "n must be an Integer in the range: 1 < n <= 10"},
-    {Make<Range>("n", 1, "1", 1, "", 0), "RangeError", "n must be an Integer >= 1"},
-    {Make<Range>("n", 1, "0", 2, "", 0), "RangeError", "n must be an Integer > 0"},
-    {Make<Range>("t", 0, "", 0, "1.0", 1), "RangeError", "t must be <= 1.0"},
-    {Make<Range>("t", 0, "", 0, "1.0", 2), "RangeError", "t must be < 1.0"},
     {Make<Range>("t", 7, "", 0, "", 0), "RangeError", "t must be "},
-    {Make<Range>("t", 2, "0", 3, "1", 1), "RangeError", "t must be a Float "},
     {Make<Range>("t", 1, "0", 1, "1", -1), "RangeError", "t must be an Integer "},
 };
 
@@ -145,12 +109,6 @@ cls_Archive RowsArchive() {
   return archive;
 }
 
-std::string SoloBytes(const nex_CommandException& error) {
-  cls_Archive archive;
-  archive.Add(error);
-  return archive.ToBytes();
-}
-
 // The registry's view of each class: identity, parent, word and every attribute descriptor.
 std::string MetadataText() {
   const cls_ClassRegistrar& registry = cls_MetadataRegistrar::Instance().Registrar();
@@ -175,19 +133,14 @@ std::string Fixture(const char* name) {
 }
 }  // namespace
 
-TEST_P(ScriptingErrors, MessageAndScriptName) {
+TEST_P(ScriptingErrors, MessageScriptNameCopyAndArchiveRoundTrip) {
   const std::unique_ptr<nex_CommandException> error(GetParam().make());
   EXPECT_EQ(error->JournalMessage(), GetParam().message);
   EXPECT_EQ(error->AsString(), GetParam().message);
   EXPECT_EQ(error->PythonType(), GetParam().pythonType);
-}
-
-TEST_P(ScriptingErrors, CopyAndPropagateKeepTheMostDerivedClass) {
-  const std::unique_ptr<nex_CommandException> error(GetParam().make());
+  // Copy and Propagate keep the most derived class.
   const std::unique_ptr<nex_Exception> copy(error->Copy());
   EXPECT_EQ(ClassOf(*copy), ClassOf(*error));
-  EXPECT_EQ(copy->DynTypeId(), error->DynTypeId());
-  EXPECT_EQ(copy->AsString(), error->AsString());
   try {
     static_cast<const nex_Exception&>(*copy).Propagate();
     ADD_FAILURE() << "Propagate did not raise";
@@ -195,16 +148,11 @@ TEST_P(ScriptingErrors, CopyAndPropagateKeepTheMostDerivedClass) {
     EXPECT_EQ(typeid(caught), ClassOf(*error));
     EXPECT_EQ(caught.AsString(), GetParam().message);
   }
-}
-
-TEST_P(ScriptingErrors, RoundTripThroughAnArchiveFile) {
-  const std::unique_ptr<nex_CommandException> error(GetParam().make());
   cls_Archive archive;
   error->DBWrite(archive.NewRoot());
   const auto loaded = SaveAndLoad(archive, "error").Read<nex_CommandException>(0);
   ASSERT_NE(loaded, nullptr);
   EXPECT_EQ(ClassOf(*loaded), ClassOf(*error));
-  EXPECT_EQ(loaded->JournalMessage(), GetParam().message);
   EXPECT_EQ(loaded->PythonType(), GetParam().pythonType);
   EXPECT_EQ(SoloBytes(*loaded), SoloBytes(*error));  // every field, every level
 }
@@ -214,17 +162,6 @@ std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
 }
 INSTANTIATE_TEST_SUITE_P(AllKinds, ScriptingErrors, ::testing::ValuesIn(kCases), CaseName);
 INSTANTIATE_TEST_SUITE_P(WithFields, ScriptingErrors, ::testing::ValuesIn(kFieldCases), CaseName);
-
-TEST(ScriptingErrorsRaise, ThrowRecordsThePathAndLine) {
-  try {
-    NEX_THROW(omu_KeyErrorException("k"), "omu/impl/omu_Test");
-  } catch (const omu_KeyErrorException& e) {
-    EXPECT_STREQ(e.SourcePath(), "omu/impl/omu_Test");
-    EXPECT_GT(e.SourceLine(), 0);
-    EXPECT_EQ(e.UserReport(), "k");
-    EXPECT_NE(std::string(e.what()).find("omu/impl/omu_Test:"), std::string::npos);
-  }
-}
 
 TEST(ErrorFieldsArchive, TheSameErrorsWriteTheBytesOfTheFixture) {
   EXPECT_EQ(RowsArchive().ToBytes(), Fixture(kArchive));
@@ -240,7 +177,6 @@ TEST(ErrorFieldsArchive, TheFixtureReadsBackToTheSameErrors) {
     const char* name = ClassOf(*made).name();
     ASSERT_EQ(ClassOf(*back), ClassOf(*made)) << name;
     EXPECT_EQ(back->JournalMessage(), kFieldCases[i].message) << name;
-    EXPECT_EQ(back->PythonType(), made->PythonType()) << name;
     EXPECT_EQ(back->what(), back->DeveloperReport().StdString()) << name << ": what() not fixed";
     EXPECT_EQ(SoloBytes(*back), SoloBytes(*made)) << name << ": a field differs";
   }

@@ -10,7 +10,6 @@
 // The repository's record of a part; handles share it.
 struct TestPartData {
   cow_String name = "Part-1";
-  int regenerations = 0;
 };
 
 class TestFeature : public omu_InterfaceObj {
@@ -27,10 +26,7 @@ public:
     DescribeType("Feature", methods, members);
   }
   omu_Primitive* Copy() const override { return new TestFeature(*this); }
-  omu_Primitive* Regenerate(omu_Arguments&) {
-    ++m_Data->regenerations;
-    return nullptr;
-  }
+  omu_Primitive* Regenerate(omu_Arguments&) { return nullptr; }
   omu_Primitive* Label() const { return new omu_PrimType("feature"); }
   omu_Primitive* Kind() const { return new omu_PrimType("Feature"); }
   TestPartData& Data() const { return *m_Data; }
