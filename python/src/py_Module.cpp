@@ -4,6 +4,7 @@
 #include "py_DemoCommands.h"
 #include "py_ErrorSamples.h"
 #include "py_ErrorTranslator.h"
+#include "py_Geometry.h"
 #include "py_InterfaceObject.h"
 #include "py_Library.h"
 #include "py_ValueConverter.h"
@@ -37,6 +38,7 @@ PYBIND11_MODULE(cvxutils, module) {
   py_InterfaceObject::Register(module);
   py_DemoCommands::Register(module);
   py_ErrorSamples::Register(module);
+  py_Geometry::Register(module);
   module.def("echo", &Echo, py::arg("value"),
              "Carries value into the library's primitive and back.");
   module.def("text", &Text, py::arg("value"),

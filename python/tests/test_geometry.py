@@ -1,0 +1,251 @@
+"""Vector, Point, XForm and XFormStack: the library's float arithmetic, seen from Python."""
+import math
+import re
+
+import numpy as np
+import pytest
+
+import cvxutils
+from cvxutils import Point, Vector, XForm, XFormStack
+
+f32 = np.float32
+
+
+def components(value):
+    return [float(c) for c in value]
+
+
+# The library computes in IEEE single precision, as NumPy's float32 does: each row's expected
+# value takes the same steps, in the same order, through float32.
+A, B, K = (f32(0.1), f32(-2.5), f32(3e7)), (f32(1 / 3), f32(4), f32(-0.7)), f32(1.1)
+VECTOR_RESULTS = [
+    ("v + w", lambda v, w: v + w, [a + b for a, b in zip(A, B)]),
+    ("v - w", lambda v, w: v - w, [a - b for a, b in zip(A, B)]),
+    ("-v", lambda v, w: -v, [-a for a in A]),
+    ("v * k", lambda v, w: v * 1.1, [a * K for a in A]),
+    ("k * v", lambda v, w: 1.1 * v, [a * K for a in A]),
+    ("numpy k * v", lambda v, w: np.float64(1.1) * v, [a * K for a in A]),
+    ("v / k is times 1/k", lambda v, w: v / 1.1, [a * (f32(1) / K) for a in A]),
+    ("v / 0", lambda v, w: v / 0, [math.copysign(math.inf, a) for a in A]),
+    ("cross", lambda v, w: v.cross(w), [A[1] * B[2] - A[2] * B[1], A[2] * B[0] - A[0] * B[2],
+                                        A[0] * B[1] - A[1] * B[0]]),
+    ("dot", lambda v, w: [v.dot(w)], [(A[0] * B[0] + A[1] * B[1]) + A[2] * B[2]]),
+    ("length in double", lambda v, w: [v.length()],
+     [f32(math.sqrt(sum(float(a) ** 2 for a in A)))]),
+    ("normalize by one reciprocal", lambda v, w: Vector(3, 4, 0).normalize(),
+     [f32(3) * (f32(1) / f32(5)), f32(4) * (f32(1) / f32(5)), 0]),
+    ("zero stays zero", lambda v, w: Vector(0, 0, 0).normalize(), [0, 0, 0]),
+    ("below FLT_MIN becomes zero", lambda v, w: Vector(1e-39, 0, 0).normalize(), [0, 0, 0]),
+    ("unit left as it is", lambda v, w: Vector(0.6, 0.8, 0).normalize(), [f32(0.6), f32(0.8), 0]),
+    ("x cross y", lambda v, w: Vector(1, 0, 0).cross(Vector(0, 1, 0)), [0, 0, 1]),
+    ("y cross z", lambda v, w: Vector(0, 1, 0).cross(Vector(0, 0, 1)), [1, 0, 0]),
+    ("z cross x", lambda v, w: Vector(0, 0, 1).cross(Vector(1, 0, 0)), [0, 1, 0]),
+    ("angle snaps to 0", lambda v, w: [Vector(1, 0, 0).angle_with(Vector(1, 1e-3, 0))], [0]),
+    ("angle with zero", lambda v, w: [Vector(1, 0, 0).angle_with(Vector())], [f32(math.pi / 2)]),
+    ("signed turn", lambda v, w: [Vector(1, 0, 0).angle_with(Vector(0, -1, 0), False, Vector(0, 0, 1))],
+     [f32(2 * math.pi - float(f32(math.pi / 2)))]),
+    ("point - point", lambda v, w: Point(2, 4, 6, 2) - Point(1, 1, 1, 1), [0, 1, 2]),
+    ("w = 0 taken as it is", lambda v, w: Point(2, 4, 6, 0) - Point(1, 1, 1, 0), [1, 3, 5]),
+    ("point + vector keeps w", lambda v, w: Point(1, 2, 3, 2) + Vector(1, 1, 1), [2, 3, 4, 2]),
+    ("point - vector", lambda v, w: Point(1, 2, 3) - Vector(1, 1, 1), [0, 1, 2, 1]),
+]
+
+
+@pytest.mark.parametrize("case, compute, expected", VECTOR_RESULTS, ids=[r[0] for r in VECTOR_RESULTS])
+def test_result_is_the_float_arithmetic_of_the_library(case, compute, expected):
+    assert components(compute(Vector(A), Vector(B))) == [float(e) for e in expected]
+
+
+def test_operators_keep_the_class_and_normalize_returns_itself():
+    v = Vector(3, 4, 0)
+    assert v.normalize() is v
+    assert type(v + v) is Vector and type(Point() + v) is Point and type(Point() - Point()) is Vector
+    with pytest.raises(TypeError):
+        v + Point()
+
+
+@pytest.mark.parametrize("value, text", [
+    (Vector(1, 2, 3), "Vector(1.0, 2.0, 3.0)"),
+    (Vector(0.1, -0.0, 1e20), "Vector(0.1, -0.0, 1e+20)"),
+    (Vector(math.inf, -math.inf, 1 / 3), "Vector(inf, -inf, 0.33333334)"),
+    (Point(1, 2, 3), "Point(1.0, 2.0, 3.0, 1.0)"),
+    (XForm.translation(Vector(1, 2, 3)),
+     "XForm([[1.0, 0.0, 0.0, 1.0], [0.0, 1.0, 0.0, 2.0], [0.0, 0.0, 1.0, 3.0], [0.0, 0.0, 0.0, 1.0]])"),
+])
+def test_repr_reads_back_as_an_equal_value(value, text):
+    assert repr(value) == text
+    assert eval(text, {**vars(cvxutils), "inf": math.inf}) == value
+
+
+@pytest.mark.parametrize("make, error, message", [
+    (lambda: Vector((1, 2)), ValueError, "a Vector is 3 numbers, not 2"),
+    (lambda: Vector("abc"), TypeError, "a Vector is 3 numbers, not str"),
+    (lambda: Vector(7), TypeError, "a Vector is 3 numbers, not int"),
+    (lambda: Vector((1, "a", 3)), TypeError, "must be real number, not str"),
+    (lambda: Point([1, 2, 3, 4, 5]), ValueError, "a Point is 3 or 4 numbers, not 5"),
+    (lambda: XForm(np.eye(3)), ValueError, "an XForm is 4 rows of 4 numbers, not 3"),
+    (lambda: XForm([[1, 0, 0, 0]] * 3 + [[1, 2]]), ValueError, "an XForm row is 4 numbers, not 2"),
+    (lambda: XForm()[4, 0], IndexError, "an XForm index is (row, column), each 0 to 3"),
+    (lambda: Vector()[3], IndexError, "index out of range"),
+])
+def test_wrong_input_raises_with_its_message(make, error, message):
+    with pytest.raises(error, match=f"^{re.escape(message)}$"):
+        make()
+
+
+@pytest.mark.parametrize("value, items", [
+    (Vector([1, 2, 3]), [1, 2, 3]), (Vector(np.arange(3.0)), [0, 1, 2]),
+    (Point((1, 2, 3)), [1, 2, 3, 1]), (Point(1, 2, 3, 0.5), [1, 2, 3, 0.5]), (Point(), [0, 0, 0, 1]),
+])
+def test_construction_indexing_and_iteration_agree(value, items):
+    assert list(value) == items and [value[i] for i in range(-len(items), 0)] == items
+
+
+def test_equality_is_exact():
+    assert Vector(1, 2, 3) == Vector(1.0, 2.0, 3.0) and Vector(1, 2, 3) != Vector(1, 2, 3.0000005)
+    assert Point(1, 2, 3) != Point(1, 2, 3, 0) and Vector(1, 2, 3) != (1, 2, 3)
+
+
+Z = Vector(0, 0, 1)
+IDENTITY = np.eye(4, dtype=f32)
+# One row per native edge case: the transform and the matrix it must hold.
+XFORMS = [
+    ("identity", XForm(), IDENTITY),
+    ("zero angle", XForm.rotation(0, Z), IDENTITY),
+    ("zero axis", XForm.rotation(30, Vector()), IDENTITY),
+    ("rotate by zero axis unchanged", XForm.scaling(2, 3, 4).rotate(30, Vector()), np.diag(f32([2, 3, 4, 1]))),
+    ("translation of a point divides by w", XForm.translation(Point(2, 4, 6, 2)),
+     [[1, 0, 0, 1], [0, 1, 0, 2], [0, 0, 1, 3], [0, 0, 0, 1]]),
+    ("translation of a w = 0 point", XForm.translation(Point(2, 4, 6, 0)),
+     [[1, 0, 0, 2], [0, 1, 0, 4], [0, 0, 1, 6], [0, 0, 0, 1]]),
+    ("translate in the scaled frame", XForm.scaling(2, 2, 2).translate(1, 0, 0),
+     [[2, 0, 0, 2], [0, 2, 0, 0], [0, 0, 2, 0], [0, 0, 0, 1]]),
+    ("singular invert unchanged", XForm.scaling(1, 0, 1).invert(), np.diag(f32([1, 0, 1, 1]))),
+    ("perspective with near 0", XForm.perspective(-1, 1, 1, -1, 0, 10), IDENTITY),
+    ("orthographic with near 0", XForm.orthographic(-1, 1, 1, -1, 0, 10),
+     [[1, 0, 0, 0], [0, 1, 0, 0], [0, 0, f32(-2 / 10), f32(-1)], [0, 0, 0, 1]]),
+    ("columns", XForm.columns(Vector(1, 2, 3), Vector(4, 5, 6), Vector(7, 8, 9)),
+     [[1, 4, 7, 0], [2, 5, 8, 0], [3, 6, 9, 0], [0, 0, 0, 1]]),
+    ("rotation_z is a z quaternion", XForm.rotation_z(0.6, 0.8), XForm.quaternion(0, 0, 0.6, 0.8).matrix),
+    ("from float64 rows, narrowed", XForm(np.full((4, 4), 0.1)), np.full((4, 4), f32(0.1))),
+    ("transposed", XForm(np.arange(16.0).reshape(4, 4)).transpose(), np.arange(16, dtype=f32).reshape(4, 4).T),
+]
+
+
+@pytest.mark.parametrize("case, form, matrix", XFORMS, ids=[r[0] for r in XFORMS])
+def test_transform_holds_the_native_matrix(case, form, matrix):
+    assert form.matrix.dtype == f32 and np.array_equal(form.matrix, np.asarray(matrix, dtype=f32))
+
+
+RNG = np.random.default_rng(7)
+FORM = XForm.rotation(33, Vector(1, 2, 3)).scale(1.5, 0.5, 2).translate(10, -20, 5)
+
+
+def test_rotation_maps_x_onto_y():
+    assert components(XForm.rotation(90, Z).apply(Point(1, 0, 0))) == pytest.approx([0, 1, 0, 1], abs=1e-7)
+
+
+def test_compose_and_invert_agree_with_float64_matrices():
+    other = XForm(RNG.random((4, 4)))
+    assert np.allclose((FORM @ other).matrix, FORM.matrix.astype(float) @ other.matrix, rtol=1e-6)
+    assert np.allclose((FORM @ XForm(FORM).invert()).matrix, IDENTITY, atol=1e-5)
+    assert FORM.determinant() == pytest.approx(1.5 * 0.5 * 2, rel=1e-6)
+
+
+def test_modifiers_return_the_transform_itself():
+    form = XForm()
+    assert form.translate(1, 2, 3) is form and form.invert() is form
+    alias = form
+    form @= XForm.scaling(2, 2, 2)
+    assert form is alias and form[0, 0] == 2
+
+
+def test_nan_is_unequal_except_to_itself():
+    form = XForm()
+    form[1, 2] = math.nan
+    assert form == form and form != XForm(form)
+
+
+def test_apply_takes_all_four_point_components_and_the_vector_3x3():
+    form = XForm.translation(Vector(1, 2, 3))
+    assert form.apply(Point(0, 0, 0, 2)) == Point(2, 4, 6, 2)
+    assert form.apply(Vector(1, 1, 1)) == Vector(1, 1, 1)
+
+
+def read_only(array):
+    array.flags.writeable = False
+    return array
+
+
+def expected_rows(form, rows, kind):
+    return np.array([components(form.apply(kind(row)))[:3] for row in rows])
+
+
+# 1000 rows cross several of the native blocks and end in a partial one.
+POINTS = RNG.uniform(-100, 100, (1000, 3))
+
+
+@pytest.mark.parametrize("kind, method", [(Point, "transform_points"), (Vector, "transform_vectors")])
+def test_float64_array_goes_into_a_new_array_through_float32(kind, method):
+    points = POINTS.copy()
+    result = getattr(FORM, method)(points)
+    assert result.dtype == np.float64 and result.flags.c_contiguous and result is not points
+    assert np.array_equal(points, POINTS)
+    assert np.array_equal(result, expected_rows(FORM, points, kind))
+    linear, offset = FORM.matrix[:3, :3].astype(float), FORM.matrix[:3, 3].astype(float)
+    peer = points @ linear.T + (offset if kind is Point else 0)
+    assert np.allclose(result, peer, rtol=1e-6, atol=1e-6 * np.abs(peer).max())
+
+
+def test_float32_array_is_transformed_in_place_unless_copied():
+    points = POINTS.astype(f32)
+    expected = expected_rows(FORM, points, Point)
+    copied = FORM.transform_points(points, copy=True)
+    assert copied is not points and copied.dtype == f32 and np.array_equal(points, POINTS.astype(f32))
+    assert FORM.transform_points(points) is points
+    assert np.array_equal(points, expected) and np.array_equal(copied, expected)
+
+
+def test_strided_float32_view_changes_only_its_columns():
+    block = np.ones((5, 4), dtype=f32)
+    FORM.transform_points(block[:, 1:])
+    assert np.array_equal(block[:, 0], np.ones(5)) and np.array_equal(block[:, 1:], expected_rows(FORM, np.ones((5, 3)), Point))
+
+
+@pytest.mark.parametrize("points, error, message", [
+    (np.zeros(3), ValueError, "an (N, 3) array is needed, not one of shape (3,)"),
+    (np.zeros((4, 2)), ValueError, "an (N, 3) array is needed, not one of shape (4, 2)"),
+    (np.zeros((2, 3, 1)), ValueError, "an (N, 3) array is needed, not one of shape (2, 3, 1)"),
+    (np.zeros((4, 3), dtype=np.int64), TypeError, "an (N, 3) array of float32 or float64 is needed, not int64"),
+    ([[0, 0, 0]], TypeError, "an (N, 3) NumPy array of float32 or float64 is needed, not list"),
+    (read_only(np.zeros((4, 3), dtype=f32)), ValueError,
+     "a read-only float32 array cannot be transformed in place; pass copy=True"),
+])
+def test_wrong_array_raises_with_its_message(points, error, message):
+    with pytest.raises(error, match=f"^{re.escape(message)}$"):
+        FORM.transform_points(points)
+
+
+def test_empty_array_gives_an_empty_array():
+    assert FORM.transform_points(np.zeros((0, 3))).shape == (0, 3)
+
+
+def test_stack_post_multiplies_and_keeps_its_base():
+    stack = XFormStack(3)
+    a, b = XForm.translation(Vector(1, 0, 0)), XForm.rotation(90, Z)
+    stack.push(a)
+    stack.push(b)
+    assert (stack.depth, stack.top) == (2, a @ b)
+    with pytest.raises(IndexError, match=r"^push onto a full XFormStack of 3 entries$"):
+        stack.push(a)
+    stack.pop()
+    stack.pop()
+    stack.pop()
+    assert (stack.depth, stack.top) == (0, XForm())
+    stack.reset(b)
+    assert (stack.depth, stack.top, repr(stack)) == (0, b, "XFormStack(depth=0, capacity=3)")
+
+
+def test_stack_capacity_below_one_is_the_librarys_range_error():
+    with pytest.raises(cvxutils.RangeError, match=r"^capacity must be an Integer >= 1$"):
+        XFormStack(0)
