@@ -475,3 +475,30 @@ bool g3d_Camera::ToWindow(const g3d_Point& world, float& x, float& y) const {
   y = p.y / p.w * halfHeight + ((m_Y0 + m_Y1) / 2 - 0.5f) * m_Height + m_OffsetY;
   return true;
 }
+
+bool g3d_Camera::Unproject(float x, float y, g3d_Ray& ray) const {
+  // The projections leave the identity for a frustum they cannot build, and no real
+  // projection equals it: then ToWindow has no window mapping to invert.
+  if (GetPM() == g3d_XForm()) return false;
+  g3d_Vector right, up, back;
+  Axes(right, up, back);
+  // ToWindow's position is the eye-space point's, taken at the near plane in perspective
+  // and as it is in parallel projection.
+  g3d_Point origin = Cartesian(m_Eye);
+  g3d_Vector direction = -back;
+  if (IsPerspective()) {
+    direction = right * x + up * y - back * m_Near;
+  } else {
+    origin = origin + right * x + up * y;
+  }
+  if (IsLayerMode()) {
+    g3d_XForm undo = m_Layer;
+    if (undo.Determinant() == 0.0) return false;
+    undo.Invert();
+    undo.XForm(&origin, 1);
+    undo.XForm(&direction, 1);
+    origin = Cartesian(origin);
+  }
+  ray.Set(origin, Unit(direction));
+  return true;
+}

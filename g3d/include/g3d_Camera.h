@@ -14,6 +14,7 @@
 // camera at once, not even to read it; give another thread a copy. The one process-wide
 // state, the zoom-out mode of "CVX_ZOOM_TOWARD", is read once and may be read from any thread.
 #include <g3d_BoundingVolume.h>
+#include <g3d_Ray.h>
 #include <g3d_XForm.h>
 
 enum g3d_ProjectionEnum : int { PARALLEL_PROJECTION = 0, PERSPECTIVE_PROJECTION = 1 };
@@ -143,6 +144,17 @@ public:
   // The window-unit position of a world point: its projection scaled to the window, with the
   // view offset; the bool is false for a point on the eye plane (no position).
   bool ToWindow(const g3d_Point& world, float& x, float& y) const;
+  // The inverse of ToWindow: the ray of the world points that show at the window-unit
+  // position (x, y). In perspective it starts at the eye; in parallel projection on the plane
+  // through the eye facing the target, at (x, y) from the eye. Its direction has unit length
+  // and points away from the eye, into the view; in layer-transform mode the layer transform
+  // (taken as affine) is undone as well. ToWindow of any point on the ray gives (x, y) back to
+  // float rounding. The ray is left alone and the answer is false when there is no projection
+  // to invert: a window of no extent, far not beyond near, a near distance of zero or less in
+  // perspective, or a singular layer transform. Non-finite input gives a non-finite ray.
+  // Cost: that of the view and projection matrices when stale, then a few dozen float
+  // operations (a 4x4 inversion more in layer-transform mode); no allocation.
+  bool Unproject(float x, float y, g3d_Ray& ray) const;
 
   // The zoom-out mode of "CVX_ZOOM_TOWARD" (1-3), read and reported once per process.
   static int ZoomOutMode();
