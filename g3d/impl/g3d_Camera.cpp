@@ -17,6 +17,9 @@ constexpr double kDegreesToRadians = 0.017453292519943295;
 constexpr float kClipMargin = 1.05f;
 constexpr unsigned char kComparedBits = 0x01 | 0x02 | 0x08 | 0x10 | 0x20;
 
+// Keeps a NaN, which compares false both ways.
+float Bounded(float value) noexcept { return std::clamp(value, -kMaxWindow, kMaxWindow); }
+
 float Limit(float size, float least) noexcept {
   return size < least ? least : (size > kMaxWindow ? kMaxWindow : size);
 }
@@ -30,6 +33,12 @@ double ZoomScale(float percent) noexcept {
 g3d_Point Cartesian(const g3d_Point& p) noexcept { return g3d_Point() + (p - g3d_Point()); }
 
 g3d_Vector Unit(g3d_Vector v) noexcept { return v.Normalize(); }
+
+// Within the window's range, so that the view matrix's sums of products stay finite too.
+bool InRange(const g3d_Point& p) noexcept {
+  return std::fabs(p.x) <= kMaxWindow && std::fabs(p.y) <= kMaxWindow &&
+         std::fabs(p.z) <= kMaxWindow;
+}
 
 int ReadZoomOutMode() {
   const char* text = std::getenv("CVX_ZOOM_TOWARD");
@@ -92,7 +101,8 @@ g3d_Camera& g3d_Camera::SetLocation(const g3d_Point& eye, const g3d_Point& targe
 float g3d_Camera::MinWindowSize() const noexcept {
   const float distance = EyeDistance();
   if (!IsPerspective() || !(distance > 0.0f)) return kMinWindow;
-  return std::max(m_Near * kMinWindow / distance, kMinWindow);
+  // A near plane far beyond a close target cannot ask for more than the largest window.
+  return std::clamp(m_Near * kMinWindow / distance, kMinWindow, kMaxWindow);
 }
 
 g3d_Camera& g3d_Camera::SetWindow(float width, float height) {
@@ -112,6 +122,8 @@ g3d_Camera& g3d_Camera::SetWindow(float width, float height) {
 }
 
 g3d_Camera& g3d_Camera::SetViewOffset(float x, float y) {
+  x = Bounded(x);
+  y = Bounded(y);
   if (x != m_OffsetX || y != m_OffsetY) {
     m_OffsetX = x;
     m_OffsetY = y;
@@ -121,8 +133,8 @@ g3d_Camera& g3d_Camera::SetViewOffset(float x, float y) {
 }
 
 g3d_Camera& g3d_Camera::SetNearFar(float near, float far) {
-  m_Near = near;
-  m_Far = far;
+  m_Near = Bounded(near);
+  m_Far = Bounded(far);
   m_PMStale = true;
   ClearUserMark();
   if (!IsLayerMode()) SetWindow(m_Width, m_Height);  // the least size depends on near
@@ -148,6 +160,7 @@ bool g3d_Camera::SetProjectionValue(int value) {
 }
 
 void g3d_Camera::SwitchProjection(float ratio, bool perspective) {
+  if (!(ratio > 0.0f && std::isfinite(ratio))) ratio = 1.0f;  // no plane to scale between
   const float width = m_Width * ratio, height = m_Height * ratio;
   if (m_OffsetX != 0.0f || m_OffsetY != 0.0f) SetViewOffset(m_OffsetX * ratio, m_OffsetY * ratio);
   SetProjectionValue(perspective ? 1 : 0);
@@ -206,9 +219,11 @@ g3d_Camera& g3d_Camera::Zoom(float percent, bool dolly) {
     m_VOMStale = true;
     return *this;
   }
-  const float scale = static_cast<float>(s);
+  float scale = static_cast<float>(s);
   if (dolly && IsPerspective()) {
     const float distance = EyeDistance();
+    // The eye goes no farther than the window may grow, so that zooming out never overflows.
+    if (distance * scale > kMaxWindow) scale = kMaxWindow / distance;
     m_Eye = m_Target + (m_Eye - m_Target) * scale;
     m_VOMStale = true;
     SetNearFar(m_Near * scale, std::max(m_Far - distance + distance * scale, m_Far * scale));
@@ -255,8 +270,11 @@ g3d_Vector g3d_Camera::ToWorld(const g3d_Vector& eyeDirection) const {
 }
 
 void g3d_Camera::MoveEyeAndTarget(const g3d_Vector& by) {
-  m_Eye = m_Eye + by;
-  m_Target = m_Target + by;
+  const g3d_Point eye = m_Eye + by, target = m_Target + by;
+  // A step out of range is not taken: the view could never come back from it.
+  if (!InRange(eye) || !InRange(target)) return;
+  m_Eye = eye;
+  m_Target = target;
   m_VOMStale = true;
 }
 

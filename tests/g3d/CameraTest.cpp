@@ -1,4 +1,5 @@
-// The camera: repairs, window limits, zoom, projection switches, fitting, rotation.
+// The camera: repairs, window limits, zoom, projection switches, fitting, rotation,
+// unprojection, and staying finite through long runs of operations.
 #include "PosixEnv.h"
 
 #include <g3d_Camera.h>
@@ -334,7 +335,8 @@ TEST(CameraTest, UnprojectInvertsToWindow) {
       {"parallel, oblique, offset", oblique(PARALLEL_PROJECTION)},
       {"parallel, part of the window",
        oblique(PARALLEL_PROJECTION).CorrectAspect(400, 300, 0.1f, 0.6f, 0.2f, 0.9f, 1)},
-      {"layer, zoomed", oblique(PERSPECTIVE_PROJECTION).SetLayerXForm(true, nullptr).Zoom(40, false)},
+      {"layer, zoomed",
+       oblique(PERSPECTIVE_PROJECTION).SetLayerXForm(true, nullptr).Zoom(40, false)},
   };
   for (const auto& c : cases) {
     const g3d_Camera& camera = c.camera;
@@ -388,6 +390,49 @@ TEST(CameraTest, EyeStaysFiniteAfterDegenerateClipping) {
     const g3d_Point eye = camera.GetEye();
     EXPECT_TRUE(std::isfinite(eye.x) && std::isfinite(eye.y) && std::isfinite(eye.z))
         << "near " << c.near << ", far " << c.far;
+  }
+}
+
+// Long runs of everyday operations that once left the float range.
+TEST(CameraTest, RepeatedOperationsStayFinite) {
+  const auto repeat = [](int n, const std::function<void(g3d_Camera&)>& step) {
+    return [=](g3d_Camera& c) {
+      for (int i = 0; i < n; ++i) step(c);
+    };
+  };
+  const struct {
+    const char* what;
+    std::function<void(g3d_Camera&)> run;
+  } cases[] = {
+      {"switch without a near plane, then a zero field of view",
+       [](g3d_Camera& c) { c.SetNearFar(0, -7.875f).MakeParallel().SetFieldOfView(0, false); }},
+      {"dolly out", repeat(20, [](g3d_Camera& c) { c.Zoom(-99, true); })},
+      {"near far beyond a close target, then a zero field of view",
+       [&](g3d_Camera& c) {
+         repeat(3, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
+         c.SetNearFar(99.6f, 992);
+         repeat(10, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
+         c.SetFieldOfView(0, false);
+       }},
+      {"a tiny near plane, then a pan",
+       [&](g3d_Camera& c) {
+         repeat(22, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
+         c.SetLocation({0, 0, 80}, {0, 0, 0}, {0, 1, 0}).Pan(20, 20, 0, false);
+       }},
+  };
+  for (const auto& c : cases) {
+    g3d_Camera camera;
+    c.run(camera);
+    const g3d_Point eye = camera.GetEye();
+    float view[4][4], projection[4][4];
+    camera.GetVOM().GetM(view);
+    camera.GetPM().GetM(projection);
+    bool finite = std::isfinite(eye.x) && std::isfinite(eye.y) && std::isfinite(eye.z) &&
+                  std::isfinite(camera.GetWindowWidth()) && std::isfinite(camera.GetNear()) &&
+                  std::isfinite(camera.GetFar());
+    for (int i = 0; i < 16; ++i) finite = finite && std::isfinite(view[i / 4][i % 4]);
+    for (int i = 0; i < 16; ++i) finite = finite && std::isfinite(projection[i / 4][i % 4]);
+    EXPECT_TRUE(finite) << c.what;
   }
 }
 
