@@ -17,6 +17,9 @@ constexpr double kDegreesToRadians = 0.017453292519943295;
 constexpr float kClipMargin = 1.05f;
 constexpr unsigned char kComparedBits = 0x01 | 0x02 | 0x08 | 0x10 | 0x20;
 
+// Keeps a NaN, which compares false both ways.
+float Bounded(float value) noexcept { return std::clamp(value, -kMaxWindow, kMaxWindow); }
+
 float Limit(float size, float least) noexcept {
   return size < least ? least : (size > kMaxWindow ? kMaxWindow : size);
 }
@@ -30,6 +33,12 @@ double ZoomScale(float percent) noexcept {
 g3d_Point Cartesian(const g3d_Point& p) noexcept { return g3d_Point() + (p - g3d_Point()); }
 
 g3d_Vector Unit(g3d_Vector v) noexcept { return v.Normalize(); }
+
+// Within the window's range, so that the view matrix's sums of products stay finite too.
+bool InRange(const g3d_Point& p) noexcept {
+  return std::fabs(p.x) <= kMaxWindow && std::fabs(p.y) <= kMaxWindow &&
+         std::fabs(p.z) <= kMaxWindow;
+}
 
 int ReadZoomOutMode() {
   const char* text = std::getenv("CVX_ZOOM_TOWARD");
@@ -92,7 +101,8 @@ g3d_Camera& g3d_Camera::SetLocation(const g3d_Point& eye, const g3d_Point& targe
 float g3d_Camera::MinWindowSize() const noexcept {
   const float distance = EyeDistance();
   if (!IsPerspective() || !(distance > 0.0f)) return kMinWindow;
-  return std::max(m_Near * kMinWindow / distance, kMinWindow);
+  // A near plane far beyond a close target cannot ask for more than the largest window.
+  return std::clamp(m_Near * kMinWindow / distance, kMinWindow, kMaxWindow);
 }
 
 g3d_Camera& g3d_Camera::SetWindow(float width, float height) {
@@ -112,6 +122,8 @@ g3d_Camera& g3d_Camera::SetWindow(float width, float height) {
 }
 
 g3d_Camera& g3d_Camera::SetViewOffset(float x, float y) {
+  x = Bounded(x);
+  y = Bounded(y);
   if (x != m_OffsetX || y != m_OffsetY) {
     m_OffsetX = x;
     m_OffsetY = y;
@@ -121,8 +133,8 @@ g3d_Camera& g3d_Camera::SetViewOffset(float x, float y) {
 }
 
 g3d_Camera& g3d_Camera::SetNearFar(float near, float far) {
-  m_Near = near;
-  m_Far = far;
+  m_Near = Bounded(near);
+  m_Far = Bounded(far);
   m_PMStale = true;
   ClearUserMark();
   if (!IsLayerMode()) SetWindow(m_Width, m_Height);  // the least size depends on near
@@ -148,6 +160,7 @@ bool g3d_Camera::SetProjectionValue(int value) {
 }
 
 void g3d_Camera::SwitchProjection(float ratio, bool perspective) {
+  if (!(ratio > 0.0f && std::isfinite(ratio))) ratio = 1.0f;  // no plane to scale between
   const float width = m_Width * ratio, height = m_Height * ratio;
   if (m_OffsetX != 0.0f || m_OffsetY != 0.0f) SetViewOffset(m_OffsetX * ratio, m_OffsetY * ratio);
   SetProjectionValue(perspective ? 1 : 0);
@@ -206,9 +219,11 @@ g3d_Camera& g3d_Camera::Zoom(float percent, bool dolly) {
     m_VOMStale = true;
     return *this;
   }
-  const float scale = static_cast<float>(s);
+  float scale = static_cast<float>(s);
   if (dolly && IsPerspective()) {
     const float distance = EyeDistance();
+    // The eye goes no farther than the window may grow, so that zooming out never overflows.
+    if (distance * scale > kMaxWindow) scale = kMaxWindow / distance;
     m_Eye = m_Target + (m_Eye - m_Target) * scale;
     m_VOMStale = true;
     SetNearFar(m_Near * scale, std::max(m_Far - distance + distance * scale, m_Far * scale));
@@ -255,8 +270,11 @@ g3d_Vector g3d_Camera::ToWorld(const g3d_Vector& eyeDirection) const {
 }
 
 void g3d_Camera::MoveEyeAndTarget(const g3d_Vector& by) {
-  m_Eye = m_Eye + by;
-  m_Target = m_Target + by;
+  const g3d_Point eye = m_Eye + by, target = m_Target + by;
+  // A step out of range is not taken: the view could never come back from it.
+  if (!InRange(eye) || !InRange(target)) return;
+  m_Eye = eye;
+  m_Target = target;
   m_VOMStale = true;
 }
 
@@ -473,5 +491,32 @@ bool g3d_Camera::ToWindow(const g3d_Point& world, float& x, float& y) const {
   const float halfWidth = (m_X1 - m_X0) * m_Width / 2, halfHeight = (m_Y1 - m_Y0) * m_Height / 2;
   x = p.x / p.w * halfWidth + ((m_X0 + m_X1) / 2 - 0.5f) * m_Width + m_OffsetX;
   y = p.y / p.w * halfHeight + ((m_Y0 + m_Y1) / 2 - 0.5f) * m_Height + m_OffsetY;
+  return true;
+}
+
+bool g3d_Camera::Unproject(float x, float y, g3d_Ray& ray) const {
+  // The projections leave the identity for a frustum they cannot build, and no real
+  // projection equals it: then ToWindow has no window mapping to invert.
+  if (GetPM() == g3d_XForm()) return false;
+  g3d_Vector right, up, back;
+  Axes(right, up, back);
+  // ToWindow's position is the eye-space point's, taken at the near plane in perspective
+  // and as it is in parallel projection.
+  g3d_Point origin = Cartesian(m_Eye);
+  g3d_Vector direction = -back;
+  if (IsPerspective()) {
+    direction = right * x + up * y - back * m_Near;
+  } else {
+    origin = origin + right * x + up * y;
+  }
+  if (IsLayerMode()) {
+    g3d_XForm undo = m_Layer;
+    if (undo.Determinant() == 0.0) return false;
+    undo.Invert();
+    undo.XForm(&origin, 1);
+    undo.XForm(&direction, 1);
+    origin = Cartesian(origin);
+  }
+  ray.Set(origin, Unit(direction));
   return true;
 }

@@ -17,6 +17,16 @@ constexpr double kDegreesToRadians = 0.017453292519943295;
 using Matrix = float[4][4];
 using WideMatrix = double[4][4];
 
+// Every element has a finite float form.
+bool FitsFloat(const WideMatrix& m) noexcept {
+  for (const auto& row : m) {
+    for (const double value : row) {
+      if (!(std::fabs(value) <= 3.4028234663852886e38)) return false;
+    }
+  }
+  return true;
+}
+
 // The adjugate (transposed cofactor matrix), from the 2x2 minors of rows 0-1 and rows 2-3.
 void Adjugate(const Matrix& m, WideMatrix& adj) noexcept {
   const auto a = [&m](int r, int c) { return double(m[r][c]); };
@@ -271,7 +281,7 @@ g3d_XForm& g3d_XForm::SetPerspectiveProjection(float left, float right, float to
                              {0, 2 * n / (t - b), (t + b) / (t - b), 0},
                              {0, 0, -(f + n) / (f - n), -2 * f * n / (f - n)},
                              {0, 0, -1, 0}};
-  return SetM(rows);
+  return FitsFloat(rows) ? SetM(rows) : *this;
 }
 
 g3d_XForm& g3d_XForm::SetOrthographicProjection(float left, float right, float top, float bottom,
@@ -283,7 +293,7 @@ g3d_XForm& g3d_XForm::SetOrthographicProjection(float left, float right, float t
                              {0, 2 / (t - b), 0, -(t + b) / (t - b)},
                              {0, 0, -2 / (f - n), -(n + f) / (f - n)},
                              {0, 0, 0, 1}};
-  return SetM(rows);
+  return FitsFloat(rows) ? SetM(rows) : *this;
 }
 
 g3d_XForm& g3d_XForm::operator*=(const g3d_XForm& b) noexcept {

@@ -14,6 +14,7 @@
 // camera at once, not even to read it; give another thread a copy. The one process-wide
 // state, the zoom-out mode of "CVX_ZOOM_TOWARD", is read once and may be read from any thread.
 #include <g3d_BoundingVolume.h>
+#include <g3d_Ray.h>
 #include <g3d_XForm.h>
 
 enum g3d_ProjectionEnum : int { PARALLEL_PROJECTION = 0, PERSPECTIVE_PROJECTION = 1 };
@@ -57,11 +58,15 @@ public:
   // Limited to at least 0.0001 (scaled to the near plane in perspective), at most 3.4e31,
   // and an aspect of at most 500.
   g3d_Camera& SetWindow(float width, float height);
+  // The offset, near and far are limited to +-3.4e31 like the window, so that no later
+  // step overflows; a NaN is kept.
   g3d_Camera& SetViewOffset(float x, float y);
   g3d_Camera& SetNearFar(float near, float far);
   bool SetProjection(g3d_ProjectionEnum projection);
   bool SetProjection(ProjectionEnum projection);
   // Switch projection so that things at the target's distance keep their size on screen.
+  // Without a near plane in front of the eye, or with the eye on the target, there is no
+  // such size: the window stays as it is.
   g3d_Camera& MakePerspective();
   g3d_Camera& MakeParallel();
   float GetFieldOfView() const noexcept;
@@ -72,7 +77,8 @@ public:
   // limited to +-99. With dolly set in perspective the eye moves toward the target instead
   // of narrowing the field of view: window and near scale together, the eye-target
   // distance scales by the same factor and far keeps its depth beyond the target (never
-  // below far times the factor). In layer-transform mode the layer scales about the target.
+  // below far times the factor); the eye goes no farther than 3.4e31 from the target. In
+  // layer-transform mode the layer scales about the target.
   g3d_Camera& Zoom(float percent, bool dolly);
   // Zoom keeping the point (x, y) near the cursor; zooming out follows "CVX_ZOOM_TOWARD".
   g3d_Camera& ZoomTo(float x, float y, float percent, bool towardPoint, bool dolly);
@@ -81,7 +87,8 @@ public:
   // Moves eye and target together by (dx, dy, dz) in window units along the eye's right, up
   // and backward axes. With fitClipping set, near and far then re-fit the recorded model.
   // In perspective with a near distance of zero or less, window units are taken at the
-  // target, as in parallel projection, so that no step becomes infinite.
+  // target, as in parallel projection, so that no step becomes infinite. A step that would
+  // take eye or target beyond +-3.4e31 on any axis is not taken.
   g3d_Camera& Pan(float dx, float dy, float dz, bool fitClipping);
 
   // Turns the scene (the camera moves the opposite way) so that direction from appears
@@ -143,6 +150,17 @@ public:
   // The window-unit position of a world point: its projection scaled to the window, with the
   // view offset; the bool is false for a point on the eye plane (no position).
   bool ToWindow(const g3d_Point& world, float& x, float& y) const;
+  // The inverse of ToWindow: the ray of the world points that show at the window-unit
+  // position (x, y). In perspective it starts at the eye; in parallel projection on the plane
+  // through the eye facing the target, at (x, y) from the eye. Its direction has unit length
+  // and points away from the eye, into the view; in layer-transform mode the layer transform
+  // (taken as affine) is undone as well. ToWindow of any point on the ray gives (x, y) back to
+  // float rounding. The ray is left alone and the answer is false when there is no projection
+  // to invert: a window of no extent, far not beyond near, a near distance of zero or less in
+  // perspective, or a singular layer transform. Non-finite input gives a non-finite ray.
+  // Cost: that of the view and projection matrices when stale, then a few dozen float
+  // operations (a 4x4 inversion more in layer-transform mode); no allocation.
+  bool Unproject(float x, float y, g3d_Ray& ray) const;
 
   // The zoom-out mode of "CVX_ZOOM_TOWARD" (1-3), read and reported once per process.
   static int ZoomOutMode();

@@ -51,7 +51,7 @@ public:
   void XForm(g3d_Vector* vectors, int n) const noexcept;
 
   // Note the edge order: top before bottom. A degenerate frustum (l = r, t = b, or not
-  // far > near > 0) leaves the identity.
+  // far > near > 0), or one whose matrix has no finite float form, leaves the identity.
   g3d_XForm& SetPerspectiveProjection(float left, float right, float top, float bottom,
                                       float near, float far) noexcept;
   // As above, but near may be zero or negative (only far > near is required).

@@ -9,6 +9,7 @@
 #include "py_Library.h"
 #include "py_ValueConverter.h"
 #include "py_ValueTypes.h"
+#include "py_Viewing.h"
 
 #include <pybind11/pybind11.h>
 
@@ -39,6 +40,7 @@ PYBIND11_MODULE(cvxutils, module) {
   py_DemoCommands::Register(module);
   py_ErrorSamples::Register(module);
   py_Geometry::Register(module);
+  py_Viewing::Register(module);
   module.def("echo", &Echo, py::arg("value"),
              "Carries value into the library's primitive and back.");
   module.def("text", &Text, py::arg("value"),

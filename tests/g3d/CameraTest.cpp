@@ -1,4 +1,5 @@
-// The camera: repairs, window limits, zoom, projection switches, fitting, rotation.
+// The camera: repairs, window limits, zoom, projection switches, fitting, rotation,
+// unprojection, and staying finite through long runs of operations.
 #include "PosixEnv.h"
 
 #include <g3d_Camera.h>
@@ -7,12 +8,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <limits>
 #include <sstream>
+#include <utility>
 
 namespace {
 // A camera looking at target from eye, y up, in the given projection.
@@ -314,6 +317,122 @@ TEST(CameraTest, OperationsClearTheUserMark) {
     camera.SetUserMark();
     operations[i](camera);
     EXPECT_EQ(camera.GetFlags() & g3d_Camera::FLAG_USER_MARK, 0) << "operation " << i;
+  }
+}
+
+TEST(CameraTest, UnprojectInvertsToWindow) {
+  const auto oblique = [](g3d_ProjectionEnum projection) {
+    g3d_Camera camera = Looking({3, 4, 12}, {1, 0, 0}, projection);
+    camera.SetWindow(3, 2).SetViewOffset(0.25f, -0.5f).SetNearFar(2, 40);
+    return camera;
+  };
+  const struct {
+    const char* what;
+    g3d_Camera camera;
+  } cases[] = {
+      {"perspective", Looking({0, 0, 10})},
+      {"perspective, oblique, offset", oblique(PERSPECTIVE_PROJECTION)},
+      {"parallel, oblique, offset", oblique(PARALLEL_PROJECTION)},
+      {"parallel, part of the window",
+       oblique(PARALLEL_PROJECTION).CorrectAspect(400, 300, 0.1f, 0.6f, 0.2f, 0.9f, 1)},
+      {"layer, zoomed",
+       oblique(PERSPECTIVE_PROJECTION).SetLayerXForm(true, nullptr).Zoom(40, false)},
+  };
+  for (const auto& c : cases) {
+    const g3d_Camera& camera = c.camera;
+    const float size = std::max(camera.GetWindowWidth(), camera.GetWindowHeight());
+    for (const auto& [x, y] : {std::pair{0.0f, 0.0f}, {0.7f, -0.3f}, {-1.4f, 0.9f}}) {
+      g3d_Ray ray;
+      ASSERT_TRUE(camera.Unproject(x, y, ray)) << c.what;
+      EXPECT_NEAR(ray.direction.Length(), 1, 1e-6) << c.what;
+      EXPECT_GT(g3d_Dot(ray.direction, camera.GetTarget() - camera.GetEye()), 0) << c.what;
+      if (camera.IsPerspective() && !camera.IsLayerMode()) {
+        EXPECT_EQ(ray.origin, camera.GetEye()) << c.what;
+      }
+      for (const float depth : {1.0f, 9.0f, 30.0f}) {
+        float wx = 0, wy = 0;
+        ASSERT_TRUE(camera.ToWindow(ray.origin + ray.direction * depth, wx, wy)) << c.what;
+        EXPECT_NEAR(wx, x, 4e-6f * size) << c.what << " at depth " << depth;
+        EXPECT_NEAR(wy, y, 4e-6f * size) << c.what << " at depth " << depth;
+      }
+    }
+  }
+}
+
+TEST(CameraTest, UnprojectWithoutAProjectionAnswersFalse) {
+  const struct {
+    const char* what;
+    g3d_ProjectionEnum projection;
+    float near, far;
+  } cases[] = {{"perspective, near 0", PERSPECTIVE_PROJECTION, 0, 10},
+               {"perspective, far before near", PERSPECTIVE_PROJECTION, 5, 1},
+               {"parallel, far at near", PARALLEL_PROJECTION, 3, 3}};
+  for (const auto& c : cases) {
+    g3d_Camera camera = Looking({0, 0, 10}, {}, c.projection);
+    camera.SetNearFar(c.near, c.far);
+    g3d_Ray ray;
+    ray.Set({7, 7, 7}, {1, 0, 0});
+    EXPECT_FALSE(camera.Unproject(0.1f, 0.1f, ray)) << c.what;
+    EXPECT_EQ(ray.origin, g3d_Point(7, 7, 7)) << c.what;
+  }
+}
+
+TEST(CameraTest, EyeStaysFiniteAfterDegenerateClipping) {
+  const struct {
+    float near, far, x, y, percent;
+  } cases[] = {
+      {0, -7.875f, -16, -16, -128},  // the pans of ZoomTo once divided by the zero near
+  };
+  for (const auto& c : cases) {
+    g3d_Camera camera;
+    camera.SetNearFar(c.near, c.far);
+    camera.ZoomTo(c.x, c.y, c.percent, false, false);
+    const g3d_Point eye = camera.GetEye();
+    EXPECT_TRUE(std::isfinite(eye.x) && std::isfinite(eye.y) && std::isfinite(eye.z))
+        << "near " << c.near << ", far " << c.far;
+  }
+}
+
+// Long runs of everyday operations that once left the float range.
+TEST(CameraTest, RepeatedOperationsStayFinite) {
+  const auto repeat = [](int n, const std::function<void(g3d_Camera&)>& step) {
+    return [=](g3d_Camera& c) {
+      for (int i = 0; i < n; ++i) step(c);
+    };
+  };
+  const struct {
+    const char* what;
+    std::function<void(g3d_Camera&)> run;
+  } cases[] = {
+      {"switch without a near plane, then a zero field of view",
+       [](g3d_Camera& c) { c.SetNearFar(0, -7.875f).MakeParallel().SetFieldOfView(0, false); }},
+      {"dolly out", repeat(20, [](g3d_Camera& c) { c.Zoom(-99, true); })},
+      {"near far beyond a close target, then a zero field of view",
+       [&](g3d_Camera& c) {
+         repeat(3, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
+         c.SetNearFar(99.6f, 992);
+         repeat(10, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
+         c.SetFieldOfView(0, false);
+       }},
+      {"a tiny near plane, then a pan",
+       [&](g3d_Camera& c) {
+         repeat(22, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
+         c.SetLocation({0, 0, 80}, {0, 0, 0}, {0, 1, 0}).Pan(20, 20, 0, false);
+       }},
+  };
+  for (const auto& c : cases) {
+    g3d_Camera camera;
+    c.run(camera);
+    const g3d_Point eye = camera.GetEye();
+    float view[4][4], projection[4][4];
+    camera.GetVOM().GetM(view);
+    camera.GetPM().GetM(projection);
+    bool finite = std::isfinite(eye.x) && std::isfinite(eye.y) && std::isfinite(eye.z) &&
+                  std::isfinite(camera.GetWindowWidth()) && std::isfinite(camera.GetNear()) &&
+                  std::isfinite(camera.GetFar());
+    for (int i = 0; i < 16; ++i) finite = finite && std::isfinite(view[i / 4][i % 4]);
+    for (int i = 0; i < 16; ++i) finite = finite && std::isfinite(projection[i / 4][i % 4]);
+    EXPECT_TRUE(finite) << c.what;
   }
 }
 

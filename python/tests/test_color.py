@@ -1,0 +1,107 @@
+"""Colours, the colour-name table, colour ramps and lights as a script meets them."""
+import math
+
+import numpy as np
+import pytest
+
+import cvxutils
+from cvxutils import Color, ColorMap, ColorRamp, Light
+
+f32 = np.float32
+BYTE = f32(1) / f32(255)  # the library's byte scale
+
+NAMES = ["Aqua", "Black", "Blue", "Chartreuse", "Cyan", "Dark gold", "Default", "Gold", "Green", "Grey10",
+         "Grey20", "Grey30", "Grey40", "Grey50", "Grey60", "Grey70", "Grey80", "Grey90", "Light orange",
+         "Magenta", "Medium blue", "Orange", "Purple", "Red", "Sky blue", "Spring green", "White", "Yellow"]
+
+
+def components(*values):
+    return tuple(float(f32(v)) for v in values)
+
+
+def test_table_lists_every_name_in_byte_order():
+    assert ColorMap.names() == NAMES and ColorMap.count() == len(NAMES)
+
+
+@pytest.mark.parametrize("name, rgba", [
+    ("Sky blue", (0, 0.8, 1, 1)), ("Purple", (0.63, 0.13, 0.94, 1)), ("Grey70", (0.7, 0.7, 0.7, 1)),
+    ("Gold", (1, 0.844, 0, 1)),
+])
+def test_names_give_their_colours(name, rgba):
+    assert ColorMap.lookup(name).components == components(*rgba)
+    assert ColorMap.find(name) == Color.from_name(name) == Color(*rgba)
+
+
+@pytest.mark.parametrize("call", [
+    lambda: ColorMap.lookup("mauve"), lambda: Color.from_name("mauve"),
+    lambda: ColorRamp.interpolate(["Red", "mauve"], 4), lambda: setattr(Light(), "diffuse_color", "mauve"),
+])
+def test_unknown_name_raises_color_error_with_the_libraries_message(call):
+    with pytest.raises(cvxutils.ColorError) as raised:
+        call()
+    assert raised.value.args == ("mauve is not a valid color name.",)
+
+
+def test_failed_light_colour_keeps_the_old_one_and_find_gives_none():
+    light = Light()
+    with pytest.raises(cvxutils.ColorError):
+        light.ambient_color = "red"  # names are case-sensitive
+    assert light.ambient_color == "Black" and ColorMap.find("red") is None
+
+
+@pytest.mark.parametrize("text, alpha, rgba", [
+    ("#FF8000", 1, (1, 128 * BYTE, 0, 1)),
+    ("#0A", 0.5, (10 * BYTE, 0, 0, 0.5)),  # components the text does not reach are 0
+    ("Red", 0.25, (1, 0, 0, 0.25)),
+])
+def test_texts_and_names(text, alpha, rgba):
+    assert Color.from_name(text, alpha).components == components(*rgba)
+
+
+def test_packing_truncates_and_unpacks_by_bytes():
+    assert Color(0.5, 0.5, 0.5, 1).rgba == 0x7F7F7FFF
+    assert Color.from_rgba(0xFF800000).components == components(1, 128 * BYTE, 0, 0)
+    assert repr(Color.from_rgba(0xFF8000FF)) == "Color(1, 0.5019608, 0, 1)"
+
+
+@pytest.mark.parametrize("name", NAMES)
+def test_hsv_round_trips(name):
+    color = ColorMap.lookup(name)
+    assert Color.from_hsv(*color.hsv).components == pytest.approx(color.components, abs=1e-6)
+
+
+@pytest.mark.parametrize("rgb, hsv", [((0, 0, 0), (0, 0, 0)), ((0, 0, 1), (2 / 3, 1, 1)), ((1, 0.5, 0), (1 / 12, 1, 1))])
+def test_hsv_values(rgb, hsv):
+    assert Color(*rgb).hsv == pytest.approx(hsv)
+    assert Color.from_hsv(1, 1, 1) == Color.from_hsv(0, 1, 1)  # a full turn is red again
+
+
+def test_arithmetic_and_contrast():
+    assert Color(0.5, 0.25, 1, 0.5) * Color(0.5, 1, 0.5, 0.5) == Color(0.25, 0.25, 0.5, 1)
+    assert (Color(0.5, 0.5, 0.5, 1) + Color(0.25, 0, 0, 0)).components == (0.75, 0.5, 0.5, 1)
+    assert Color(1, 1, 0.9).contrasting() == Color(0, 0, 0) and Color(0.1, 0, 0.2).contrasting() == Color(1, 1, 1)
+
+
+def test_ramps():
+    assert ColorRamp.rainbow(3) == [Color(1, 0, 0), Color(0, 1, 0), Color(0, 0, 1)]
+    assert ColorRamp.rainbow(5, reverse=True) == ColorRamp.rainbow(5)[::-1]
+    assert ColorRamp.blue_to_red(3, alpha=0.5)[0] == Color(0, 0, 1, 0.5)
+    assert ColorRamp.black_to_white(2) == [Color(0, 0, 0), Color(1, 1, 1)]
+    assert len(set(c.rgba for c in ColorRamp.wrap_around(6))) == 6
+    assert ColorRamp.interpolate(["Black", "White"], 3)[1] == Color(0.5, 0.5, 0.5)
+    assert ColorRamp.rainbow(0) == [] and ColorRamp.interpolate([], 4) == []
+    with pytest.raises(TypeError) as raised:
+        ColorRamp.interpolate("Red", 2)
+    assert str(raised.value) == "names must be a sequence of str, not str"
+
+
+def test_light_defaults_and_position():
+    light = Light()
+    assert (light.enabled, light.ambient_color, light.diffuse_color, light.specular_color) == (
+        False, "Black", "#B3B3B3", "#5C5C5C")
+    assert light.position == (0, 0, 1) and light.colors[1] == Color.from_name("#B3B3B3")
+    assert light.set_position(90, 0) is light
+    assert light.position == pytest.approx((0, 1, 0), abs=1e-7) and light.latitude == 90
+    assert light != Light()
+    light.diffuse_color = "Sky blue"
+    assert light.colors[1] == ColorMap.lookup("Sky blue")
