@@ -6,6 +6,7 @@
 #include "py_ErrorTranslator.h"
 #include "py_InterfaceObject.h"
 #include "py_Library.h"
+#include "py_Session.h"
 #include "py_ValueConverter.h"
 #include "py_ValueTypes.h"
 
@@ -37,6 +38,7 @@ PYBIND11_MODULE(cvxutils, module) {
   py_InterfaceObject::Register(module);
   py_DemoCommands::Register(module);
   py_ErrorSamples::Register(module);
+  py_Session::Register(module);
   module.def("echo", &Echo, py::arg("value"),
              "Carries value into the library's primitive and back.");
   module.def("text", &Text, py::arg("value"),
