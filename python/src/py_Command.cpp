@@ -42,6 +42,8 @@ void py_Command::Add(py::module_& module, const char* name, Handler handler, con
 
 PyObject* py_Command::Call(PyObject* self, PyObject* const* args, std::size_t nargsf,
                            PyObject* kwnames) {
+  // A Ctrl-C seen outside any command is delivered before this one runs.
+  if (py_Interrupt::Raise()) return nullptr;
   const Handler handler = reinterpret_cast<CommandObject*>(self)->handler;
   py_Journal& journal = py_Journal::Instance();
   PyObject* result = py_CallArguments::Run(

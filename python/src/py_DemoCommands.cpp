@@ -189,8 +189,9 @@ omu_Primitive* DensifyMaterial(omu_Arguments& args) {
   args.Get(rows, "rows");
   args.End("densifyMaterial");
   omu_RangeChecker::CheckGreaterThan("rows", 0, true, rows);
-  py_DemoMaterial::Record& material = py_DemoModel::Instance().Material(name);
-  mdl_PropertyTable table = material.elastic;
+  // Held: another thread may reset the model while this one works without the GIL.
+  const std::shared_ptr<py_DemoMaterial::Record> material = py_DemoModel::Instance().Material(name);
+  mdl_PropertyTable table = material->elastic;
   omu_RangeChecker::CheckGreaterThan("len(elastic)", 2, true, table.Rows());
   const std::unique_ptr<wip_WipReporter> silent = py_ReporterSlot::Ensure();
   {
@@ -202,7 +203,7 @@ omu_Primitive* DensifyMaterial(omu_Arguments& args) {
       progress.Advance();
     }
   }
-  material.elastic = table;
+  material->elastic = table;
   return new omu_PrimNumber(table.Rows());
 }
 

@@ -38,7 +38,8 @@ void WriteSection(const py_DemoSection::Record& section, const cls_WriteVisitor&
   writer.WriteObject("material", section.material);
   const auto& statuses = section.statuses;
   writer.WriteObjects("statuses", statuses.Length(), [&](int i, const cls_WriteVisitor& item) {
-    item.WriteValue(cls_Value(cls_EnumName{omu_PrimEnum<mdl_PropagationStatusEnm, 1>(statuses[i]).Name()}));
+    item.WriteValue(
+        cls_Value(cls_EnumName{omu_PrimEnum<mdl_PropagationStatusEnm, 1>(statuses[i]).Name()}));
   });
 }
 }  // namespace
@@ -57,9 +58,9 @@ void py_DemoModel::Add(std::shared_ptr<py_DemoSection::Record> section) {
   Replace(m_Sections, std::move(section));
 }
 
-py_DemoMaterial::Record& py_DemoModel::Material(const cow_String& name) const {
+std::shared_ptr<py_DemoMaterial::Record> py_DemoModel::Material(const cow_String& name) const {
   for (const auto& material : m_Materials) {
-    if (material->name == name && !material->deleted) return *material;
+    if (material->name == name && !material->deleted) return material;
   }
   NEX_THROW(omu_KeyErrorException(omu_NameString(name)), kSource);
 }
@@ -78,8 +79,9 @@ std::string py_DemoModel::Archive() const {
   root.StartWrite(kModelTypeId, cls_Uid());
   root.WriteObjects("materials", static_cast<int>(live.size()),
                     [&](int i, const cls_WriteVisitor& item) { WriteMaterial(*live[i], item); });
-  root.WriteObjects("sections", static_cast<int>(m_Sections.size()),
-                    [&](int i, const cls_WriteVisitor& item) { WriteSection(*m_Sections[i], item); });
+  root.WriteObjects(
+      "sections", static_cast<int>(m_Sections.size()),
+      [&](int i, const cls_WriteVisitor& item) { WriteSection(*m_Sections[i], item); });
   root.WriteObject("notes", m_Notes);
   return archive.ToBytes();
 }

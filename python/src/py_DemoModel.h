@@ -9,7 +9,8 @@
 //   Archive()   the model through the library's archive writer (cls_Archive::ToBytes): one
 //               record holding "materials" (name, elastic property table), "sections"
 //               (name, thickness and material as propagating attributes, step statuses by
-//               name) and "notes" (a text-keyed dictionary primitive). Identities are numbered in write order, so equal models give equal bytes.
+//               name) and "notes" (a text-keyed dictionary primitive). Identities are numbered in
+//               write order, so equal models give equal bytes.
 //   Reset()     empties the model.
 //
 // One model per process; call with the GIL held.
@@ -30,7 +31,7 @@ public:
   void Add(std::shared_ptr<py_DemoMaterial::Record> material);
   void Add(std::shared_ptr<py_DemoSection::Record> section);
   // The live material of that name; KeyError otherwise.
-  py_DemoMaterial::Record& Material(const cow_String& name) const;
+  std::shared_ptr<py_DemoMaterial::Record> Material(const cow_String& name) const;
   void Annotate(const cow_String& key, const omu_PrimTuple& values);
   std::string Archive() const;
   void Reset();

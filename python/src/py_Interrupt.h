@@ -5,7 +5,8 @@
 // the calling thread and the running task is told it was interrupted, so it unwinds through
 // the library's interrupt path (wip_InterruptException). When the command returns, the
 // command entry (py_Command) raises the kept exception in place of whatever the command
-// answered, so the script sees the KeyboardInterrupt its handler raised.
+// answered, so the script sees the KeyboardInterrupt its handler raised; one kept outside any
+// command (a report from a method's work) is raised by the next command before it runs.
 //
 // Signal handlers run only on the main thread: elsewhere Poll never reports an interrupt.
 // Call with the GIL held.

@@ -31,8 +31,7 @@ const omu_Primitive* Converted(const omu_Arguments& arguments, PyObject* kwnames
 
 // name(value, ..., keyword=value, ...) for count arguments; valueAt(i) gives argument i.
 template <class ValueAt>
-std::string CallText(PyObject* command, PyObject* kwnames, std::uint32_t count,
-                     ValueAt&& valueAt) {
+std::string CallText(PyObject* command, PyObject* kwnames, std::uint32_t count, ValueAt&& valueAt) {
   std::string text = py::str(py::handle(command).attr("__name__")).cast<std::string>();
   text += '(';
   const auto positional =
@@ -69,7 +68,6 @@ py_Journal& py_Journal::Instance() {
   return *journal;
 }
 
-
 void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t nargsf,
                            PyObject* kwnames, const omu_Arguments& arguments) {
   const Py_ssize_t positional = PyVectorcall_NARGS(nargsf);
@@ -104,10 +102,10 @@ void py_Journal::Failed(PyObject* command, PyObject* const* args, std::size_t na
   const Py_ssize_t count = PyVectorcall_NARGS(nargsf) + (kwnames ? PyTuple_GET_SIZE(kwnames) : 0);
   try {
     // Made now: keeping the arguments would keep whatever a failed call was given alive.
-    std::string text = "# " + CallText(command, kwnames, static_cast<std::uint32_t>(count),
-                                       [&](std::uint32_t i) {
-                                         return py::reinterpret_borrow<py::object>(args[i]);
-                                       });
+    std::string text =
+        "# " + CallText(command, kwnames, static_cast<std::uint32_t>(count), [&](std::uint32_t i) {
+          return py::reinterpret_borrow<py::object>(args[i]);
+        });
     text += "  -> " + ErrorText(value ? value : type);
     m_Comments.push_back(std::move(text));
     m_Calls.push_back({nullptr, nullptr, static_cast<std::uint32_t>(m_Arguments.size()), 0,
@@ -152,7 +150,8 @@ void py_Journal::Clear() {
 namespace {
 py::list ReadLines(const py::object& source) {
   if (py::isinstance<py::str>(source) || py::hasattr(source, "__fspath__")) {
-    const py::object file = py::module_::import("io").attr("open")(source, "r", "encoding"_a = "utf-8");
+    const py::object file =
+        py::module_::import("io").attr("open")(source, "r", "encoding"_a = "utf-8");
     const py::object text = file.attr("read")();
     file.attr("close")();
     return text.attr("splitlines")();
@@ -182,7 +181,8 @@ void py_Journal::Register(py::module_& module) {
         return lines;
       },
       "The journal: one line of Python per command run, failed ones as comments.");
-  module.def("clear_journal", [] { Instance().Clear(); }, "Empties the journal.");
+  module.def(
+      "clear_journal", [] { Instance().Clear(); }, "Empties the journal.");
   module.def(
       "write_journal",
       [](const py::object& path) {
@@ -190,9 +190,8 @@ void py_Journal::Register(py::module_& module) {
         std::string body;
         for (const std::string& line : lines) body += line + '\n';
         const bool arrays = body.find("numpy.array(") != std::string::npos;
-        const std::string text =
-            "import cvxutils\n" + std::string(arrays ? "import numpy\n" : "") +
-            "from cvxutils import *\n" + body;
+        const std::string text = "import cvxutils\n" + std::string(arrays ? "import numpy\n" : "") +
+                                 "from cvxutils import *\n" + body;
         const py::object file =
             py::module_::import("io").attr("open")(path, "w", "encoding"_a = "utf-8");
         file.attr("write")(text);

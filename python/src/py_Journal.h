@@ -7,11 +7,11 @@
 //
 // Always on, and cheap on the call path: a call that succeeded keeps references to its command
 // and its arguments, and its text is made when the journal is read; a failed call's comment
-// is made when it fails, so that the journal keeps nothing a failed call was given alive. An argument a script may still
-// change (anything but int, float, str, bool, None, complex and SymbolicConstant) is kept as a
-// copy of the primitive it became, which costs O(1) for containers (copy-on-write). A NumPy
-// array the library shares without copying is journaled as it is when the journal is read.
-// The journal grows until cleared: about 16 bytes per argument and 32 per call.
+// is made when it fails, so that the journal keeps nothing a failed call was given alive. An
+// argument a script may still change (anything but int, float, str, bool, None, complex and
+// SymbolicConstant) is kept as a copy of the primitive it became, which costs O(1) for containers
+// (copy-on-write). A NumPy array the library shares without copying is journaled as it is when the
+// journal is read. The journal grows until cleared: about 16 bytes per argument and 32 per call.
 //
 // Scripts see:
 //   journal()            the lines, a list of str
