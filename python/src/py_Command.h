@@ -3,6 +3,8 @@
 // the call's arguments straight to the binder (py_CallArguments), with no Python-level
 // argument parsing in between. The handler receives the omu_Arguments, binds them with
 // Begin/Get/End and answers a new primitive (null for None) that the command owns.
+// Every call is journaled (py_Journal), and a Ctrl-C seen while the command ran
+// (py_Interrupt) raises the KeyboardInterrupt when it returns.
 #include <omu_Arguments.h>
 #include <pybind11/pybind11.h>
 

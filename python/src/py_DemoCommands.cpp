@@ -2,13 +2,20 @@
 
 #include "py_Command.h"
 #include "py_DemoMaterial.h"
+#include "py_DemoModel.h"
 #include "py_DemoSection.h"
+#include "py_ReporterSlot.h"
 
 #include <omu_Arguments.h>
 #include <omu_CorvexName.h>
 #include <omu_PrimBoolean.h>
+#include <omu_PrimNumber.h>
 #include <omu_PrimString.h>
 #include <omu_RangeChecker.h>
+#include <wip_Progress.h>
+
+#include <cmath>
+#include <vector>
 
 namespace py = pybind11;
 
@@ -26,6 +33,7 @@ omu_Primitive* CreateMaterial(omu_Arguments& args) {
   auto record = std::make_shared<py_DemoMaterial::Record>(
       py_DemoMaterial::Record{name.Name(), mdl_PropertyTable(elastic)});
   py_DemoMaterial::SortAndValidate(record->elastic, keyColumns);
+  py_DemoModel::Instance().Add(record);
   return new py_DemoMaterial(std::move(record));
 }
 
@@ -45,6 +53,7 @@ omu_Primitive* CreateSection(omu_Arguments& args) {
   record->thickness = thickness;
   if (!material.IsEmpty()) record->material = material;
   record->statuses.Append(CREATED);
+  py_DemoModel::Instance().Add(record);
   return new py_DemoSection(std::move(record));
 }
 
@@ -137,6 +146,85 @@ omu_Primitive* Probe(omu_Arguments& args) {
   return nullptr;
 }
 
+// Table with a row inserted after row: the mean of it and the next row.
+cow_2DArray<double> WithMidpoint(const cow_2DArray<double>& table, int row) {
+  const int columns = table.Columns();
+  cow_2DArray<double> result(table.Rows() + 1, columns);
+  std::vector<double>& cells = result.MutableCells();
+  const std::vector<double>& source = table.Cells();
+  const auto split = source.begin() + static_cast<std::ptrdiff_t>(row + 1) * columns;
+  std::copy(source.begin(), split, cells.begin());
+  std::copy(split, source.end(), cells.begin() + (row + 2) * columns);
+  for (int column = 0; column < columns; ++column) {
+    result.Set(row + 1, column, (table(row, column) + table(row + 1, column)) / 2);
+  }
+  return result;
+}
+
+// One refinement: a row in the middle of the widest gap of the key (last) column, then the
+// table sorted and validated again.
+void InsertMidpoint(mdl_PropertyTable& table) {
+  const int key = table.Columns() - 1;
+  int widest = 0;
+  for (int row = 1; row + 1 < table.Rows(); ++row) {
+    if (std::abs(table(row + 1, key) - table(row, key)) >
+        std::abs(table(widest + 1, key) - table(widest, key))) {
+      widest = row;
+    }
+  }
+  const bool allowEmptyFirstRow = table.AllowEmptyFirstRow();
+  table = mdl_PropertyTable(WithMidpoint(table.Table(), widest));
+  table.SetAllowEmptyFirstRow(allowEmptyFirstRow);
+  table.Sort(1);
+  table.AssertValid();
+}
+
+// The long task: runs without the GIL, reports one step per row and stops between rows when
+// interrupted. It refines a copy, so the material changes only when every row is in.
+omu_Primitive* DensifyMaterial(omu_Arguments& args) {
+  cow_String name;
+  int rows = 0;
+  args.Begin();
+  args.Get(name, "name");
+  args.Get(rows, "rows");
+  args.End("densifyMaterial");
+  omu_RangeChecker::CheckGreaterThan("rows", 0, true, rows);
+  // Held: another thread may reset the model while this one works without the GIL.
+  const std::shared_ptr<py_DemoMaterial::Record> material = py_DemoModel::Instance().Material(name);
+  mdl_PropertyTable table = material->elastic;
+  omu_RangeChecker::CheckGreaterThan("len(elastic)", 2, true, table.Rows());
+  const std::unique_ptr<wip_WipReporter> silent = py_ReporterSlot::Ensure();
+  {
+    const py::gil_scoped_release unlocked;
+    wip_Progress progress("densifyMaterial " + name.StdString(), rows, "rows");
+    for (int row = 0; row < rows; ++row) {
+      progress.CheckInterrupt();
+      InsertMidpoint(table);
+      progress.Advance();
+    }
+  }
+  material->elastic = table;
+  return new omu_PrimNumber(table.Rows());
+}
+
+omu_Primitive* Annotate(omu_Arguments& args) {
+  cow_String key;
+  omu_PrimTuple values;
+  args.Begin();
+  args.Get(key, "key");
+  args.Get(values, "values");
+  args.End("annotate");
+  py_DemoModel::Instance().Annotate(key, values);
+  return nullptr;
+}
+
+omu_Primitive* ResetModel(omu_Arguments& args) {
+  args.Begin();
+  args.End("resetModel");
+  py_DemoModel::Instance().Reset();
+  return nullptr;
+}
+
 // Each name of an enumeration's table as a module constant.
 template <class E>
 void AddConstants(py::module_& module) {
@@ -163,6 +251,15 @@ void py_DemoCommands::Register(py::module_& module) {
                   "checkGreaterThan(name, lower, lowerInclusive, value): None or RangeError");
   py_Command::Add(module, "probe", &Probe,
                   "probe(a, b, c, flag=False, name=''): binds its arguments, answers None");
+  py_Command::Add(module, "densifyMaterial", &DensifyMaterial,
+                  "densifyMaterial(name, rows): adds rows to the material's elastic table, one "
+                  "midpoint at a time, reporting progress; Ctrl-C leaves the table as it was");
+  py_Command::Add(module, "annotate", &Annotate,
+                  "annotate(key, values): keeps the tuple values as the model's note under key");
+  py_Command::Add(module, "resetModel", &ResetModel, "resetModel(): empties the model");
+  module.def(
+      "modelArchive", [] { return py::bytes(py_DemoModel::Instance().Archive()); },
+      "The model as the library's archive bytes.");
   AddConstants<mdl_PropagationStatusEnm>(module);
   AddConstants<mdl_PropAttributeStateEnm>(module);
 }

@@ -14,10 +14,24 @@
 //   checkGreaterThan(name, lower, lowerInclusive, value)
 //                                                   None, or RangeError; integer checks when
 //                                                   the lower limit is an int, else floating
+//   densifyMaterial(name, rows)                    the long task: adds rows to the elastic
+//                                                   table of the model's material name, each
+//                                                   the midpoint of the widest gap of the
+//                                                   last column, re-sorting and validating
+//                                                   after each; reports progress per row
+//                                                   without holding the GIL, and on Ctrl-C
+//                                                   raises KeyboardInterrupt with the table as
+//                                                   it was; answers the row count
+//   annotate(key, values)                           keeps the tuple values (of any values
+//                                                   that persist) as the model's note
+//   resetModel()                                    empties the model (py_DemoModel)
+//   modelArchive()                                  the model's archive, bytes (a function,
+//                                                   not a command: saving is not journaled)
 //   probe(a, b, c, flag=False, name='')             binds an int, a float, a str, a bool and
 //                                                   a str and answers None: the call path alone
 //
-// The propagation statuses and attribute states are module constants (cvxutils.CREATED,
+// createMaterial and createSection add what they make to the model, replacing one of the same
+// name. The propagation statuses and attribute states are module constants (cvxutils.CREATED,
 // cvxutils.SET, ...), made from the enumerations' own tables.
 #include <pybind11/pybind11.h>
 

@@ -7,6 +7,7 @@
 #include "py_Geometry.h"
 #include "py_InterfaceObject.h"
 #include "py_Library.h"
+#include "py_Session.h"
 #include "py_ValueConverter.h"
 #include "py_ValueTypes.h"
 #include "py_Viewing.h"
@@ -41,6 +42,7 @@ PYBIND11_MODULE(cvxutils, module) {
   py_ErrorSamples::Register(module);
   py_Geometry::Register(module);
   py_Viewing::Register(module);
+  py_Session::Register(module);
   module.def("echo", &Echo, py::arg("value"),
              "Carries value into the library's primitive and back.");
   module.def("text", &Text, py::arg("value"),

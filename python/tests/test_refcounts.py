@@ -40,6 +40,7 @@ def test_object_kept_by_the_library_keeps_one_reference():
         section.userData = [carried]
         assert section.userData[0] is carried
     assert sys.getrefcount(carried) == before + 1
+    cvxutils.resetModel()  # the model holds the section as well
     del section
     assert sys.getrefcount(carried) == before
 

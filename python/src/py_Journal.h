@@ -1,0 +1,71 @@
+#pragma once
+// The journal of a session: every command a script runs through py_Command, one line of
+// Python per call, in call order, so that replaying the lines runs the same commands with
+// the same arguments (py_JournalText gives the argument forms). A call that raised is a
+// comment with its error, "# createSection('S', -1.0)  -> RangeError: ...", and is not
+// replayed. Methods and members of repository objects are not commands and are not journaled.
+//
+// Always on, and cheap on the call path: a call that succeeded keeps references to its command
+// and its arguments, and its text is made when the journal is read; a failed call's comment
+// is made when it fails, so that the journal keeps nothing a failed call was given alive. An
+// argument a script may still change (anything but int, float, str, bool, None, complex and
+// SymbolicConstant) is kept as a copy of the primitive it became, which costs O(1) for containers
+// (copy-on-write). A NumPy array the library shares without copying is journaled as it is when the
+// journal is read. The journal grows until cleared: about 16 bytes per argument and 32 per call.
+//
+// Scripts see:
+//   journal()            the lines, a list of str
+//   clear_journal()
+//   write_journal(path)  the lines as a runnable script (with the imports it needs)
+//   replay(lines_or_path)  runs the lines (a sequence of str, or a file written by
+//                        write_journal) in a namespace holding the module's names, numpy
+//                        and cvxutils; comments and blank lines are skipped; a line that
+//                        raises stops the replay with its error
+//
+// One journal per process, used with the GIL held.
+#include <Python.h>
+#include <omu_Arguments.h>
+#include <pybind11/pybind11.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+class py_Journal {
+public:
+  static py_Journal& Instance();
+  static void Register(pybind11::module_& module);
+
+  // A call of command that succeeded; arguments are its converted values.
+  void Succeeded(PyObject* command, PyObject* const* args, std::size_t nargsf, PyObject* kwnames,
+                 const omu_Arguments& arguments);
+  // A call of command that failed, with its Python error set (and left set).
+  void Failed(PyObject* command, PyObject* const* args, std::size_t nargsf,
+              PyObject* kwnames) noexcept;
+
+  std::vector<std::string> Lines() const;
+  void Clear();
+
+private:
+  // An argument: a Python object that cannot change, or a copy of the primitive it became.
+  struct Argument {
+    PyObject* object;
+    std::unique_ptr<omu_Primitive> snapshot;
+  };
+  // A call that succeeded: command, kwnames (null when none) and count arguments from first.
+  // A failed one: only its comment, made when it failed.
+  struct Call {
+    PyObject* command;
+    PyObject* kwnames;
+    std::uint32_t first;
+    std::uint32_t count;
+    std::int32_t comment;  // index in m_Comments, -1 for a call that succeeded
+  };
+
+  std::string Text(const Call& call) const;
+
+  std::vector<Call> m_Calls;
+  std::vector<Argument> m_Arguments;
+  std::vector<std::string> m_Comments;
+};

@@ -1,0 +1,131 @@
+"""Native progress seen from Python: reporters written in Python, the console reporter, Ctrl-C."""
+import os
+import signal
+import threading
+
+import pytest
+
+import cvxutils
+
+ELASTIC = ((200e9, 0.3, 20.0), (190e9, 0.3, 100.0))
+
+
+class Recorder:
+    """Keeps every report it receives, in order."""
+
+    def __init__(self, fail_at=None):
+        self.reports = []
+        self.fail_at = fail_at
+
+    def progress(self, task, unit, done, total):
+        self.reports.append(("progress", task, unit, done, total))
+        if done == self.fail_at:
+            raise ValueError(f"reporter gave up at {done}")
+
+    def interrupted(self):
+        self.reports.append(("interrupted",))
+        return False
+
+
+@pytest.fixture
+def material():
+    return cvxutils.createMaterial("M", ELASTIC, 1)
+
+
+@pytest.fixture
+def recorder():
+    recorder = Recorder()
+    with cvxutils.install_reporter(recorder):
+        yield recorder
+
+
+def test_python_reporter_receives_the_reports_in_order(material, recorder):
+    assert cvxutils.densifyMaterial("M", 3) == 5
+    step = lambda done: ("progress", "densifyMaterial M", "rows", done, 3)
+    asked = ("interrupted",)
+    assert recorder.reports == [step(0), asked, step(1), asked, step(2), asked, step(3)]
+    # Midpoints of the widest gap each time: 60, then 40 (first of two equal gaps), then 80.
+    assert [row[2] for row in material.elastic] == [20.0, 40.0, 60.0, 80.0, 100.0]
+    assert material.elastic[2] == (195e9, 0.3, 60.0)
+
+
+def test_long_tasks_thin_their_reports(material, recorder):
+    cvxutils.densifyMaterial("M", 2500)
+    done = [report[3] for report in recorder.reports if report[0] == "progress"]
+    assert done == list(range(0, 2501, 2))
+
+
+def test_reporter_methods_may_be_missing(material):
+    with cvxutils.install_reporter(object()):
+        assert cvxutils.densifyMaterial("M", 4) == 6
+
+
+def test_reporter_exception_reaches_the_script_and_the_task_leaves_nothing(material):
+    with cvxutils.install_reporter(Recorder(fail_at=2)):
+        with pytest.raises(ValueError, match="reporter gave up at 2"):
+            cvxutils.densifyMaterial("M", 5)
+    assert material.elastic == ELASTIC
+    assert cvxutils.journal()[-1] == ("# densifyMaterial('M', 5)  -> ValueError: reporter gave up "
+                                      "at 2")
+
+
+def test_install_reporter_nests_and_restores():
+    first, second = Recorder(), Recorder()
+    assert cvxutils.reporter() is None
+    with cvxutils.install_reporter(first) as installed:
+        assert installed is first and cvxutils.reporter() is first
+        with cvxutils.install_reporter(second):
+            assert cvxutils.reporter() is second
+        assert cvxutils.reporter() is first
+    assert cvxutils.reporter() is None
+
+
+def test_reporters_are_per_thread(material, recorder):
+    seen = []
+    worker = threading.Thread(target=lambda: seen.append(cvxutils.reporter()))
+    worker.start()
+    worker.join()
+    assert seen == [None] and cvxutils.reporter() is recorder
+
+
+def test_console_reporter_draws_the_task(material, capfd):
+    console = cvxutils.ConsoleReporter("plain")
+    assert not console.shows_bar and cvxutils.ConsoleReporter("terminal").shows_bar
+    with cvxutils.install_reporter(console):
+        cvxutils.densifyMaterial("M", 10)
+    err = capfd.readouterr().err
+    assert "densifyMaterial M: 100%" in err and "10/10 rows" in err
+    with pytest.raises(ValueError, match="style is 'auto', 'plain' or 'terminal'"):
+        cvxutils.ConsoleReporter("fancy")
+
+
+# One row per reporter the interrupted task reports to: none installed (the module's silent
+# one), a Python reporter, the console reporter.
+@pytest.mark.parametrize("make_reporter", [lambda: None, Recorder,
+                                           lambda: cvxutils.ConsoleReporter("plain")],
+                         ids=["none", "python", "console"])
+def test_ctrl_c_stops_the_task_and_leaves_the_model_as_it_was(material, make_reporter):
+    before = cvxutils.modelArchive()
+    reporter = make_reporter()
+    timer = threading.Timer(0.3, os.kill, (os.getpid(), signal.SIGINT))
+    with cvxutils.install_reporter(reporter):
+        timer.start()
+        try:
+            with pytest.raises(KeyboardInterrupt):
+                cvxutils.densifyMaterial("M", 1_000_000)
+        finally:
+            timer.cancel()
+    assert material.elastic == ELASTIC and cvxutils.modelArchive() == before
+    assert cvxutils.journal()[-1].startswith("# densifyMaterial('M', 1000000)  -> KeyboardInterrupt")
+    if isinstance(reporter, Recorder):
+        steps = reporter.reports.count(("interrupted",))
+        assert 0 < steps < 1_000_000  # stopped in the middle, not before or after
+
+
+def test_console_reporter_interrupt_request_stops_the_task(material):
+    console = cvxutils.ConsoleReporter("plain")
+    console.request_interrupt()
+    with cvxutils.install_reporter(console):
+        with pytest.raises(RuntimeError, match="Operation interrupted by the user."):
+            cvxutils.densifyMaterial("M", 5)
+    assert material.elastic == ELASTIC
