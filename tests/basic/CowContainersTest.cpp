@@ -1,10 +1,11 @@
+#include "RaisedText.h"
+
 #include <cow_2DArray.h>
 #include <cow_Btree.h>
 #include <cow_COW.h>
 #include <cow_List.h>
 #include <cow_Map.h>
 #include <cow_String.h>
-#include <nex_TextException.h>
 
 #include <gtest/gtest.h>
 
@@ -122,17 +123,6 @@ TEST(CowCOW, ClonesThroughTheVirtualCopyOnlyWhenShared) {
 }
 
 namespace {
-// The text of the refusal, or "ok".
-template <class Call>
-std::string Refusal(Call&& call) {
-  try {
-    call();
-  } catch (const nex_TextException& e) {
-    return e.Text().StdString();
-  }
-  return "ok";
-}
-
 std::string ListRefusal(int index) {
   return "List index " + std::to_string(index) + " out of range (length 3)";
 }
@@ -156,13 +146,12 @@ TEST(CowList, AnIndexOutsideIsRefusedAndChangesNothing) {
   for (const auto& operation : operations) {
     for (const int index : {-1, 3, 4, std::numeric_limits<int>::min()}) {
       if (index <= operation.lastValid && index >= 0) continue;
+      SCOPED_TRACE(std::string(operation.name) + '(' + std::to_string(index) + ')');
       const cow_List<int> original{1, 2, 3};
       cow_List<int> list(original);
-      EXPECT_EQ(Refusal([&] { operation.call(list, index); }), ListRefusal(index))
-          << operation.name << '(' << index << ')';
-      EXPECT_TRUE(list.SharesWith(original)) << operation.name << '(' << index << ')';
-      EXPECT_EQ(list.Vector(), (std::vector<int>{1, 2, 3}))
-          << operation.name << '(' << index << ')';
+      EXPECT_EQ(RaisedText([&] { operation.call(list, index); }), ListRefusal(index));
+      EXPECT_TRUE(list.SharesWith(original));
+      EXPECT_EQ(list.Vector(), (std::vector<int>{1, 2, 3}));
     }
   }
 }
@@ -186,7 +175,7 @@ TEST(Cow2DArray, ARowOrColumnOutsideIsRefusedAndChangesNothing) {
       cow_2DArray<double> array(original);
       const std::string expected = "Array index (" + std::to_string(at.row) + ", " +
                                    std::to_string(at.column) + ") out of range (2 x 3)";
-      EXPECT_EQ(Refusal([&] { operation.call(array, at.row, at.column); }), expected)
+      EXPECT_EQ(RaisedText([&] { operation.call(array, at.row, at.column); }), expected)
           << operation.name << '(' << at.row << ", " << at.column << ')';
       EXPECT_EQ(array.Cells(), std::vector<double>(6, 1.0)) << operation.name;
     }
