@@ -105,7 +105,7 @@ TEST(ConsoleReporter, AutoStyleDrawsNoBarOnAStreamThatIsNoTerminal) {
   EXPECT_FALSE(wip_ConsoleReporter(wip_ConsoleReporter::STYLE_AUTO, stream).ShowsBar());
 }
 
-TEST(Progress, ReportsAboutAThousandTimesFromStartToEnd) {
+TEST(Progress, ReportsAboutAThousandTimesAndEveryUnitOfASmallTask) {
   wip_WIPBase front;
   RecordingReporter reporter;
   front.SetWipReporter(&reporter);
@@ -117,15 +117,10 @@ TEST(Progress, ReportsAboutAThousandTimesFromStartToEnd) {
   EXPECT_EQ(reporter.calls[1], "Milestone(Mesh|faces,100,100000)");
   EXPECT_EQ(reporter.calls.back(), "Milestone(Mesh|faces,100000,100000)");
   EXPECT_DOUBLE_EQ(progress.Fraction(), 1.0);
-}
-
-TEST(Progress, ReportsTheEndOfASmallTaskAndEveryUnitOfIt) {
-  wip_WIPBase front;
-  RecordingReporter reporter;
-  front.SetWipReporter(&reporter);
-  wip_Progress progress(front, "T", 2);
-  progress.Advance();
-  progress.Advance(5);
+  reporter.calls.clear();
+  wip_Progress small(front, "T", 2);
+  small.Advance();
+  small.Advance(5);
   EXPECT_EQ(reporter.calls,
             (std::vector<std::string>{"Milestone(T|items,0,2)", "Milestone(T|items,1,2)",
                                       "Milestone(T|items,2,2)"}));
