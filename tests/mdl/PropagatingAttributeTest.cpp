@@ -35,47 +35,37 @@ TEST(PropAttr, AValueGivenAtConstructionIsNoSetAndCopiesKeepTheUid) {
 }
 
 TEST(PropAttr, StateMachineCoversEveryStateAndTransition) {
-  struct Row {
-    mdl_PropAttributeStateEnm before;
-    mdl_PropAttributeStateEnm afterPropagate;
-  };
-  const Row rows[] = {{UNSET, UNSET},
-                      {SET, UNCHANGED},
-                      {UNCHANGED, UNCHANGED},
-                      {FREED, UNSET},
-                      {NOT_APPLICABLE, NOT_APPLICABLE},
-                      {INVALID, INVALID},
-                      {ABS_DEFAULT, ABS_DEFAULT},
-                      {COMP_DEFAULT, COMP_DEFAULT}};
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.before);
-    PropString assigned = Holder(row.before);
+  for (mdl_PropAttributeStateEnm before : kStates) {
+    SCOPED_TRACE(before);
+    // Propagation carries a set value on as unchanged and forgets a freed one.
+    const auto afterPropagate = before == SET ? UNCHANGED : before == FREED ? UNSET : before;
+    PropString assigned = Holder(before);
     assigned = cow_String("new");
     EXPECT_EQ(assigned.State(), SET);
     EXPECT_TRUE(assigned == cow_String("new"));
 
-    PropString fetched = Holder(row.before);
+    PropString fetched = Holder(before);
     EXPECT_EQ(fetched.Get(), "abc");
     EXPECT_EQ(fetched.State(), SET);
 
-    PropString propagated = Holder(row.before);
+    PropString propagated = Holder(before);
     propagated.Propagate();
-    EXPECT_EQ(propagated.State(), row.afterPropagate);
+    EXPECT_EQ(propagated.State(), afterPropagate);
     EXPECT_TRUE(propagated == cow_String("abc"));  // propagation never touches the value
 
     for (const PropString& other : {Holder(SET, "x"), Holder(FREED, "")}) {
-      PropString modified = Holder(row.before);
+      PropString modified = Holder(before);
       modified.Modify(other);
       EXPECT_EQ(modified, other);
     }
     for (mdl_PropAttributeStateEnm unmodified : {UNSET, UNCHANGED, NOT_APPLICABLE, COMP_DEFAULT}) {
-      PropString kept = Holder(row.before);
+      PropString kept = Holder(before);
       kept.Modify(Holder(unmodified, "x"));
-      EXPECT_EQ(kept, Holder(row.before));
+      EXPECT_EQ(kept, Holder(before));
     }
 
     for (mdl_PropAttributeStateEnm state : kStates) {
-      PropString holder = Holder(row.before);
+      PropString holder = Holder(before);
       holder = state;
       EXPECT_EQ(holder.State(), state);
       const bool zeroed = state == UNSET || state == FREED;
