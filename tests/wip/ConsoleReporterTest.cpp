@@ -47,6 +47,7 @@ TEST(ConsoleReporter, PrintsMessagesWithTheirKindAndVerboseOnlyOnRequest) {
 TEST(ConsoleReporter, PlainStylePrintsATaskOncePerTenthWithRateAndTimeLeft) {
   ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
   EXPECT_FALSE(console.ShowsBar());
+  EXPECT_FALSE(ClockedConsole(wip_ConsoleReporter::STYLE_AUTO).ShowsBar());  // no terminal
   console.Milestone("Meshing", "faces", 0, 1000);
   console.now = 102;
   console.Milestone("Meshing", "faces", 50, 1000);  // same tenth: nothing new
@@ -97,12 +98,6 @@ TEST(ConsoleReporter, AnInterruptRaisesOnceAndCommandDoneForgetsIt) {
   console.RequestInterrupt();
   console.CommandDone();
   EXPECT_EQ(console.Interrupted(), 0);
-}
-
-TEST(ConsoleReporter, AutoStyleDrawsNoBarOnAStreamThatIsNoTerminal) {
-  std::ostringstream text;
-  aio_ostream stream(&text);
-  EXPECT_FALSE(wip_ConsoleReporter(wip_ConsoleReporter::STYLE_AUTO, stream).ShowsBar());
 }
 
 TEST(Progress, ReportsAboutAThousandTimesAndEveryUnitOfASmallTask) {
