@@ -17,7 +17,7 @@ TEST(AtrString, CopiesShareAndWritesUnshare) {
   EXPECT_FALSE(a.IsShared());
 }
 
-TEST(AtrString, EditsClipAtTheEnds) {
+TEST(AtrString, EditsClipAtTheEndsAndFindAnswersTheLengthWhenAbsent) {
   atr_StringBase text("abcdef");
   text.Erase(4, 100);
   EXPECT_EQ(text, "abcd");
@@ -31,17 +31,13 @@ TEST(AtrString, EditsClipAtTheEnds) {
   EXPECT_EQ(text, ">aXYZdaX");
   EXPECT_EQ(text.ReplaceAll("X", "--"), ">a--YZda--");
   EXPECT_EQ(text.Substr(2, 3), "--Y");
-}
-
-TEST(AtrString, FindAnswersTheLengthWhenAbsent) {
-  const atr_StringBase text("['a']");
-  EXPECT_EQ(text.Find("']"), 3);
-  EXPECT_EQ(text.Find("zz"), text.Length());
-  EXPECT_EQ(text.Find('a', 3), text.Length());
+  EXPECT_EQ(text.Find("YZ"), 4);
+  EXPECT_EQ(text.Find("zz"), text.Length());  // absent: the length, from any start
+  EXPECT_EQ(text.Find('>', 3), text.Length());
   EXPECT_EQ(atr_StringBase().Find("x"), 0);
 }
 
-TEST(AtrString, NumbersUseTheShortestExactForm) {
+TEST(AtrString, NumbersUseTheShortestExactFormAndFormatPrintsAsPrintf) {
   EXPECT_EQ(atr_StringBase(1.0), "1");
   EXPECT_EQ(atr_StringBase(0.1), "0.1");
   EXPECT_EQ(atr_StringBase(1e20), "1e+20");
@@ -51,13 +47,9 @@ TEST(AtrString, NumbersUseTheShortestExactForm) {
   EXPECT_EQ(atr_StringBase(4294967295u), "4294967295");
   const double third = 1.0 / 3.0;
   EXPECT_EQ(std::stod(atr_StringBase(third).StdString()), third);
-}
-
-TEST(AtrString, FormatAndComparison) {
   EXPECT_EQ(atr_StringBase::Format("%s=%d", "n", 5), "n=5");
   EXPECT_EQ(atr_StringBase::Format("%s", ""), "");
   EXPECT_LT(atr_StringBase("OFF"), atr_StringBase("ON"));
-  EXPECT_EQ(atr_StringBase(), "");
   EXPECT_TRUE(atr_StringBase(nullptr).IsEmpty());
 }
 

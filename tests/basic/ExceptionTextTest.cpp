@@ -36,16 +36,7 @@ std::string Expected(const nex_Exception& e) {
 }
 }  // namespace
 
-TEST(ExceptionText, WhatStaysPutAcrossCalls) {
-  const nex_TextException e = Raised();
-  const char* first = e.what();
-  const std::string text = first;
-  EXPECT_EQ(text, Expected(e));
-  EXPECT_EQ(e.what(), first);
-  EXPECT_EQ(first, text);  // still readable: the second call did not free it
-}
-
-TEST(ExceptionText, CopiesCarryTheText) {
+TEST(ExceptionText, WhatStaysPutOnTheOriginalAndItsCopies) {
   const struct {
     const char* how;
     std::function<std::unique_ptr<nex_Exception>(const nex_TextException&)> copy;
@@ -66,12 +57,17 @@ TEST(ExceptionText, CopiesCarryTheText) {
        }},
   };
   const nex_TextException original = Raised();
+  const char* first = original.what();
+  const std::string text = first;
+  EXPECT_EQ(text, Expected(original));
+  EXPECT_EQ(original.what(), first);
+  EXPECT_EQ(first, text);  // still readable: the second call did not free it
   for (const auto& c : cases) {
     const auto copy = c.copy(original);
     ASSERT_NE(copy, nullptr) << c.how;
-    const char* first = copy->what();
-    EXPECT_EQ(std::string(first), Expected(original)) << c.how;
-    EXPECT_EQ(copy->what(), first) << c.how << ": the copy rebuilt its text";
+    const char* copied = copy->what();
+    EXPECT_EQ(std::string(copied), Expected(original)) << c.how;
+    EXPECT_EQ(copy->what(), copied) << c.how << ": the copy rebuilt its text";
   }
 }
 

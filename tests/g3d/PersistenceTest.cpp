@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 namespace {
-// The colour error's round trip is part of the model-wide identity test in mdl.
+// The colour error round trips with the scripting errors in omu.
 TEST(G3dPersistenceTest, ValuesRoundTripThroughAFile) {
   EXPECT_EQ(*RoundTrip<g3d_Vector>(g3d_Vector(1.5f, -2, 0.1f)), g3d_Vector(1.5f, -2, 0.1f));
   EXPECT_EQ(*RoundTrip<g3d_Point>(g3d_Point(1, 2, 3, 0.5f)), g3d_Point(1, 2, 3, 0.5f));

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -45,8 +46,6 @@ TEST(FieldTable, WritesInTableOrderAndReadsBackByName) {
   EXPECT_EQ(names, (std::vector<std::string>{"ratio", "on", "label", "count"}));
   Sample back;
   kSampleFields.Read(reader, back);
-  EXPECT_EQ(back.ratio, sample.ratio);
-  EXPECT_EQ(back.on, sample.on);
-  EXPECT_EQ(back.label, sample.label);
-  EXPECT_EQ(back.count, sample.count);
+  EXPECT_EQ(std::tie(back.ratio, back.on, back.label, back.count),
+            std::tie(sample.ratio, sample.on, sample.label, sample.count));
 }

@@ -47,6 +47,7 @@ TEST(ConsoleReporter, PrintsMessagesWithTheirKindAndVerboseOnlyOnRequest) {
 TEST(ConsoleReporter, PlainStylePrintsATaskOncePerTenthWithRateAndTimeLeft) {
   ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
   EXPECT_FALSE(console.ShowsBar());
+  EXPECT_FALSE(ClockedConsole(wip_ConsoleReporter::STYLE_AUTO).ShowsBar());  // no terminal
   console.Milestone("Meshing", "faces", 0, 1000);
   console.now = 102;
   console.Milestone("Meshing", "faces", 50, 1000);  // same tenth: nothing new
@@ -99,13 +100,7 @@ TEST(ConsoleReporter, AnInterruptRaisesOnceAndCommandDoneForgetsIt) {
   EXPECT_EQ(console.Interrupted(), 0);
 }
 
-TEST(ConsoleReporter, AutoStyleDrawsNoBarOnAStreamThatIsNoTerminal) {
-  std::ostringstream text;
-  aio_ostream stream(&text);
-  EXPECT_FALSE(wip_ConsoleReporter(wip_ConsoleReporter::STYLE_AUTO, stream).ShowsBar());
-}
-
-TEST(Progress, ReportsAboutAThousandTimesFromStartToEnd) {
+TEST(Progress, ReportsAboutAThousandTimesAndEveryUnitOfASmallTask) {
   wip_WIPBase front;
   RecordingReporter reporter;
   front.SetWipReporter(&reporter);
@@ -117,15 +112,10 @@ TEST(Progress, ReportsAboutAThousandTimesFromStartToEnd) {
   EXPECT_EQ(reporter.calls[1], "Milestone(Mesh|faces,100,100000)");
   EXPECT_EQ(reporter.calls.back(), "Milestone(Mesh|faces,100000,100000)");
   EXPECT_DOUBLE_EQ(progress.Fraction(), 1.0);
-}
-
-TEST(Progress, ReportsTheEndOfASmallTaskAndEveryUnitOfIt) {
-  wip_WIPBase front;
-  RecordingReporter reporter;
-  front.SetWipReporter(&reporter);
-  wip_Progress progress(front, "T", 2);
-  progress.Advance();
-  progress.Advance(5);
+  reporter.calls.clear();
+  wip_Progress small(front, "T", 2);
+  small.Advance();
+  small.Advance(5);
   EXPECT_EQ(reporter.calls,
             (std::vector<std::string>{"Milestone(T|items,0,2)", "Milestone(T|items,1,2)",
                                       "Milestone(T|items,2,2)"}));
@@ -150,28 +140,22 @@ TEST(Progress, AnInterruptStopsTheTaskThroughTheThreadsReporter) {
   EXPECT_FALSE(progress.Interrupted());
 }
 
+// Each thread's text is what the same work writes on a thread alone.
 TEST(ConsoleReporter, ReportersOnSeveralThreadsWriteOnlyTheirOwnStreams) {
   constexpr int kThreads = 4;
-  std::vector<std::string> texts(kThreads);
+  const auto work = [](int t) {
+    ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
+    wip_WIP::Instance().SetWipReporter(&console);
+    wip_Progress progress("T" + std::to_string(t), 50);
+    for (int i = 0; i < 50; ++i) progress.Advance();
+    wip_WIP::Instance().Warning("w" + std::to_string(t));
+    return console.Text();
+  };
+  std::vector<std::string> alone(kThreads), together(kThreads);
+  for (int t = 0; t < kThreads; ++t) alone[t] = work(t);
   std::vector<std::thread> threads;
-  for (int t = 0; t < kThreads; ++t) {
-    threads.emplace_back([&texts, t] {
-      ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
-      wip_WIP::Instance().SetWipReporter(&console);
-      wip_Progress progress("T" + std::to_string(t), 50);
-      for (int i = 0; i < 50; ++i) progress.Advance();
-      wip_WIP::Instance().Warning("w" + std::to_string(t));
-      texts[t] = console.Text();
-    });
-  }
+  for (int t = 0; t < kThreads; ++t) threads.emplace_back([&, t] { together[t] = work(t); });
   for (std::thread& thread : threads) thread.join();
-  for (int t = 0; t < kThreads; ++t) {
-    const std::string name = "T" + std::to_string(t);
-    EXPECT_NE(texts[t].find(name + ": 100%  50/50 items"), std::string::npos);
-    EXPECT_NE(texts[t].find("Warning: w" + std::to_string(t) + "\n"), std::string::npos);
-    for (int other = 0; other < kThreads; ++other) {
-      if (other == t) continue;
-      EXPECT_EQ(texts[t].find("T" + std::to_string(other)), std::string::npos);
-    }
-  }
+  EXPECT_EQ(together, alone);
+  EXPECT_NE(alone[1].find("T1: 100%  50/50 items"), std::string::npos) << alone[1];
 }
