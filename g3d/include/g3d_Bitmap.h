@@ -1,7 +1,11 @@
 #pragma once
-// A raster of bits, used for marker symbols. Rows are packed most significant bit first
-// and padded to whole bytes; row 0 is the top row, or the bottom row when the bitmap was
-// sized bottom-up (the order that raster APIs drawing from the lower left expect).
+/// \addtogroup g3d
+/// @{
+
+/// \class g3d_Bitmap
+/// A raster of bits, used for marker symbols. Rows are packed most significant bit first
+/// and padded to whole bytes; row 0 is the top row, or the bottom row when the bitmap was
+/// sized bottom-up (the order that raster APIs drawing from the lower left expect).
 #include <g3d_Marker.h>
 
 #include <vector>
@@ -10,14 +14,14 @@ class CVX_EXPORT g3d_Bitmap {
 public:
   g3d_Bitmap() = default;
 
-  // Every bit starts as set; x runs right and y down from the top-left corner whatever the
-  // storage order.
+  /// Every bit starts as set; x runs right and y down from the top-left corner whatever the
+  /// storage order.
   void SetSize(int width, int height, bool set, bool bottomUp);
-  // 0 or 1; outside the raster 0.
+  /// 0 or 1; outside the raster 0.
   int GetBit(int x, int y) const noexcept;
   void SetBit(int x, int y, bool on) noexcept;
-  // A size x size raster holding the symbol centred (size below 1 is taken as 1). The
-  // storage order is kept.
+  /// A size x size raster holding the symbol centred (size below 1 is taken as 1). The
+  /// storage order is kept.
   void SetMarker(g3d_MarkerEnum marker, int size);
 
   int Width() const noexcept { return m_Width; }
@@ -39,3 +43,5 @@ private:
   bool m_BottomUp = false;
   std::vector<unsigned char> m_Bits;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// Marker symbols, their sizes and line thicknesses. g3d_Marker itself is a named type kept
-// for the interfaces that mention it; the symbols are drawn by g3d_Bitmap::SetMarker.
+/// \addtogroup g3d
+/// @{
+
+/// \class g3d_Marker
+/// Marker symbols, their sizes and line thicknesses. g3d_Marker itself is a named type kept
+/// for the interfaces that mention it; the symbols are drawn by g3d_Bitmap::SetMarker.
 #include <CVX_Export.h>
 
 enum g3d_MarkerEnum : int {
@@ -29,3 +33,5 @@ public:
   g3d_Marker() noexcept;
   ~g3d_Marker();
 };
+
+/// @}

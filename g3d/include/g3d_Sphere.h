@@ -1,5 +1,9 @@
 #pragma once
-// A bounding sphere; a negative radius marks the empty sphere, which unions absorb.
+/// \addtogroup g3d
+/// @{
+
+/// \class g3d_Sphere
+/// A bounding sphere; a negative radius marks the empty sphere, which unions absorb.
 #include <g3d_Point.h>
 
 class CVX_EXPORT g3d_Sphere {
@@ -17,8 +21,8 @@ public:
     return *this;
   }
   bool IsEmpty() const noexcept { return radius < 0.0f; }
-  // True when other lies wholly inside (touching from inside counts); every sphere contains
-  // the empty one, and the empty one contains nothing else.
+  /// True when other lies wholly inside (touching from inside counts); every sphere contains
+  /// the empty one, and the empty one contains nothing else.
   bool Contains(const g3d_Sphere& other) const noexcept;
 
   bool operator==(const g3d_Sphere& o) const noexcept {
@@ -26,5 +30,7 @@ public:
   }
 };
 
-// The smallest sphere holding both.
+/// The smallest sphere holding both.
 CVX_EXPORT g3d_Sphere operator+(const g3d_Sphere& a, const g3d_Sphere& b) noexcept;
+
+/// @}

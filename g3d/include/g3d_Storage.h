@@ -1,6 +1,10 @@
 #pragma once
-// A double-precision scratch vector or point. Geometric decisions are taken on these;
-// the float types widen x, y and z into one.
+/// \addtogroup g3d
+/// @{
+
+/// \struct g3d_Storage
+/// A double-precision scratch vector or point. Geometric decisions are taken on these;
+/// the float types widen x, y and z into one.
 #include <g3d_Point.h>
 
 struct g3d_Storage {
@@ -11,7 +15,7 @@ struct g3d_Storage {
   constexpr g3d_Storage() noexcept = default;
   constexpr g3d_Storage(double x_, double y_, double z_) noexcept : x(x_), y(y_), z(z_) {}
   constexpr explicit g3d_Storage(const g3d_Vector& v) noexcept : x(v.x), y(v.y), z(v.z) {}
-  // w is ignored: the point is taken as Cartesian.
+  /// w is ignored: the point is taken as Cartesian.
   constexpr explicit g3d_Storage(const g3d_Point& p) noexcept : x(p.x), y(p.y), z(p.z) {}
 
   constexpr double operator[](int axis) const noexcept {
@@ -41,11 +45,13 @@ constexpr double g3d_TripleProduct(const g3d_Storage& a, const g3d_Storage& b,
 }
 
 CVX_EXPORT double g3d_Magnitude(const g3d_Storage& v) noexcept;
-// In place; below DBL_MIN the vector is left as it is (not zeroed).
+/// In place; below DBL_MIN the vector is left as it is (not zeroed).
 CVX_EXPORT void g3d_Normalize(g3d_Storage& v) noexcept;
-// out = the part of v perpendicular to normal.
+/// out = the part of v perpendicular to normal.
 CVX_EXPORT void g3d_ProjectOn(const g3d_Storage& normal, const g3d_Storage& v,
                               g3d_Storage& out) noexcept;
-// Angle in [0, pi], clamped at exactly +-1; a magnitude not above minMagnitude gives pi/2.
+/// Angle in [0, pi], clamped at exactly +-1; a magnitude not above minMagnitude gives pi/2.
 CVX_EXPORT double g3d_AngleWith(const g3d_Storage& a, const g3d_Storage& b, bool normalized,
                                 double minMagnitude) noexcept;
+
+/// @}

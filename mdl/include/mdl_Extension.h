@@ -1,6 +1,10 @@
 #pragma once
-// A named extension of a model object: the unit by which add-on data is attached and
-// persisted. Persisted as "name".
+/// \addtogroup mdl
+/// @{
+
+/// \class mdl_Extension
+/// A named extension of a model object: the unit by which add-on data is attached and
+/// persisted. Persisted as "name".
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
@@ -32,3 +36,5 @@ private:
   cow_String m_Name;
   cls_Uid m_Uid;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// Rows of doubles whose lengths differ (ragged tabular data). Persisted as "rows", a list of
-// lists of doubles.
+/// \addtogroup mdl
+/// @{
+
+/// \class mdl_JaggedArray
+/// Rows of doubles whose lengths differ (ragged tabular data). Persisted as "rows", a list of
+/// lists of doubles.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
@@ -29,3 +33,5 @@ private:
   cow_List<cow_List<double>> m_Rows;
   cls_Uid m_Uid;
 };
+
+/// @}

@@ -1,12 +1,16 @@
 #pragma once
-// The scope of the model's enumerated settings that cross the scripting boundary.
+/// \addtogroup mdl
+/// @{
+
+/// \class mdl_Model
+/// The scope of the model's enumerated settings that cross the scripting boundary.
 #include <CVX_Export.h>
 #include <omu_PrimEnumRow.h>
 
 class CVX_EXPORT mdl_Model {
 public:
   enum FormulationEnm : int { NOT_SET = 0, SCATTERED = 1, TOTAL = 2 };
-  // A restart written at the end of the step.
+  /// A restart written at the end of the step.
   enum RestartIncEnm : int { STEP_END = -2 };
 };
 
@@ -19,3 +23,5 @@ template <>
 struct omu_PrimEnumTable<mdl_Model::RestartIncEnm, 1> {
   static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
 };
+
+/// @}

@@ -1,8 +1,12 @@
 #pragma once
-// One block of tabular material or section data: a rows x columns table of doubles, one row
-// per data point, and a flag that lets the first row be all zero. Persisted as "table" and
-// "allowEmptyFirstRow". Owners share one table through mdl_PropertyTableHld until one of them
-// changes it.
+/// \addtogroup mdl
+/// @{
+
+/// \class mdl_PropertyTable
+/// One block of tabular material or section data: a rows x columns table of doubles, one row
+/// per data point, and a flag that lets the first row be all zero. Persisted as "table" and
+/// "allowEmptyFirstRow". Owners share one table through mdl_PropertyTableHld until one of them
+/// changes it.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
@@ -21,7 +25,7 @@ public:
   mdl_PropertyTable(const mdl_PropertyTable&) = default;
   mdl_PropertyTable& operator=(const mdl_PropertyTable&) = default;
   explicit mdl_PropertyTable(const cls_ReadVisitor& reader);
-  ~mdl_PropertyTable();  // not virtual: nothing derives from a final class
+  ~mdl_PropertyTable();  ///< not virtual: nothing derives from a final class
 
   virtual mdl_PropertyTable* Copy() const { return new mdl_PropertyTable(*this); }
   virtual unsigned int DynTypeId() const { return TypeId(); }
@@ -29,7 +33,7 @@ public:
 
   int Rows() const noexcept { return m_Table.Rows(); }
   int Columns() const noexcept { return m_Table.Columns(); }
-  // A cell outside the table raises nex_TextException and changes nothing (see cow_2DArray).
+  /// A cell outside the table raises nex_TextException and changes nothing (see cow_2DArray).
   double operator()(int row, int column) const { return m_Table(row, column); }
   void Set(int row, int column, double value) { m_Table.Set(row, column, value); }
   const cow_2DArray<double>& Table() const noexcept { return m_Table; }
@@ -37,19 +41,19 @@ public:
   bool AllowEmptyFirstRow() const noexcept { return m_AllowEmptyFirstRow; }
   void SetAllowEmptyFirstRow(bool allow) noexcept { m_AllowEmptyFirstRow = allow; }
 
-  // Same flag, same shape and every element equal; a NaN is never equal, so a table holding
-  // one is unequal even to itself.
+  /// Same flag, same shape and every element equal; a NaN is never equal, so a table holding
+  /// one is unequal even to itself.
   bool operator==(const mdl_PropertyTable& other) const;
   bool operator!=(const mdl_PropertyTable& other) const { return !(*this == other); }
 
-  // Orders the rows ascending by the last keyColumns columns, the last column most
-  // significant; rows with equal keys keep their order. A row whose comparison reaches a NaN
-  // key stops moving there, exactly as an insertion sort that moves a row up while the row
-  // above compares greater would leave it. Costs O(keys * rows * log rows) whatever the
-  // values, NaN included, and a copy of the table plus 16 bytes per row of scratch.
+  /// Orders the rows ascending by the last keyColumns columns, the last column most
+  /// significant; rows with equal keys keep their order. A row whose comparison reaches a NaN
+  /// key stops moving there, exactly as an insertion sort that moves a row up while the row
+  /// above compares greater would leave it. Costs O(keys * rows * log rows) whatever the
+  /// values, NaN included, and a copy of the table plus 16 bytes per row of scratch.
   void Sort(int keyColumns);
-  // Raises nex_TextException at the first row whose values are all zero (NaN counts as
-  // non-zero); row 0 is exempt when the flag allows an empty first row.
+  /// Raises nex_TextException at the first row whose values are all zero (NaN counts as
+  /// non-zero); row 0 is exempt when the flag allows an empty first row.
   void AssertValid() const;
 
   static unsigned int TypeId() noexcept { return mdl_TypeId(18); }
@@ -62,3 +66,5 @@ private:
 };
 
 using mdl_PropertyTableHld = cow_COW<mdl_PropertyTable, cow_Virtual<mdl_PropertyTable>>;
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// An extension that keeps the keys of the objects it holds, in the order they were added.
-// Persisted as "keys" after the extension's own record.
+/// \addtogroup mdl
+/// @{
+
+/// \class mdl_Repository
+/// An extension that keeps the keys of the objects it holds, in the order they were added.
+/// Persisted as "keys" after the extension's own record.
 #include <cow_List.h>
 #include <mdl_Extension.h>
 
@@ -14,7 +18,7 @@ public:
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
   const cow_List<cow_String>& Keys() const noexcept { return m_Keys; }
-  // Adds a key once; answers whether it was new.
+  /// Adds a key once; answers whether it was new.
   bool AddKey(const cow_String& key);
   bool operator==(const mdl_Repository& other) const {
     return mdl_Extension::operator==(other) && m_Keys == other.m_Keys;
@@ -27,3 +31,5 @@ private:
   cow_List<cow_String> m_Keys;
   cls_Uid m_RepositoryUid;
 };
+
+/// @}

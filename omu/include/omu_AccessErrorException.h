@@ -1,5 +1,9 @@
 #pragma once
-// A script used an object that has gone; the value describes it.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_AccessErrorException
+/// A script used an object that has gone; the value describes it.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_AccessErrorException : public omu_TextErrorException<omu_AccessErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s no longer exists";
   static unsigned int TypeId() noexcept { return omu_TypeId(16); }
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// A call with too few or too many arguments. m_NestingStr names the enclosing argument when
-// the count concerns the members of another argument.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_ArgNumberErrorException
+/// A call with too few or too many arguments. m_NestingStr names the enclosing argument when
+/// the count concerns the members of another argument.
 #include <UTI_FieldError.h>
 #include <omu_TypeErrorException.h>
 
@@ -35,3 +39,5 @@ private:
   int m_Found;
   atr_String m_NestingStr;
 };
+
+/// @}

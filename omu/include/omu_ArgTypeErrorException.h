@@ -1,6 +1,10 @@
 #pragma once
-// An argument of the wrong type: m_ArgNum is its 1-based position, labelled argN at the top
-// level and <nesting>[N-1] inside another argument.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_ArgTypeErrorException
+/// An argument of the wrong type: m_ArgNum is its 1-based position, labelled argN at the top
+/// level and <nesting>[N-1] inside another argument.
 #include <UTI_FieldError.h>
 #include <omu_TypeErrorException.h>
 
@@ -39,3 +43,5 @@ private:
   atr_String m_Found;
   atr_String m_NestingStr;
 };
+
+/// @}

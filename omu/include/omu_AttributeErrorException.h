@@ -1,6 +1,10 @@
 #pragma once
-// A script read, set or deleted an attribute it may not. m_ErrorType chooses the message:
-// 0 read-only attributes, 1 the named attribute is read-only, 2 m_Attribute is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_AttributeErrorException
+/// A script read, set or deleted an attribute it may not. m_ErrorType chooses the message:
+/// 0 read-only attributes, 1 the named attribute is read-only, 2 m_Attribute is the message.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -36,3 +40,5 @@ private:
   int m_ErrorType;
   atr_String m_Attribute;
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Which spelling a boolean setting uses in scripts.
+/// \addtogroup omu
+/// @{
+
+/// \enum omu_BoolSelectEnum
+/// Which spelling a boolean setting uses in scripts.
 #include <CVX_Export.h>
 #include <omu_PrimEnumRow.h>
 
@@ -9,3 +13,5 @@ template <>
 struct omu_PrimEnumTable<omu_BoolSelectEnum, 1> {
   static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
 };
+
+/// @}

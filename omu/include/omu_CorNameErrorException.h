@@ -1,6 +1,10 @@
 #pragma once
-// A name broke a rule of its kind; m_Error says which message: 0 invalid name, 1 empty,
-// 2 invalid job name, 3 invalid model name.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_CorNameErrorException
+/// A name broke a rule of its kind; m_Error says which message: 0 invalid name, 1 empty,
+/// 2 invalid job name, 3 invalid model name.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -30,3 +34,5 @@ private:
 
   int m_Error;
 };
+
+/// @}

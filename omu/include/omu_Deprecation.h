@@ -1,7 +1,11 @@
 #pragma once
-// The process-wide deprecation setting: whether scripts may still use deprecated arguments,
-// methods and members. Off by default; set it on the main thread before scripts run. Each use
-// of a deprecated name gives a notice on the error stream.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_Deprecation
+/// The process-wide deprecation setting: whether scripts may still use deprecated arguments,
+/// methods and members. Off by default; set it on the main thread before scripts run. Each use
+/// of a deprecated name gives a notice on the error stream.
 #include <CVX_Export.h>
 #include <cow_String.h>
 
@@ -9,6 +13,8 @@ class CVX_EXPORT omu_Deprecation {
 public:
   static bool IsAllowed() noexcept;
   static void SetAllowed(bool allowed) noexcept;
-  // "Warning: 'old' is deprecated; use 'replacement' instead." (or without the advice).
+  /// "Warning: 'old' is deprecated; use 'replacement' instead." (or without the advice).
   static void Notice(const cow_String& old, const cow_String& replacement = cow_String());
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// A script dictionary that crossed the boundary: its entries as a dictionary primitive,
-// plus the script object it came from, held opaquely for the host. Only the entries
-// persist (the classes are not registered; they write themselves as dictionaries).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_DictPyObjectWrapper
+/// A script dictionary that crossed the boundary: its entries as a dictionary primitive,
+/// plus the script object it came from, held opaquely for the host. Only the entries
+/// persist (the classes are not registered; they write themselves as dictionaries).
 #include <omu_PrimDictionary.h>
 #include <omu_ScriptHandle.h>
 
@@ -16,9 +20,11 @@ public:
 
   const omu_ScriptHandle& Object() const noexcept { return m_Object; }
 
-  // omu_DictIntPyObjectWrapper and omu_DictStrPyObjectWrapper.
+  /// omu_DictIntPyObjectWrapper and omu_DictStrPyObjectWrapper.
   static unsigned int TypeId() noexcept { return omu_TypeId(std::is_same_v<K, int> ? 43 : 44); }
 
 private:
   omu_ScriptHandle m_Object;
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// A font name that the application does not know.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_FontErrorException
+/// A font name that the application does not know.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_FontErrorException : public omu_TextErrorException<omu_FontErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s is not a valid font.";
   static unsigned int TypeId() noexcept { return omu_TypeId(15); }
 };
+
+/// @}

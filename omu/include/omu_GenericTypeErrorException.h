@@ -1,5 +1,9 @@
 #pragma once
-// An operation of the script language applied to an argument of the wrong kind.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_GenericTypeErrorException
+/// An operation of the script language applied to an argument of the wrong kind.
 #include <nex_Raisable.h>
 #include <omu_TypeErrorException.h>
 
@@ -20,3 +24,5 @@ public:
 private:
   cls_Uid m_Uid;
 };
+
+/// @}

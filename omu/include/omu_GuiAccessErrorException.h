@@ -1,5 +1,9 @@
 #pragma once
-// An operation that the user interface does not allow now; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_GuiAccessErrorException
+/// An operation that the user interface does not allow now; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_GuiAccessErrorException : public omu_TextErrorException<omu_GuiAccessErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s";
   static unsigned int TypeId() noexcept { return omu_TypeId(40); }
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// An index outside its sequence; the message is the index in decimal.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_IndexErrorException
+/// An index outside its sequence; the message is the index in decimal.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -29,3 +33,5 @@ private:
 
   int m_Value;
 };
+
+/// @}

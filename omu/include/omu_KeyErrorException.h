@@ -1,5 +1,9 @@
 #pragma once
-// A key that a repository does not hold; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_KeyErrorException
+/// A key that a repository does not hold; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_KeyErrorException : public omu_TextErrorException<omu_KeyErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s";
   static unsigned int TypeId() noexcept { return omu_TypeId(7); }
 };
+
+/// @}

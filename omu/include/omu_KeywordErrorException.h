@@ -1,6 +1,10 @@
 #pragma once
-// A keyword argument that the command does not take. The nesting text runs straight into
-// the words "keyword error on".
+/// \addtogroup omu
+/// @{
+
+/// \class omu_KeywordErrorException
+/// A keyword argument that the command does not take. The nesting text runs straight into
+/// the words "keyword error on".
 #include <UTI_FieldError.h>
 #include <omu_TypeErrorException.h>
 
@@ -35,3 +39,5 @@ private:
   atr_String m_Keyword;
   atr_String m_NestingStr;
 };
+
+/// @}

@@ -1,12 +1,16 @@
 #pragma once
-// The keywords of one call, found by their text in constant time, so that binding a call costs
-// time linear in its number of keyword arguments. A slot is a keyword's place in key order.
-//
-// The index points into the dictionary it was built from: it is valid until that dictionary
-// changes, so its owner clears it before every change and builds it again when next asked. A
-// copied or assigned index is cleared: it would point into another call's keywords.
-// Building allocates once for the entries and once for the hash table, reused by later builds
-// of no more keywords. Not thread-safe; a call is bound on one thread.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_KeywordIndex
+/// The keywords of one call, found by their text in constant time, so that binding a call costs
+/// time linear in its number of keyword arguments. A slot is a keyword's place in key order.
+///
+/// The index points into the dictionary it was built from: it is valid until that dictionary
+/// changes, so its owner clears it before every change and builds it again when next asked. A
+/// copied or assigned index is cleared: it would point into another call's keywords.
+/// Building allocates once for the entries and once for the hash table, reused by later builds
+/// of no more keywords. Not thread-safe; a call is bound on one thread.
 #include <omu_PrimDictionary.h>
 
 #include <string_view>
@@ -24,9 +28,9 @@ public:
   bool Built() const noexcept { return !m_Table.empty(); }
   void Build(const omu_PrimDictionary<cow_String>& keywords);
   void Clear() noexcept;
-  // The keyword's slot, or -1 when the call does not give it (or nothing is built).
+  /// The keyword's slot, or -1 when the call does not give it (or nothing is built).
   int Find(std::string_view keyword) const noexcept;
-  // The value in a slot that Find answered.
+  /// The value in a slot that Find answered.
   const omu_Primitive* Value(int slot) const noexcept {
     return m_Entries[static_cast<std::size_t>(slot)].value;
   }
@@ -38,8 +42,10 @@ private:
   };
 
   std::vector<Entry> m_Entries;
-  // Open addressing with linear probing over slots, -1 where empty; at most half full. Empty
-  // until built, and never after.
+  /// Open addressing with linear probing over slots, -1 where empty; at most half full. Empty
+  /// until built, and never after.
   std::vector<int> m_Table;
   std::size_t m_Mask = 0;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// A keyword argument of the wrong type. Inside another argument the keyword is shown as a
-// quoted subscript of the enclosing one.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_KeywordTypeErrorException
+/// A keyword argument of the wrong type. Inside another argument the keyword is shown as a
+/// quoted subscript of the enclosing one.
 #include <UTI_FieldError.h>
 #include <omu_TypeErrorException.h>
 
@@ -39,3 +43,5 @@ private:
   atr_String m_Found;
   atr_String m_NestingStr;
 };
+
+/// @}

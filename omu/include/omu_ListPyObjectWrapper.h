@@ -1,7 +1,11 @@
 #pragma once
-// A script list that crossed the boundary: its values as a list, plus the script object it
-// came from, held opaquely so that the host can write changes back to it. Only the values
-// persist (the class is not registered; it writes itself as a list).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_ListPyObjectWrapper
+/// A script list that crossed the boundary: its values as a list, plus the script object it
+/// came from, held opaquely so that the host can write changes back to it. Only the values
+/// persist (the class is not registered; it writes itself as a list).
 #include <omu_PrimList.h>
 #include <omu_ScriptHandle.h>
 
@@ -19,3 +23,5 @@ public:
 private:
   omu_ScriptHandle m_Object;
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// A name that is not defined; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_NameErrorException
+/// A name that is not defined; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_NameErrorException : public omu_TextErrorException<omu_NameErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s";
   static unsigned int TypeId() noexcept { return omu_TypeId(12); }
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// How script operators treat an interface object. By default two objects are equal only when
-// they are the same handle; with equality by path, two handles on the same repository object
-// (the same path) are equal too.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_OperationRules
+/// How script operators treat an interface object. By default two objects are equal only when
+/// they are the same handle; with equality by path, two handles on the same repository object
+/// (the same path) are equal too.
 #include <CVX_Export.h>
 
 class CVX_EXPORT omu_OperationRules {
@@ -14,3 +18,5 @@ public:
 private:
   bool m_EqualByPath = false;
 };
+
+/// @}

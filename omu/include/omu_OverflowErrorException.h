@@ -1,5 +1,9 @@
 #pragma once
-// A number too large for its kind; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_OverflowErrorException
+/// A number too large for its kind; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_OverflowErrorException : public omu_TextErrorException<omu_OverflowErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s";
   static unsigned int TypeId() noexcept { return omu_TypeId(11); }
 };
+
+/// @}

@@ -1,10 +1,14 @@
 #pragma once
-// The boolean symbolic constants. N picks the spelling, and with it the class and type id:
-//   omu_PrimBool<2>  ON / OFF       "omu_OnOffConst"      19:37
-//   omu_PrimBool<3>  TRUE / FALSE   "omu_TrueFalseConst"  19:38
-//   omu_PrimBool<4>  YES / NO       "omu_YesNoConst"      19:39
-// Each is an omu_PrimEnum<bool, N> whose table (omu_PrimEnumTable<bool, N>) lists the true
-// name first, so a constant built from true takes that name.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimBool
+/// The boolean symbolic constants. N picks the spelling, and with it the class and type id:
+///   omu_PrimBool<2>  ON / OFF       "omu_OnOffConst"      19:37
+///   omu_PrimBool<3>  TRUE / FALSE   "omu_TrueFalseConst"  19:38
+///   omu_PrimBool<4>  YES / NO       "omu_YesNoConst"      19:39
+/// Each is an omu_PrimEnum<bool, N> whose table (omu_PrimEnumTable<bool, N>) lists the true
+/// name first, so a constant built from true takes that name.
 #include <cls_ClassRegistrar.h>
 #include <cls_ReadVisitor.h>
 #include <cls_TypeAdapter.h>
@@ -24,7 +28,7 @@ struct omu_PrimEnumTable<bool, 4> {
   static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
 };
 
-// The registration names of the three constant classes, by N.
+/// The registration names of the three constant classes, by N.
 CVX_EXPORT const char* omu_PrimBoolClassName(int n) noexcept;
 
 template <int N>
@@ -59,5 +63,7 @@ using omu_OnOffConst = omu_PrimBool<2>;
 using omu_TrueFalseConst = omu_PrimBool<3>;
 using omu_YesNoConst = omu_PrimBool<4>;
 
-// Registers the three constant classes, on/off first (one entry of the module's list).
+/// Registers the three constant classes, on/off first (one entry of the module's list).
 CVX_EXPORT void omu_InitializeBoolConstants(cls_ClassRegistrar& registrar);
+
+/// @}

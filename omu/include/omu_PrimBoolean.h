@@ -1,5 +1,9 @@
 #pragma once
-// The script's True and False.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimBoolean
+/// The script's True and False.
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 
@@ -12,7 +16,7 @@ public:
 
   cow_String TypeString() const override { return "Boolean"; }
   cow_String AsString(int) const override { return m_Value ? "True" : "False"; }
-  // Compares the flags; callers compare kinds first.
+  /// Compares the flags; callers compare kinds first.
   bool operator==(const omu_Primitive& other) const override;
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
@@ -25,3 +29,5 @@ private:
   bool m_Value;
   cls_Uid m_BooleanUid;
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// A complex number; it prints as the script writes one: 1+2j, 1-2j. A '+' goes only before an
-// imaginary part that is zero or positive, so a NaN part prints 1nanj (-NaN 1-nanj) and -0
-// prints 1+-0j.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimComplex
+/// A complex number; it prints as the script writes one: 1+2j, 1-2j. A '+' goes only before an
+/// imaginary part that is zero or positive, so a NaN part prints 1nanj (-NaN 1-nanj) and -0
+/// prints 1+-0j.
 #include <omi_complex.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -28,3 +32,5 @@ private:
   omi_complex m_Value;
   cls_Uid m_ComplexUid;
 };
+
+/// @}

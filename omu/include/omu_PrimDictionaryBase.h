@@ -1,12 +1,16 @@
 #pragma once
-// What the two dictionary primitives share: type code '{' and the character that says what
-// kind of object a dictionary stands for (its meaning is the creator's; the library only
-// keeps it).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimDictionaryBase
+/// What the two dictionary primitives share: type code '{' and the character that says what
+/// kind of object a dictionary stands for (its meaning is the creator's; the library only
+/// keeps it).
 #include <omu_Primitive.h>
 
 class CVX_EXPORT omu_PrimDictionaryBase : public omu_Primitive {
 public:
-  // The key kind: 's' for text keys, 'i' for integer keys.
+  /// The key kind: 's' for text keys, 'i' for integer keys.
   virtual char Kind() const = 0;
   char Represents() const noexcept { return m_Represents; }
   unsigned int DynTypeId() const override { return TypeId(); }
@@ -26,3 +30,5 @@ private:
   char m_Represents;
   cls_Uid m_DictionaryBaseUid;
 };
+
+/// @}

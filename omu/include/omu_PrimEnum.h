@@ -1,8 +1,12 @@
 #pragma once
-// An enumeration value bound to the native enumeration E through the permissible-value table
-// omu_PrimEnumTable<E, N> (N picks one of several spellings of the same E). Values are built
-// from a number, a name, another enumeration value or an archive record; a name or number
-// that the table does not hold raises omu_ValueErrorException.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimEnum
+/// An enumeration value bound to the native enumeration E through the permissible-value table
+/// omu_PrimEnumTable<E, N> (N picks one of several spellings of the same E). Values are built
+/// from a number, a name, another enumeration value or an archive record; a name or number
+/// that the table does not hold raises omu_ValueErrorException.
 #include <omu_PrimEnumBase.h>
 #include <omu_PrimEnumRow.h>
 #include <omu_ValueErrorException.h>
@@ -49,11 +53,11 @@ public:
   omu_PrimEnum(const omu_PrimEnum&) = default;
   omu_PrimEnum& operator=(const omu_PrimEnum&) = default;
 
-  // Looks the value up; the first row holding it gives the name.
+  /// Looks the value up; the first row holding it gives the name.
   bool SetValue(E value) {
     return Store([value](const omu_PrimEnumRow& row) { return row.value == static_cast<int>(value); });
   }
-  // Looks the name up, whole and case-sensitive.
+  /// Looks the name up, whole and case-sensitive.
   bool SetValue(const char* name) override {
     const char* wanted = name ? name : "";
     return Store([wanted](const omu_PrimEnumRow& row) { return std::strcmp(row.name, wanted) == 0; });
@@ -89,3 +93,5 @@ private:
 
   int m_Value = 0;
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// An enumerated value as it crosses the scripting boundary and is persisted: by its
-// symbolic name, not its number. The base holds only the name; omu_PrimEnum<E, N> binds it
-// to a native enumeration through a table of permissible names.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimEnumBase
+/// An enumerated value as it crosses the scripting boundary and is persisted: by its
+/// symbolic name, not its number. The base holds only the name; omu_PrimEnum<E, N> binds it
+/// to a native enumeration through a table of permissible names.
 #include <cow_Map.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -14,20 +18,20 @@ public:
   omu_PrimEnumBase& operator=(const omu_PrimEnumBase&) = default;
   explicit omu_PrimEnumBase(const cls_ReadVisitor& reader);
 
-  // The name, or the empty text when none is set.
+  /// The name, or the empty text when none is set.
   const char* GetString() const noexcept { return m_Name.CStr(); }
   const cow_String& Name() const noexcept { return m_Name; }
-  // The bare name, unquoted, at every level.
+  /// The bare name, unquoted, at every level.
   cow_String AsString(int) const override { return m_Name; }
-  // The base accepts any name.
+  /// The base accepts any name.
   virtual bool SetValue(const char* name);
-  // Equal to any enumeration value of the same name (case-sensitive).
+  /// Equal to any enumeration value of the same name (case-sensitive).
   bool operator==(const omu_Primitive& other) const override;
-  // The permissible names and their values; the base has none.
+  /// The permissible names and their values; the base has none.
   virtual cow_Map<cow_String, unsigned int> PermissibleValues() const;
-  // "{NAME: value, ...}" in name order; "{}" when there are none.
+  /// "{NAME: value, ...}" in name order; "{}" when there are none.
   cow_String PermissibleValuesAsString() const;
-  // The permissible names for messages: "A, B or C".
+  /// The permissible names for messages: "A, B or C".
   cow_String TypeString() const override;
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
@@ -41,3 +45,5 @@ private:
   cow_String m_Name;
   cls_Uid m_EnumUid;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// A failure captured for a script: a clone of the exception and the traceback text. Only
-// the traceback persists (a value read back holds no exception). Never equal to anything.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimException
+/// A failure captured for a script: a clone of the exception and the traceback text. Only
+/// the traceback persists (a value read back holds no exception). Never equal to anything.
 #include <nex_Exception.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -18,7 +22,7 @@ public:
   bool operator==(const omu_Primitive&) const override { return false; }
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
-  // The captured exception; null for a value read back from an archive.
+  /// The captured exception; null for a value read back from an archive.
   const nex_Exception* Exception() const noexcept { return m_Exception.get(); }
   const cow_String& Traceback() const noexcept { return m_Traceback; }
 
@@ -30,3 +34,5 @@ private:
   cow_String m_Traceback;
   cls_Uid m_ExceptionUid;
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// An expression kept as the script wrote it; it prints unquoted.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimExpr
+/// An expression kept as the script wrote it; it prints unquoted.
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 
@@ -25,3 +29,5 @@ private:
   cow_String m_Expr;
   cls_Uid m_ExprUid;
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// The operations every concrete primitive implements the same way, written once: Copy
-// through the copy constructor, DynTypeId from the class, Accept through the visitor's
-// overload for the class or its nearest base (a kind the visitor has none for visits nothing).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimLeaf
+/// The operations every concrete primitive implements the same way, written once: Copy
+/// through the copy constructor, DynTypeId from the class, Accept through the visitor's
+/// overload for the class or its nearest base (a kind the visitor has none for visits nothing).
 #include <omu_PrimVisitor.h>
 #include <omu_Primitive.h>
 
@@ -9,7 +13,7 @@ template <class Derived, class Base>
 class omu_PrimLeaf : public Base {
 public:
   using Base::Base;
-  // A kind that adds to another takes a copy of the other's value.
+  /// A kind that adds to another takes a copy of the other's value.
   explicit omu_PrimLeaf(const Base& value) : Base(value) {}
 
   omu_Primitive* Copy() const override { return new Derived(Self()); }
@@ -21,3 +25,5 @@ public:
 private:
   const Derived& Self() const noexcept { return static_cast<const Derived&>(*this); }
 };
+
+/// @}

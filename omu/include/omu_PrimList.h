@@ -1,5 +1,9 @@
 #pragma once
-// A script list: a tuple that Put may grow up to its maximum size.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimList
+/// A script list: a tuple that Put may grow up to its maximum size.
 #include <omu_PrimTuple.h>
 
 class CVX_EXPORT omu_PrimList : public omu_PrimLeaf<omu_PrimList, omu_PrimTuple> {
@@ -34,3 +38,5 @@ private:
   int m_MaxSize = 0;
   cls_Uid m_ListUid;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// The script's None. A None read back from an archive may be "set"; every other None,
-// copies included, is unset.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimNone
+/// The script's None. A None read back from an archive may be "set"; every other None,
+/// copies included, is unset.
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 
@@ -8,7 +12,7 @@ class CVX_EXPORT omu_PrimNone : public omu_PrimLeaf<omu_PrimNone, omu_Primitive>
 public:
   omu_PrimNone() noexcept : omu_PrimLeaf('n') {}
   omu_PrimNone(const omu_PrimNone& other) noexcept : omu_PrimLeaf(other) {}
-  // Like a copy, an assigned None is unset.
+  /// Like a copy, an assigned None is unset.
   omu_PrimNone& operator=(const omu_PrimNone& other) noexcept {
     omu_Primitive::operator=(other);
     m_IsSet = false;
@@ -18,7 +22,7 @@ public:
 
   cow_String TypeString() const override { return "None"; }
   cow_String AsString(int) const override { return "None"; }
-  // Compares the set flags only; callers compare kinds first (another kind is unequal).
+  /// Compares the set flags only; callers compare kinds first (another kind is unequal).
   bool operator==(const omu_Primitive& other) const override;
   omu_Primitive* Copy() const override { return new omu_PrimNone(); }
   void DBWrite(const cls_WriteVisitor& writer) const override;
@@ -32,3 +36,5 @@ private:
   bool m_IsSet = false;
   cls_Uid m_NoneUid;
 };
+
+/// @}

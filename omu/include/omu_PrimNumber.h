@@ -1,7 +1,11 @@
 #pragma once
-// A number crossing the scripting boundary. Integer kinds (type code 'i') keep their value
-// in the double field, except UINT, which keeps it in the unsigned field; floating kinds
-// (code 'f') in the double field.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimNumber
+/// A number crossing the scripting boundary. Integer kinds (type code 'i') keep their value
+/// in the double field, except UINT, which keeps it in the unsigned field; floating kinds
+/// (code 'f') in the double field.
 #include <omu_PrimEnumRow.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -12,7 +16,7 @@ class CVX_EXPORT omu_PrimNumber : public omu_PrimLeaf<omu_PrimNumber, omu_Primit
 public:
   enum DataTypeEnm : int { SCHAR = 0, SHORT = 1, INT = 2, FLOAT = 3, DOUBLE = 4, UINT = 5 };
 
-  // A number of the given data type; UINT takes value into the unsigned field.
+  /// A number of the given data type; UINT takes value into the unsigned field.
   omu_PrimNumber(double value, DataTypeEnm dataType);
   explicit omu_PrimNumber(int value) : omu_PrimNumber(value, INT) {}
   explicit omu_PrimNumber(unsigned int value) : omu_PrimNumber(value, UINT) {}
@@ -26,7 +30,7 @@ public:
 
   cow_String TypeString() const override { return IsType('f') ? "float" : "int"; }
   cow_String AsString(int level) const override;
-  // Both value fields equal; kinds and data types are not compared.
+  /// Both value fields equal; kinds and data types are not compared.
   bool operator==(const omu_Primitive& other) const override;
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
@@ -34,16 +38,16 @@ public:
   unsigned int UValue() const noexcept { return m_UValue; }
   DataTypeEnm DataType() const noexcept { return m_DataType; }
   bool IsInteger() const noexcept { return IsType('i'); }
-  // The value as a double whatever the kind (the unsigned field for UINT).
+  /// The value as a double whatever the kind (the unsigned field for UINT).
   double AsDouble() const noexcept { return m_DataType == UINT ? m_UValue : m_Value; }
-  // The value truncated to 32 bits as the text form does: outside the range gives INT_MIN.
+  /// The value truncated to 32 bits as the text form does: outside the range gives INT_MIN.
   int AsInt() const noexcept { return Truncate(m_Value); }
-  // Appends the text form to out without an intermediate text.
+  /// Appends the text form to out without an intermediate text.
   void AppendText(std::string& out) const;
 
-  // The text of a floating value: "%.15lg", ".0" appended when it has neither '.' nor 'e',
-  // a three-digit exponent with a leading 0 shortened to two digits. Writes at most
-  // MaxDoubleText characters to out and answers the count.
+  /// The text of a floating value: "%.15lg", ".0" appended when it has neither '.' nor 'e',
+  /// a three-digit exponent with a leading 0 shortened to two digits. Writes at most
+  /// MaxDoubleText characters to out and answers the count.
   static constexpr int MaxDoubleText = 32;
   static int FormatDouble(double value, char* out) noexcept;
   static int Truncate(double value) noexcept;
@@ -62,3 +66,5 @@ template <>
 struct omu_PrimEnumTable<omu_PrimNumber::DataTypeEnm, 1> {
   static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
 };
+
+/// @}

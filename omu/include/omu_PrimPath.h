@@ -1,6 +1,10 @@
 #pragma once
-// A path to an object of the application as a list of components ('a.b.c'), with a
-// character saying in which context the path is meant.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimPath
+/// A path to an object of the application as a list of components ('a.b.c'), with a
+/// character saying in which context the path is meant.
 #include <cow_List.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -15,7 +19,7 @@ public:
   explicit omu_PrimPath(const cls_ReadVisitor& reader);
 
   cow_String TypeString() const override { return "path"; }
-  // The components joined by '.', trailing dots trimmed, in single quotes.
+  /// The components joined by '.', trailing dots trimmed, in single quotes.
   cow_String AsString(int level) const override;
   bool operator==(const omu_Primitive& other) const override;
   void DBWrite(const cls_WriteVisitor& writer) const override;
@@ -31,3 +35,5 @@ private:
   char m_ContextType = 0;
   cls_Uid m_PathUid;
 };
+
+/// @}

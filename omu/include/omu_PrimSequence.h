@@ -1,5 +1,9 @@
 #pragma once
-// An ordered container of primitives, indexable and sliceable from scripts.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimSequence
+/// An ordered container of primitives, indexable and sliceable from scripts.
 #include <omu_Primitive.h>
 
 class CVX_EXPORT omu_PrimSequence : public omu_Primitive {
@@ -9,10 +13,10 @@ public:
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
   virtual int Size() const = 0;
-  // The element at index. Tuples and lists lend it (null for an empty slot); arrays answer
-  // a new value that the caller owns.
+  /// The element at index. Tuples and lists lend it (null for an empty slot); arrays answer
+  /// a new value that the caller owns.
   virtual const omu_Primitive* Index(int index) const = 0;
-  // New sequences, owned by the caller.
+  /// New sequences, owned by the caller.
   virtual omu_PrimSequence* Slice(int from, int to) const = 0;
   virtual omu_PrimSequence* Repeat(int times) const = 0;
   virtual omu_PrimSequence* Concat(omu_PrimSequence* other) const = 0;
@@ -29,3 +33,5 @@ protected:
 private:
   cls_Uid m_SequenceUid;
 };
+
+/// @}

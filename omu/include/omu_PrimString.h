@@ -1,5 +1,9 @@
 #pragma once
-// A text value. Its script text is the quoted form of omu_NameString.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimString
+/// A text value. Its script text is the quoted form of omu_NameString.
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 
@@ -9,12 +13,12 @@ class CVX_EXPORT omu_PrimString : public omu_PrimLeaf<omu_PrimString, omu_Primit
 public:
   omu_PrimString() noexcept : omu_PrimLeaf('s') {}
   explicit omu_PrimString(const cow_String& text) : omu_PrimLeaf('s'), m_Text(text) {}
-  // The constant's symbolic name.
+  /// The constant's symbolic name.
   explicit omu_PrimString(const omu_PrimEnumBase& constant);
-  // Plain decimal.
+  /// Plain decimal.
   explicit omu_PrimString(int value);
   explicit omu_PrimString(unsigned int value);
-  // The text a DOUBLE number prints as.
+  /// The text a DOUBLE number prints as.
   explicit omu_PrimString(double value);
   omu_PrimString(const omu_PrimString&) = default;
   omu_PrimString& operator=(const omu_PrimString&) = default;
@@ -38,3 +42,5 @@ private:
   cow_String m_Text;
   cls_Uid m_StringUid;
 };
+
+/// @}

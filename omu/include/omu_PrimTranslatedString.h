@@ -1,5 +1,9 @@
 #pragma once
-// A text that the user interface may translate; it prints and compares as its text.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimTranslatedString
+/// A text that the user interface may translate; it prints and compares as its text.
 #include <atr_String.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -27,3 +31,5 @@ private:
   atr_String m_Text;
   cls_Uid m_TranslatedUid;
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// A value that names a kind of displayed object ("Part" prints as PartType).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimType
+/// A value that names a kind of displayed object ("Part" prints as PartType).
 #include <omu_ObjectToDisplayTypeEnm.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -10,7 +14,7 @@ class CVX_EXPORT omu_PrimType : public omu_PrimLeaf<omu_PrimType, omu_Primitive>
 public:
   omu_PrimType() noexcept : omu_PrimLeaf('t') {}
   explicit omu_PrimType(const cow_String& typeString) : omu_PrimLeaf('t'), m_TypeString(typeString) {}
-  // The type of an interface object: its own type string.
+  /// The type of an interface object: its own type string.
   explicit omu_PrimType(const omu_InterfaceObj& object);
   omu_PrimType(const omu_PrimType& other) = default;
   omu_PrimType& operator=(const omu_PrimType& other) = default;
@@ -23,8 +27,8 @@ public:
 
   const cow_String& GetTypeString() const noexcept { return m_TypeString; }
 
-  // Exact, case-sensitive names; an unknown name gives omu_DISPLAY_UNKNOWN and a number
-  // outside 0-7 the empty text.
+  /// Exact, case-sensitive names; an unknown name gives omu_DISPLAY_UNKNOWN and a number
+  /// outside 0-7 the empty text.
   static cow_String ConverTypeToString(const omu_ObjectToDisplayTypeEnm& type);
   static omu_ObjectToDisplayTypeEnm ConverStringToType(const cow_String& name);
 
@@ -35,3 +39,5 @@ private:
   cow_String m_TypeString;
   cls_Uid m_TypeUid;
 };
+
+/// @}

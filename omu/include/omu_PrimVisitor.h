@@ -1,6 +1,10 @@
 #pragma once
-// Dispatch on the concrete kind of a primitive: Accept calls the one Visit overload for its
-// kind. Every Visit does nothing unless overridden, so a visitor names only what it handles.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimVisitor
+/// Dispatch on the concrete kind of a primitive: Accept calls the one Visit overload for its
+/// kind. Every Visit does nothing unless overridden, so a visitor names only what it handles.
 #include <CVX_Export.h>
 #include <cow_String.h>
 
@@ -52,3 +56,5 @@ public:
 protected:
   omu_PrimVisitor() = default;
 };
+
+/// @}

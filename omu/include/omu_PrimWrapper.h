@@ -1,9 +1,13 @@
 #pragma once
-// An opaque handle on a persistent object, so that a script can hold a repository object
-// without it being turned into primitives. A wrapper either borrows the object (it must
-// outlive the wrapper) or owns it (a copy, or one read back from an archive). Copies are
-// deep: the object is copied through the persistence layer, the member dictionary with its
-// persistence identities. Wrappers are never equal.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimWrapper
+/// An opaque handle on a persistent object, so that a script can hold a repository object
+/// without it being turned into primitives. A wrapper either borrows the object (it must
+/// outlive the wrapper) or owns it (a copy, or one read back from an archive). Copies are
+/// deep: the object is copied through the persistence layer, the member dictionary with its
+/// persistence identities. Wrappers are never equal.
 #include <omu_PrimDictionary.h>
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
@@ -13,7 +17,7 @@
 class CVX_EXPORT omu_PrimWrapper : public omu_PrimLeaf<omu_PrimWrapper, omu_Primitive> {
 public:
   omu_PrimWrapper() noexcept : omu_PrimLeaf('w') {}
-  // Borrows object, which must point at the most-derived object of class objType.
+  /// Borrows object, which must point at the most-derived object of class objType.
   omu_PrimWrapper(const void* object, unsigned int objType);
   omu_PrimWrapper(const omu_PrimWrapper& other);
   omu_PrimWrapper& operator=(const omu_PrimWrapper& other);
@@ -27,7 +31,7 @@ public:
   const void* Object() const noexcept { return m_Object.get(); }
   unsigned int ObjType() const noexcept { return m_ObjType; }
   bool OwnsObject() const noexcept { return m_Owned; }
-  // The members a script set on the wrapped object, by name.
+  /// The members a script set on the wrapped object, by name.
   const omu_PrimDictionary<cow_String>& MemberDict() const noexcept { return m_MemberDict; }
   omu_PrimDictionary<cow_String>& MemberDict() noexcept { return m_MemberDict; }
 
@@ -43,3 +47,5 @@ private:
   omu_PrimDictionary<cow_String> m_MemberDict;
   cls_Uid m_WrapperUid;
 };
+
+/// @}

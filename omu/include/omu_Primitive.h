@@ -1,6 +1,10 @@
 #pragma once
-// The root of every value that crosses the scripting boundary. Each concrete kind stores a
-// one-character type code, set by its constructor and never changed.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_Primitive
+/// The root of every value that crosses the scripting boundary. Each concrete kind stores a
+/// one-character type code, set by its constructor and never changed.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
@@ -17,12 +21,12 @@ class CVX_EXPORT omu_Primitive {
 public:
   virtual ~omu_Primitive();
   virtual cow_String TypeString() const;
-  // The script text of the value; level is the nesting depth, 0 at the top.
+  /// The script text of the value; level is the nesting depth, 0 at the top.
   virtual cow_String AsString(int level) const = 0;
   virtual cow_String AsRepr() const;
   virtual bool operator==(const omu_Primitive& other) const = 0;
   virtual void Accept(omu_PrimVisitor* visitor) const = 0;
-  // A new heap copy owned by the caller.
+  /// A new heap copy owned by the caller.
   virtual omu_Primitive* Copy() const = 0;
   virtual unsigned int DynTypeId() const;
   virtual void DBWrite(const cls_WriteVisitor& writer) const;
@@ -30,7 +34,7 @@ public:
   bool IsType(char code) const noexcept { return m_Type == code; }
   char TypeCode() const noexcept { return m_Type; }
   bool operator!=(const omu_Primitive& other) const { return !(*this == other); }
-  // True when this value's class is typeId or derives from it.
+  /// True when this value's class is typeId or derives from it.
   bool IsA(unsigned int typeId) const;
 
   static unsigned int TypeId() noexcept { return omu_TypeId(17); }
@@ -47,12 +51,14 @@ private:
   cls_Uid m_Uid;
 };
 
-// Lets values of two kinds compare directly (omu_PrimNumber == omu_PrimString): with only the
-// virtual member, each kind's override is also a candidate with the operands reversed and
-// neither wins. The left operand's operator== decides, as between two root references.
-// Between a root reference and a concrete kind the language takes the concrete kind's
-// override on either side; where the two kinds' rules differ, compare like with like.
+/// Lets values of two kinds compare directly (omu_PrimNumber == omu_PrimString): with only the
+/// virtual member, each kind's override is also a candidate with the operands reversed and
+/// neither wins. The left operand's operator== decides, as between two root references.
+/// Between a root reference and a concrete kind the language takes the concrete kind's
+/// override on either side; where the two kinds' rules differ, compare like with like.
 template <std::derived_from<omu_Primitive> L, std::derived_from<omu_Primitive> R>
 bool operator==(const L& left, const R& right) {
   return static_cast<const omu_Primitive&>(left).operator==(right);
 }
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// A script object that crosses the boundary untouched: the native side only holds it and
-// hands it back. Two wrappers are equal when they hold the same object. Script objects
-// live in the interpreter, so a wrapper is not persisted (its class is not registered).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PyObjectWrapper
+/// A script object that crosses the boundary untouched: the native side only holds it and
+/// hands it back. Two wrappers are equal when they hold the same object. Script objects
+/// live in the interpreter, so a wrapper is not persisted (its class is not registered).
 #include <omu_PrimLeaf.h>
 #include <omu_Primitive.h>
 #include <omu_ScriptHandle.h>
@@ -24,3 +28,5 @@ public:
 private:
   omu_ScriptHandle m_Object;
 };
+
+/// @}

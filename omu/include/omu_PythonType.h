@@ -1,6 +1,10 @@
 #pragma once
-// The root script type of an interface object: the name scripts see when nothing more
-// specific is exposed. "CorvexObject" is the generic root.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PythonType
+/// The root script type of an interface object: the name scripts see when nothing more
+/// specific is exposed. "CorvexObject" is the generic root.
 #include <CVX_Export.h>
 #include <cow_String.h>
 
@@ -17,3 +21,5 @@ public:
 private:
   cow_String m_Name;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// What a repository query reported about the path it addressed: the path text and the
-// message. Persisted as "path" and "message".
+/// \addtogroup omu
+/// @{
+
+/// \class omu_QueryPathMsg
+/// What a repository query reported about the path it addressed: the path text and the
+/// message. Persisted as "path" and "message".
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
@@ -33,3 +37,5 @@ private:
   cow_String m_Message;
   cls_Uid m_Uid;
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// A number outside its permitted range. The limits arrive as ready-made text; each
-// qualifier is 0 (no limit on that side), 1 (inclusive) or 2 (exclusive); the keyword type
-// is 1 for an integer, 2 for a float.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_RangeErrorException
+/// A number outside its permitted range. The limits arrive as ready-made text; each
+/// qualifier is 0 (no limit on that side), 1 (inclusive) or 2 (exclusive); the keyword type
+/// is 1 for an integer, 2 for a float.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -56,3 +60,5 @@ private:
   atr_String m_HigherLimitAsString;
   int m_HigherLimitQualifier;
 };
+
+/// @}

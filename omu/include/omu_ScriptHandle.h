@@ -1,7 +1,11 @@
 #pragma once
-// An opaque reference to an object of the script interpreter. The library never looks
-// inside: the host hands in the object and the function that drops the host's reference to
-// it, which runs when the last copy of the handle goes. Copies share the object.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_ScriptHandle
+/// An opaque reference to an object of the script interpreter. The library never looks
+/// inside: the host hands in the object and the function that drops the host's reference to
+/// it, which runs when the last copy of the handle goes. Copies share the object.
 #include <memory>
 
 class omu_ScriptHandle {
@@ -21,3 +25,5 @@ public:
 private:
   std::shared_ptr<void> m_Object;
 };
+
+/// @}

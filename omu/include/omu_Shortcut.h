@@ -1,6 +1,10 @@
 #pragma once
-// Addresses an object in the repository by its access path, the text a script would write to
-// reach it (mdb.models['Model-1'].parts['Part-1']).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_Shortcut
+/// Addresses an object in the repository by its access path, the text a script would write to
+/// reach it (mdb.models['Model-1'].parts['Part-1']).
 #include <CVX_Export.h>
 #include <cow_String.h>
 
@@ -16,3 +20,5 @@ public:
 private:
   cow_String m_Path;
 };
+
+/// @}

@@ -1,8 +1,12 @@
 #pragma once
-// The scripting errors that carry one text, "m_Value", and differ only in their class,
-// script-level name and message format. Derived supplies ClassName, ScriptName,
-// MessageFormat (one %s) and TypeId(); the record and the registered attribute come from
-// the one field table below.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_TextErrorException
+/// The scripting errors that carry one text, "m_Value", and differ only in their class,
+/// script-level name and message format. Derived supplies ClassName, ScriptName,
+/// MessageFormat (one %s) and TypeId(); the record and the registered attribute come from
+/// the one field table below.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -14,7 +18,7 @@ class omu_TextErrorException : public UTI_FieldError<Derived, nex_CommandExcepti
 
 public:
   explicit omu_TextErrorException(const atr_String& value = atr_String()) : m_Value(value) {}
-  // Reads into this level directly: Derived is not built yet, so no cast to it.
+  /// Reads into this level directly: Derived is not built yet, so no cast to it.
   explicit omu_TextErrorException(const cls_ReadVisitor& reader) : FieldError(reader) {
     Fields().Read(reader, *this);
   }
@@ -34,3 +38,5 @@ protected:
 private:
   atr_String m_Value;
 };
+
+/// @}

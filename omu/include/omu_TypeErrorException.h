@@ -1,5 +1,9 @@
 #pragma once
-// The abstract base of the argument errors that a script sees as TypeError.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_TypeErrorException
+/// The abstract base of the argument errors that a script sees as TypeError.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <nex_CommandException.h>
@@ -20,3 +24,5 @@ protected:
 private:
   cls_Uid m_TypeErrorUid;
 };
+
+/// @}

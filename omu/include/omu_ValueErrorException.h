@@ -1,5 +1,9 @@
 #pragma once
-// A value of the right kind but not allowed; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_ValueErrorException
+/// A value of the right kind but not allowed; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_ValueErrorException : public omu_TextErrorException<omu_ValueErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s";
   static unsigned int TypeId() noexcept { return omu_TypeId(10); }
 };
+
+/// @}

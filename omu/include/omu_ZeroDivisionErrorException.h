@@ -1,5 +1,9 @@
 #pragma once
-// A division by zero; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_ZeroDivisionErrorException
+/// A division by zero; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_ZeroDivisionErrorException : public omu_TextErrorException<omu_ZeroDivisionErrorException> {
@@ -11,3 +15,5 @@ public:
   static constexpr const char* MessageFormat = "%s";
   static unsigned int TypeId() noexcept { return omu_TypeId(13); }
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// Start-up and finalise of the library and of each of its modules. Every entry is counted:
-// only the first start and the last finalise do work, and each that does moves the caller's
-// count by one. Call on one thread, before and after all other use.
+/// \addtogroup uti
+/// @{
+
+/// \file
+/// Start-up and finalise of the library and of each of its modules. Every entry is counted:
+/// only the first start and the last finalise do work, and each that does moves the caller's
+/// count by one. Call on one thread, before and after all other use.
 #include <CVX_Export.h>
 
 CVX_EXPORT void UTI_CaeUtils_initialize(int& count);
@@ -17,3 +21,5 @@ CVX_EXPORT void omu_initialize(int& count);
 CVX_EXPORT void omu_finalize(int& count);
 CVX_EXPORT void mdl_initialize(int& count);
 CVX_EXPORT void mdl_finalize(int& count);
+
+/// @}

@@ -1,8 +1,12 @@
 #pragma once
-// One persisted field of a class level, as a UTI_FieldTable lists it: the name it has in
-// archive records and in the registry, the member that holds it, and the registry's
-// attribute descriptor (kind code, type argument, flags). Plain kinds take type argument 1
-// and flags 0, the defaults.
+/// \addtogroup uti
+/// @{
+
+/// \struct UTI_Field
+/// One persisted field of a class level, as a UTI_FieldTable lists it: the name it has in
+/// archive records and in the registry, the member that holds it, and the registry's
+/// attribute descriptor (kind code, type argument, flags). Plain kinds take type argument 1
+/// and flags 0, the defaults.
 template <class Class, class Member>
 struct UTI_Field {
   constexpr UTI_Field(const char* fieldName, Member Class::*fieldMember, int fieldKind,
@@ -19,3 +23,5 @@ struct UTI_Field {
   unsigned int typeArgument;
   unsigned int flags;
 };
+
+/// @}

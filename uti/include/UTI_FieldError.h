@@ -1,14 +1,18 @@
 #pragma once
-// A scripting error class whose persisted fields are described once, by Derived's table:
-//   static constexpr auto Fields() { return UTI_FieldTable{UTI_Field{...}, ...}; }
-// (private, with UTI_FieldError a friend). The record DBWrite writes, the fields the reading
-// constructor reads and the attributes InitializeMetadata registers all come from it, so the
-// archive form and the registry cannot disagree. Derived also supplies ClassName and TypeId();
-// Parent is the class level it is registered under and writes first.
-//
-// Derived's reading constructor reads its fields once its members exist:
-//   explicit X(const cls_ReadVisitor& reader) : UTI_FieldError(reader) { ReadFields(reader); }
-// A record without one of the fields raises nex_TextException from there.
+/// \addtogroup uti
+/// @{
+
+/// \class UTI_FieldError
+/// A scripting error class whose persisted fields are described once, by Derived's table:
+///   static constexpr auto Fields() { return UTI_FieldTable{UTI_Field{...}, ...}; }
+/// (private, with UTI_FieldError a friend). The record DBWrite writes, the fields the reading
+/// constructor reads and the attributes InitializeMetadata registers all come from it, so the
+/// archive form and the registry cannot disagree. Derived also supplies ClassName and TypeId();
+/// Parent is the class level it is registered under and writes first.
+///
+/// Derived's reading constructor reads its fields once its members exist:
+///   explicit X(const cls_ReadVisitor& reader) : UTI_FieldError(reader) { ReadFields(reader); }
+/// A record without one of the fields raises nex_TextException from there.
 #include <UTI_FieldTable.h>
 #include <cls_ClassRegistrar.h>
 #include <cls_TypeAdapter.h>
@@ -31,9 +35,9 @@ public:
   }
 
 protected:
-  // The identity of Derived's level: null unless Derived hands one out.
+  /// The identity of Derived's level: null unless Derived hands one out.
   explicit UTI_FieldError(cls_Uid uid = cls_Uid()) noexcept : m_Uid(uid) {}
-  // Reads the parent level and this level's identity.
+  /// Reads the parent level and this level's identity.
   explicit UTI_FieldError(const cls_ReadVisitor& reader)
       : Raisable(cls_ReadVisitor(reader, Parent::TypeId())), m_Uid(reader.Uid()) {}
 
@@ -44,3 +48,5 @@ protected:
 private:
   cls_Uid m_Uid;
 };
+
+/// @}

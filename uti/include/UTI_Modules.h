@@ -1,5 +1,9 @@
 #pragma once
-// Module numbers of the library's type identifiers.
+/// \addtogroup uti
+/// @{
+
+/// \file
+/// Module numbers of the library's type identifiers.
 #include <cls_TypeIds.h>
 
 constexpr unsigned int mdl_ModuleNumber = 10;
@@ -15,3 +19,5 @@ constexpr unsigned int omu_TypeId(unsigned int classNumber) noexcept {
 constexpr unsigned int g3d_TypeId(unsigned int classNumber) noexcept {
   return cls_MakeTypeId(g3d_ModuleNumber, classNumber);
 }
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// The front that long-running code reports through. It forwards every call, arguments
-// unchanged, to the one reporter installed in it (not owned); calling it with none installed
-// raises nex_AssertException "WipReporter != 0" and forwards nothing.
+/// \addtogroup wip
+/// @{
+
+/// \class wip_WIPBase
+/// The front that long-running code reports through. It forwards every call, arguments
+/// unchanged, to the one reporter installed in it (not owned); calling it with none installed
+/// raises nex_AssertException "WipReporter != 0" and forwards nothing.
 #include <wip_WipReporter.h>
 
 class CVX_EXPORT wip_WIPBase {
@@ -35,3 +39,5 @@ private:
 
   wip_WipReporter* m_WipReporter = nullptr;
 };
+
+/// @}

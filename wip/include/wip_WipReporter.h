@@ -1,10 +1,14 @@
 #pragma once
-// What displays the reports of long-running operations: the host implements one and installs
-// it in the calling thread's front (wip_WIP::Instance().SetWipReporter). Destroying the
-// installed reporter uninstalls it from the destroying thread's front.
-//
-// Progress convention used by wip_Progress and wip_ConsoleReporter: the four-argument
-// Milestone(task, unit, done, total) says that done of total units of task are finished.
+/// \addtogroup wip
+/// @{
+
+/// \class wip_WipReporter
+/// What displays the reports of long-running operations: the host implements one and installs
+/// it in the calling thread's front (wip_WIP::Instance().SetWipReporter). Destroying the
+/// installed reporter uninstalls it from the destroying thread's front.
+///
+/// Progress convention used by wip_Progress and wip_ConsoleReporter: the four-argument
+/// Milestone(task, unit, done, total) says that done of total units of task are finished.
 #include <CVX_Export.h>
 #include <atr_String.h>
 #include <cow_List.h>
@@ -23,8 +27,8 @@ public:
   virtual void Warning(const atr_String& text) = 0;
   virtual void ErrorList(const cow_List<atr_String>& texts, wip_errorLevelEnm level) = 0;
   virtual void WarningList(const cow_List<atr_String>& texts) = 0;
-  // Routes by kind: 0-3 warn, 4 is a milestone, 7 a landmark, 8 verbose; other kinds (5, 6,
-  // negative, above 8) are dropped. The other arguments are left to overriding reporters.
+  /// Routes by kind: 0-3 warn, 4 is a milestone, 7 a landmark, 8 verbose; other kinds (5, 6,
+  /// negative, above 8) are dropped. The other arguments are left to overriding reporters.
   virtual void FacilityMessage(const atr_String& text, int kind, int, int,
                                omu_PrimTuple& arguments);
   virtual void Verbose(const atr_String& text) = 0;
@@ -34,13 +38,15 @@ public:
   virtual void Landmark(const atr_String& text) = 0;
   virtual void Print(const atr_String& text) = 0;
   virtual void Display(const atr_String& text) = 0;
-  // Non-zero when the user asked the running operation to stop.
+  /// Non-zero when the user asked the running operation to stop.
   virtual int Interrupted() = 0;
   virtual void CommandDone() = 0;
-  // Raises when the user asked the running operation to stop.
+  /// Raises when the user asked the running operation to stop.
   virtual void InterruptedThrow() = 0;
 
 protected:
-  // The default routing of FacilityMessage, by kind alone.
+  /// The default routing of FacilityMessage, by kind alone.
   void RouteFacilityMessage(const atr_String& text, int kind);
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// The application's text output streams. aio_cerr is the error stream; tests and hosts
-// may point it elsewhere with Redirect.
+/// \addtogroup bascore
+/// @{
+
+/// \class aio_ostream
+/// The application's text output streams. aio_cerr is the error stream; tests and hosts
+/// may point it elsewhere with Redirect.
 #include <BASCORE_Export.h>
 
 #include <iosfwd>
@@ -21,7 +25,7 @@ public:
   aio_ostream& operator<<(double value);
   aio_ostream& Flush();
 
-  // Points the stream at another target and answers the previous one.
+  /// Points the stream at another target and answers the previous one.
   std::ostream* Redirect(std::ostream* target) noexcept;
   std::ostream* Target() const noexcept { return m_Target; }
 
@@ -30,3 +34,5 @@ private:
 };
 
 BASCORE_EXPORT aio_ostream& aio_cerr();
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Application text; it may be marked as translatable, which only the user interface acts on.
+/// \addtogroup bascore
+/// @{
+
+/// \class atr_String
+/// Application text; it may be marked as translatable, which only the user interface acts on.
 #include <atr_StringBase.h>
 
 class BASCORE_EXPORT atr_String : public atr_StringBase {
@@ -19,3 +23,5 @@ private:
 
 template <>
 struct std::hash<atr_String> : std::hash<atr_StringBase> {};
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Reference-counted text: copies share one buffer until one of them is written.
+/// \addtogroup bascore
+/// @{
+
+/// \class atr_StringBase
+/// Reference-counted text: copies share one buffer until one of them is written.
 #include <BASCORE_Export.h>
 
 #include <atomic>
@@ -16,9 +20,9 @@ public:
   atr_StringBase(const char* text, int length);
   atr_StringBase(std::string_view text);
   atr_StringBase(const std::string& text) : atr_StringBase(std::string_view(text)) {}
-  // Adopts a text built elsewhere without copying its characters.
+  /// Adopts a text built elsewhere without copying its characters.
   atr_StringBase(std::string&& text);
-  // Numbers as decimal text; a double takes its shortest form that reads back exactly.
+  /// Numbers as decimal text; a double takes its shortest form that reads back exactly.
   explicit atr_StringBase(int value);
   explicit atr_StringBase(unsigned int value);
   explicit atr_StringBase(long long value);
@@ -30,8 +34,8 @@ public:
   atr_StringBase& operator=(atr_StringBase&& other) noexcept;
   ~atr_StringBase();
 
-  // printf-style formatting into a new text, with the C99 conversions (%zu, %lld) on every
-  // platform: MinGW's C++ runtime formats through its own conforming printf, not msvcrt's.
+  /// printf-style formatting into a new text, with the C99 conversions (%zu, %lld) on every
+  /// platform: MinGW's C++ runtime formats through its own conforming printf, not msvcrt's.
   static atr_StringBase Format(const char* format, ...)
 #if defined(__MINGW_PRINTF_FORMAT)
       __attribute__((format(__MINGW_PRINTF_FORMAT, 1, 2)))
@@ -51,7 +55,7 @@ public:
   char operator[](int index) const noexcept { return View()[static_cast<std::size_t>(index)]; }
   bool IsShared() const noexcept { return m_Rep && m_Rep->refs.load(std::memory_order_acquire) > 1; }
 
-  // Searches answer Length() when the text does not occur, like an end position.
+  /// Searches answer Length() when the text does not occur, like an end position.
   int Find(std::string_view what, int start = 0) const noexcept;
   int Find(char what, int start = 0) const noexcept;
   bool Contains(std::string_view what) const noexcept { return Find(what) < Length(); }
@@ -64,7 +68,7 @@ public:
   atr_StringBase& operator+=(const atr_StringBase& text) { return Append(text.View()); }
   atr_StringBase& operator+=(const char* text) { return Append(std::string_view(text)); }
   atr_StringBase& operator+=(char c) { return Append(c); }
-  // Counts beyond the end are clipped; a start beyond the end does nothing.
+  /// Counts beyond the end are clipped; a start beyond the end does nothing.
   atr_StringBase& Erase(int start, int count = 0x7FFFFFFF);
   atr_StringBase& Insert(int position, std::string_view text);
   atr_StringBase& Replace(int start, int count, std::string_view text);
@@ -80,7 +84,7 @@ public:
   friend bool operator==(const atr_StringBase& a, const std::string& b) noexcept {
     return a.View() == b;
   }
-  // Byte-wise order, so "OFF" comes before "ON".
+  /// Byte-wise order, so "OFF" comes before "ON".
   friend std::strong_ordering operator<=>(const atr_StringBase& a,
                                           const atr_StringBase& b) noexcept {
     return a.View().compare(b.View()) <=> 0;
@@ -97,7 +101,7 @@ private:
   std::string& Mutable();
   void Release() noexcept;
 
-  Rep* m_Rep = nullptr;  // null is the empty text
+  Rep* m_Rep = nullptr;  ///< null is the empty text
 };
 
 BASCORE_EXPORT atr_StringBase operator+(const atr_StringBase& a, std::string_view b);
@@ -108,3 +112,5 @@ struct std::hash<atr_StringBase> {
     return std::hash<std::string_view>()(s.View());
   }
 };
+
+/// @}

@@ -1,8 +1,12 @@
 #pragma once
-// A process-wide instance created on first use and destroyed on request (module finalise).
-// Not locked: create and destroy on one thread, before and after other use. Each shared
-// library that instantiates omi_Singleton<T> has its own instance, so T should expose one
-// accessor defined in its own library.
+/// \addtogroup bascore
+/// @{
+
+/// \class omi_Singleton
+/// A process-wide instance created on first use and destroyed on request (module finalise).
+/// Not locked: create and destroy on one thread, before and after other use. Each shared
+/// library that instantiates omi_Singleton<T> has its own instance, so T should expose one
+/// accessor defined in its own library.
 #include <memory>
 
 template <class T>
@@ -21,3 +25,5 @@ private:
     return instance;
   }
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// A complex number, held either in Cartesian form (real, imaginary) or in its converted
-// polar form (modulus, argument in radians). Real() and Imag() answer the Cartesian parts
-// of either form; equality compares those.
+/// \addtogroup bascore
+/// @{
+
+/// \class omi_complex
+/// A complex number, held either in Cartesian form (real, imaginary) or in its converted
+/// polar form (modulus, argument in radians). Real() and Imag() answer the Cartesian parts
+/// of either form; equality compares those.
 #include <BASCORE_Export.h>
 
 class BASCORE_EXPORT omi_complex {
@@ -13,7 +17,7 @@ public:
   bool IsPolar() const noexcept { return m_Polar; }
   double Real() const noexcept;
   double Imag() const noexcept;
-  // The same number in the other form.
+  /// The same number in the other form.
   omi_complex ToCartesian() const noexcept { return {Real(), Imag()}; }
 
   friend bool operator==(const omi_complex& a, const omi_complex& b) noexcept {
@@ -21,7 +25,9 @@ public:
   }
 
 private:
-  double m_A = 0.0;  // real part, or modulus
-  double m_B = 0.0;  // imaginary part, or argument
+  double m_A = 0.0;  ///< real part, or modulus
+  double m_B = 0.0;  ///< imaginary part, or argument
   bool m_Polar = false;
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Metadata of a class T that may be abstract: it can write and destroy a T, not build one.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_AbsTypeAdapter
+/// Metadata of a class T that may be abstract: it can write and destroy a T, not build one.
 #include <cls_ClassMetadata.h>
 
 template <class T>
@@ -20,3 +24,5 @@ public:
     }
   }
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// One persisted attribute of a class: ordinal and name, kind code, type argument, flags.
+/// \addtogroup basic
+/// @{
+
+/// \struct cls_Attribute
+/// One persisted attribute of a class: ordinal and name, kind code, type argument, flags.
 #include <cow_String.h>
 
 struct cls_AttributeName {
@@ -17,7 +21,7 @@ struct cls_Attribute {
   friend bool operator==(const cls_Attribute&, const cls_Attribute&) = default;
 };
 
-// Attribute kind codes.
+/// Attribute kind codes.
 enum cls_AttributeKind : int {
   cls_KIND_CHAR = 1,
   cls_KIND_INT = 5,
@@ -32,3 +36,5 @@ enum cls_AttributeKind : int {
   cls_KIND_ARRAY = 17,
   cls_KIND_FLOAT = 18,
 };
+
+/// @}

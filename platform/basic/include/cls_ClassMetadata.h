@@ -1,7 +1,11 @@
 #pragma once
-// What the registry knows of one class: identity, name, parent, metadata word, persisted
-// attributes, and (through the type adapters) how to build, copy, write and destroy one.
-// Objects are handled untyped here: a void* must point at the most-derived object.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_ClassMetadata
+/// What the registry knows of one class: identity, name, parent, metadata word, persisted
+/// attributes, and (through the type adapters) how to build, copy, write and destroy one.
+/// Objects are handled untyped here: a void* must point at the most-derived object.
 #include <BASIC_Export.h>
 #include <cls_Attribute.h>
 
@@ -32,7 +36,7 @@ public:
   const std::vector<cls_Attribute>& Attributes() const noexcept { return m_Attributes; }
   Destructor Dtor() const noexcept { return m_Dtor; }
 
-  // Abstract classes have no factory: Construct and Clone raise nex_TextException.
+  /// Abstract classes have no factory: Construct and Clone raise nex_TextException.
   virtual bool IsAbstract() const noexcept { return true; }
   virtual void* Construct(const cls_ReadVisitor& reader) const;
   virtual void* Clone(const void* object) const;
@@ -48,3 +52,5 @@ private:
   std::vector<cls_Attribute> m_Attributes;
   Destructor m_Dtor = nullptr;
 };
+
+/// @}

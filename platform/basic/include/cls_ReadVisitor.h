@@ -1,7 +1,11 @@
 #pragma once
-// Reads one record of an archive: the parent level through Parent(), fields by name, then
-// the uid. A missing field or one of another kind raises nex_TextException naming both.
-// Readers of one archive may be used from several threads at once: reading changes nothing.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_ReadVisitor
+/// Reads one record of an archive: the parent level through Parent(), fields by name, then
+/// the uid. A missing field or one of another kind raises nex_TextException naming both.
+/// Readers of one archive may be used from several threads at once: reading changes nothing.
 #include <BASIC_Export.h>
 #include <cls_Value.h>
 
@@ -13,7 +17,7 @@ class BASIC_EXPORT cls_ReadVisitor {
 public:
   cls_ReadVisitor(const cls_Archive& archive, const cls_Record& record) noexcept
       : m_Archive(&archive), m_Record(&record) {}
-  // The parent class level of outer's record, which must be of parentTypeId.
+  /// The parent class level of outer's record, which must be of parentTypeId.
   cls_ReadVisitor(const cls_ReadVisitor& outer, unsigned int parentTypeId);
 
   unsigned int TypeId() const noexcept { return m_Record->typeId; }
@@ -40,14 +44,14 @@ public:
     return value;
   }
   cow_String ReadEnum(const char* name) const;
-  // The list field, which must be a list.
+  /// The list field, which must be a list.
   const cls_Value::List& ReadList(const char* name) const;
 
-  // A reader on a nested object value (a record, or a reference followed to its record).
+  /// A reader on a nested object value (a record, or a reference followed to its record).
   cls_ReadVisitor Nested(const cls_Value& value) const;
   cls_ReadVisitor Nested(const char* name) const { return Nested(Field(name)); }
-  // Builds the object held in a value through the registry; null for an empty value.
-  // The object is of the class typeId answers, which must be baseTypeId or derive from it.
+  /// Builds the object held in a value through the registry; null for an empty value.
+  /// The object is of the class typeId answers, which must be baseTypeId or derive from it.
   void* Construct(const cls_Value& value, unsigned int baseTypeId, unsigned int& typeId) const;
   template <class T>
   std::unique_ptr<T> ReadObject(const cls_Value& value) const {
@@ -69,5 +73,7 @@ private:
 
   const cls_Archive* m_Archive;
   const cls_Record* m_Record;
-  int m_Depth = 0;  // readers this one is nested in: cyclic references end in an error
+  int m_Depth = 0;  ///< readers this one is nested in: cyclic references end in an error
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Persistence identity: 64 bits; default-constructed is null, AllocateUid() gives a fresh one.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_Uid
+/// Persistence identity: 64 bits; default-constructed is null, AllocateUid() gives a fresh one.
 #include <BASIC_Export.h>
 
 #include <compare>
@@ -19,3 +23,5 @@ public:
 private:
   std::uint64_t m_Value = 0;
 };
+
+/// @}

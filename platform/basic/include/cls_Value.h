@@ -1,6 +1,10 @@
 #pragma once
-// One field value of a persisted record: a scalar, a text, an enumerator name, a list, a
-// two-dimensional array, a nested record, or a reference (by uid) to a record written earlier.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_Value
+/// One field value of a persisted record: a scalar, a text, an enumerator name, a list, a
+/// two-dimensional array, a nested record, or a reference (by uid) to a record written earlier.
 #include <BASIC_Export.h>
 #include <cls_Uid.h>
 #include <cow_String.h>
@@ -26,7 +30,7 @@ struct cls_Ref {
 struct cls_Matrix {
   int rows = 0;
   int columns = 0;
-  std::vector<cls_Value> cells;  // row-major
+  std::vector<cls_Value> cells;  ///< row-major
 };
 
 class cls_Value {
@@ -61,7 +65,7 @@ private:
 struct cls_Record {
   unsigned int typeId = 0;
   cls_Uid uid;
-  cls_Value parent;  // the parent class level: a record, a reference, or none
+  cls_Value parent;  ///< the parent class level: a record, a reference, or none
   std::vector<std::pair<cow_String, cls_Value>> fields;
 
   const cls_Value* Find(std::string_view name) const noexcept {
@@ -72,7 +76,9 @@ struct cls_Record {
   }
 };
 
-// The same kind and the same contents, floating-point numbers bit for bit, nested records
-// field by field, uids included: what decides whether one record may stand for another.
+/// The same kind and the same contents, floating-point numbers bit for bit, nested records
+/// field by field, uids included: what decides whether one record may stand for another.
 BASIC_EXPORT bool Identical(const cls_Value& a, const cls_Value& b) noexcept;
 BASIC_EXPORT bool Identical(const cls_Record& a, const cls_Record& b) noexcept;
+
+/// @}

@@ -1,14 +1,18 @@
 #pragma once
-// The persistent list (type 35:1): the record behind list-valued attributes of other
-// classes. Its field "items" holds one value per item: a nested object (a record, or a
-// reference to one written earlier), a plain value (a text, a number), or an empty value
-// for an empty item.
-//
-// Writing borrows the items: the owner passes a function that writes item i through the
-// writer it is given (an object's DBWrite, or WriteValue), and writes the list with
-//   writer.WriteObject("name", cls_xcList(uid, count, writeItem));
-// Reading: cls_xcList(reader.Nested("name")) gives the items and a reader to build the
-// nested objects with.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_xcList
+/// The persistent list (type 35:1): the record behind list-valued attributes of other
+/// classes. Its field "items" holds one value per item: a nested object (a record, or a
+/// reference to one written earlier), a plain value (a text, a number), or an empty value
+/// for an empty item.
+///
+/// Writing borrows the items: the owner passes a function that writes item i through the
+/// writer it is given (an object's DBWrite, or WriteValue), and writes the list with
+///   writer.WriteObject("name", cls_xcList(uid, count, writeItem));
+/// Reading: cls_xcList(reader.Nested("name")) gives the items and a reader to build the
+/// nested objects with.
 #include <BASIC_Export.h>
 #include <cls_ReadVisitor.h>
 #include <cls_TypeIds.h>
@@ -24,12 +28,12 @@ public:
   using ItemWriter = std::function<void(int index, const cls_WriteVisitor& item)>;
 
   cls_xcList(const cls_Uid& uid, int count, ItemWriter writeItem);
-  // The list held in a record; raises nex_TextException when the record is not a list.
+  /// The list held in a record; raises nex_TextException when the record is not a list.
   explicit cls_xcList(const cls_ReadVisitor& reader);
 
   int Count() const noexcept { return static_cast<int>(m_Items ? m_Items->size() : 0); }
   const cls_Value& Item(int index) const { return (*m_Items)[static_cast<std::size_t>(index)]; }
-  // The reader of the list's record (to build nested items and to report faults).
+  /// The reader of the list's record (to build nested items and to report faults).
   const cls_ReadVisitor& Reader() const noexcept { return *m_Reader; }
 
   void DBWrite(const cls_WriteVisitor& writer) const;
@@ -44,3 +48,5 @@ private:
   const cls_Value::List* m_Items = nullptr;
   std::optional<cls_ReadVisitor> m_Reader;
 };
+
+/// @}

@@ -1,9 +1,13 @@
 #pragma once
-// The persistent map (type 35:2): the record behind map-valued attributes. Its fields
-// "keys" and "values" hold one value per entry, in the same order; keys are plain values
-// (numbers, texts), values are nested objects or plain values as in cls_xcList.
-// Write with writer.WriteObject("name", cls_xcMap(uid, count, writeKey, writeValue)); read
-// with cls_xcMap(reader.Nested("name")).
+/// \addtogroup basic
+/// @{
+
+/// \class cls_xcMap
+/// The persistent map (type 35:2): the record behind map-valued attributes. Its fields
+/// "keys" and "values" hold one value per entry, in the same order; keys are plain values
+/// (numbers, texts), values are nested objects or plain values as in cls_xcList.
+/// Write with writer.WriteObject("name", cls_xcMap(uid, count, writeKey, writeValue)); read
+/// with cls_xcMap(reader.Nested("name")).
 #include <cls_xcList.h>
 
 class BASIC_EXPORT cls_xcMap {
@@ -11,8 +15,8 @@ public:
   using ItemWriter = cls_xcList::ItemWriter;
 
   cls_xcMap(const cls_Uid& uid, int count, ItemWriter writeKey, ItemWriter writeValue);
-  // The map held in a record; raises nex_TextException when the record is not a map or
-  // its key and value counts differ.
+  /// The map held in a record; raises nex_TextException when the record is not a map or
+  /// its key and value counts differ.
   explicit cls_xcMap(const cls_ReadVisitor& reader);
 
   int Count() const noexcept { return static_cast<int>(m_Keys ? m_Keys->size() : 0); }
@@ -34,3 +38,5 @@ private:
   const cls_Value::List* m_Values = nullptr;
   std::optional<cls_ReadVisitor> m_Reader;
 };
+
+/// @}

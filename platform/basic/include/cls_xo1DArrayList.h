@@ -1,7 +1,11 @@
 #pragma once
-// The one-dimensional list memento: a cow_List<T> of persistent values written as one list
-// field of nested records and read back item by item. T needs DBWrite(const
-// cls_WriteVisitor&) and a constructor from const cls_ReadVisitor&.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_xo1DArrayList
+/// The one-dimensional list memento: a cow_List<T> of persistent values written as one list
+/// field of nested records and read back item by item. T needs DBWrite(const
+/// cls_WriteVisitor&) and a constructor from const cls_ReadVisitor&.
 #include <cls_ReadVisitor.h>
 #include <cls_WriteVisitor.h>
 #include <cow_List.h>
@@ -25,3 +29,5 @@ public:
     return cow_List<T>(std::move(values));
   }
 };
+
+/// @}

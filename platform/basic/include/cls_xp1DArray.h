@@ -1,6 +1,10 @@
 #pragma once
-// A persisted one-dimensional array: a copy-on-write row of a fixed length (changed only by
-// Resize), whose field is a two-dimensional array value of one row.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_xp1DArray
+/// A persisted one-dimensional array: a copy-on-write row of a fixed length (changed only by
+/// Resize), whose field is a two-dimensional array value of one row.
 #include <cls_xpList.h>
 
 template <class T>
@@ -56,3 +60,5 @@ struct cls_xpItem<cls_xp1DArray<T>> {
     return true;
   }
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// A persisted list: a copy-on-write list whose field is a list value of its items.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_xpList
+/// A persisted list: a copy-on-write list whose field is a list value of its items.
 #include <cls_xpItem.h>
 #include <cow_List.h>
 
@@ -33,3 +37,5 @@ struct cls_xpItem<cls_xpList<T>> {
     return true;
   }
 };
+
+/// @}

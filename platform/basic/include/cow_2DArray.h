@@ -1,30 +1,34 @@
 #pragma once
-// A copy-on-write rows x columns array, stored row-major.
-//
-// Indexes: a row outside [0, Rows()) or a column outside [0, Columns()) raises
-// nex_TextException "Array index (R, C) out of range (ROWS x COLUMNS)" before anything is
-// read, written or un-shared.
-//
-// Equality: the same shape and equal cells, each compared with its own ==, so an array holding
-// a NaN is unequal even to itself. Arrays on one shared body are equal without comparing only
-// where cow_ReflexiveEquality<T> says every T equals itself.
-//
-// Threads: as cow_List. Copies may be read and written on different threads at once, each by
-// its own thread; one array object may be read from several threads at once, and a write to it
-// needs its one owner and no reader at the same time.
+/// \addtogroup basic
+/// @{
+
+/// \class cow_2DArray
+/// A copy-on-write rows x columns array, stored row-major.
+///
+/// Indexes: a row outside [0, Rows()) or a column outside [0, Columns()) raises
+/// nex_TextException "Array index (R, C) out of range (ROWS x COLUMNS)" before anything is
+/// read, written or un-shared.
+///
+/// Equality: the same shape and equal cells, each compared with its own ==, so an array holding
+/// a NaN is unequal even to itself. Arrays on one shared body are equal without comparing only
+/// where cow_ReflexiveEquality<T> says every T equals itself.
+///
+/// Threads: as cow_List. Copies may be read and written on different threads at once, each by
+/// its own thread; one array object may be read from several threads at once, and a write to it
+/// needs its one owner and no reader at the same time.
 #include <BASIC_Export.h>
 #include <cow_ReflexiveEquality.h>
 #include <cow_Shared.h>
 
 #include <vector>
 
-// Raises nex_TextException for a cell outside an array of the given shape.
+/// Raises nex_TextException for a cell outside an array of the given shape.
 [[noreturn]] BASIC_EXPORT void cow_RaiseOutOfRange(int row, int column, int rows, int columns);
 
 template <class T>
 class cow_2DArray {
 public:
-  // The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
+  /// The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
   using const_reference = typename std::vector<T>::const_reference;
   using reference = typename std::vector<T>::reference;
 
@@ -41,7 +45,7 @@ public:
     return m_Body.Write().cells[at];
   }
   void Set(int row, int column, const T& value) { Get(row, column) = value; }
-  // Every cell is reset to fill.
+  /// Every cell is reset to fill.
   void Resize(int rows, int columns, const T& fill = T()) {
     Data& body = m_Body.Write();
     body.rows = rows < 0 ? 0 : rows;
@@ -76,3 +80,5 @@ private:
 
   cow_Shared<Data> m_Body;
 };
+
+/// @}

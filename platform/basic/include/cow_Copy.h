@@ -1,6 +1,12 @@
 #pragma once
-// Clone policy of cow_COW for plain values: the copy constructor.
+/// \addtogroup basic
+/// @{
+
+/// \struct cow_Copy
+/// Clone policy of cow_COW for plain values: the copy constructor.
 template <class T>
 struct cow_Copy {
   static T* Clone(const T& object) { return new T(object); }
 };
+
+/// @}

@@ -1,10 +1,14 @@
 #pragma once
-// A counted handle that shares one object among its copies without ever copying it
-// (views on the same numbers share one buffer).
-//
-// Threads: copying and dropping handles on different threads is safe (the count is atomic),
-// but every copy reaches the same object: writing it through one handle while another thread
-// reads it through any handle is a race, as for any object shared between threads.
+/// \addtogroup basic
+/// @{
+
+/// \class cow_CountedHld
+/// A counted handle that shares one object among its copies without ever copying it
+/// (views on the same numbers share one buffer).
+///
+/// Threads: copying and dropping handles on different threads is safe (the count is atomic),
+/// but every copy reaches the same object: writing it through one handle while another thread
+/// reads it through any handle is a race, as for any object shared between threads.
 #include <memory>
 
 template <class T>
@@ -23,3 +27,5 @@ public:
 private:
   std::shared_ptr<T> m_Object;
 };
+
+/// @}

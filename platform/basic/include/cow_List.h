@@ -1,18 +1,22 @@
 #pragma once
-// A copy-on-write list: copying is O(1) whatever the length; the first write un-shares.
-// Iteration is read-only so that reading never copies.
-//
-// Indexes: an index outside [0, Length()) (for Insert, [0, Length()]) raises nex_TextException
-// "List index I out of range (length N)" before anything is read, written or un-shared.
-//
-// Equality: the same length and equal elements in order, each compared with its own ==, so a
-// list holding a NaN is unequal even to itself. Lists on one shared body are equal without
-// comparing only where cow_ReflexiveEquality<T> says every T equals itself.
-//
-// Threads: copies of one list may be read and written on different threads at once, each copy
-// by its own thread (the sharing count is atomic and the first write un-shares). One list
-// object may be read (const operations, iteration) from several threads at once; a write to it
-// needs its one owner and no reader at the same time.
+/// \addtogroup basic
+/// @{
+
+/// \class cow_List
+/// A copy-on-write list: copying is O(1) whatever the length; the first write un-shares.
+/// Iteration is read-only so that reading never copies.
+///
+/// Indexes: an index outside [0, Length()) (for Insert, [0, Length()]) raises nex_TextException
+/// "List index I out of range (length N)" before anything is read, written or un-shared.
+///
+/// Equality: the same length and equal elements in order, each compared with its own ==, so a
+/// list holding a NaN is unequal even to itself. Lists on one shared body are equal without
+/// comparing only where cow_ReflexiveEquality<T> says every T equals itself.
+///
+/// Threads: copies of one list may be read and written on different threads at once, each copy
+/// by its own thread (the sharing count is atomic and the first write un-shares). One list
+/// object may be read (const operations, iteration) from several threads at once; a write to it
+/// needs its one owner and no reader at the same time.
 #include <BASIC_Export.h>
 #include <cow_ReflexiveEquality.h>
 #include <cow_Shared.h>
@@ -21,7 +25,7 @@
 #include <initializer_list>
 #include <vector>
 
-// Raises nex_TextException for an index outside a list of the given length.
+/// Raises nex_TextException for an index outside a list of the given length.
 [[noreturn]] BASIC_EXPORT void cow_RaiseOutOfRange(int index, int length);
 
 template <class T>
@@ -29,7 +33,7 @@ class cow_List {
 public:
   using value_type = T;
   using const_iterator = typename std::vector<T>::const_iterator;
-  // The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
+  /// The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
   using const_reference = typename std::vector<T>::const_reference;
   using reference = typename std::vector<T>::reference;
 
@@ -51,7 +55,7 @@ public:
   const std::vector<T>& Vector() const noexcept { return Items(); }
   std::vector<T>& MutableVector() { return m_Items.Write(); }
 
-  // Index of the first equal item, or -1.
+  /// Index of the first equal item, or -1.
   int Find(const T& item) const {
     const auto at = std::find(begin(), end(), item);
     return at == end() ? -1 : static_cast<int>(at - begin());
@@ -84,7 +88,7 @@ public:
 
 private:
   static std::size_t Count(int n) noexcept { return n < 0 ? 0 : static_cast<std::size_t>(n); }
-  // index itself, once it is in [0, end); Length() is reported as the length.
+  /// index itself, once it is in [0, end); Length() is reported as the length.
   std::size_t Checked(int index, int end) const {
     if (index < 0 || index >= end) cow_RaiseOutOfRange(index, Length());
     return static_cast<std::size_t>(index);
@@ -93,3 +97,5 @@ private:
 
   cow_Shared<std::vector<T>> m_Items;
 };
+
+/// @}

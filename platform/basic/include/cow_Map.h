@@ -1,14 +1,18 @@
 #pragma once
-// A copy-on-write map ordered by key (text keys byte-wise, so "OFF" comes before "ON"). Lookups
-// take any type that orders against the keys, so a text key is found from a view.
-//
-// Equality: the same keys with equal values, each compared with its own ==, so a map holding
-// a NaN is unequal even to itself. Maps on one shared body are equal without comparing only
-// where cow_ReflexiveEquality says that every key and every value equals itself.
-//
-// Threads: as cow_List. Copies may be read and written on different threads at once, each by
-// its own thread; one map object may be read from several threads at once, and a write to it
-// needs its one owner and no reader at the same time.
+/// \addtogroup basic
+/// @{
+
+/// \class cow_Map
+/// A copy-on-write map ordered by key (text keys byte-wise, so "OFF" comes before "ON"). Lookups
+/// take any type that orders against the keys, so a text key is found from a view.
+///
+/// Equality: the same keys with equal values, each compared with its own ==, so a map holding
+/// a NaN is unequal even to itself. Maps on one shared body are equal without comparing only
+/// where cow_ReflexiveEquality says that every key and every value equals itself.
+///
+/// Threads: as cow_List. Copies may be read and written on different threads at once, each by
+/// its own thread; one map object may be read from several threads at once, and a write to it
+/// needs its one owner and no reader at the same time.
 #include <cow_List.h>
 
 #include <map>
@@ -25,9 +29,9 @@ public:
   int Length() const noexcept { return static_cast<int>(Entries().size()); }
   bool IsEmpty() const noexcept { return Entries().empty(); }
   bool Contains(const K& key) const { return Entries().count(key) != 0; }
-  // The value under key, or null.
+  /// The value under key, or null.
   const V* Find(const K& key) const { return FindKey(key); }
-  // The same from anything that orders against the keys, such as a text view.
+  /// The same from anything that orders against the keys, such as a text view.
   template <class Key>
   const V* FindKey(const Key& key) const {
     const auto at = Entries().find(key);
@@ -62,3 +66,5 @@ private:
 
   cow_Shared<std::map<K, V, std::less<>>> m_Entries;
 };
+
+/// @}

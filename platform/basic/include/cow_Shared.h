@@ -1,10 +1,14 @@
 #pragma once
-// The counted body behind the copy-on-write containers: copies share one body, Read never
-// copies, Write un-shares first. An empty handle reads as a default-constructed value.
-//
-// Threads: the count is atomic, so copies may live on different threads, each written by its
-// own; Write writes in place only when no other copy exists. One handle object may be read
-// from several threads at once; Write and assignment need its one owner and no reader.
+/// \addtogroup basic
+/// @{
+
+/// \class cow_Shared
+/// The counted body behind the copy-on-write containers: copies share one body, Read never
+/// copies, Write un-shares first. An empty handle reads as a default-constructed value.
+///
+/// Threads: the count is atomic, so copies may live on different threads, each written by its
+/// own; Write writes in place only when no other copy exists. One handle object may be read
+/// from several threads at once; Write and assignment need its one owner and no reader.
 #include <atomic>
 #include <utility>
 
@@ -67,3 +71,5 @@ private:
 
   Body* m_Body = nullptr;
 };
+
+/// @}

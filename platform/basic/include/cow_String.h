@@ -1,5 +1,9 @@
 #pragma once
-// The BasicUtils text: the same counted, copy-on-write text as atr_StringBase.
+/// \addtogroup basic
+/// @{
+
+/// \class cow_String
+/// The BasicUtils text: the same counted, copy-on-write text as atr_StringBase.
 #include <BASIC_Export.h>
 #include <atr_String.h>
 
@@ -13,3 +17,5 @@ public:
 
 template <>
 struct std::hash<cow_String> : std::hash<atr_StringBase> {};
+
+/// @}

@@ -1,6 +1,12 @@
 #pragma once
-// Clone policy of cow_COW for class hierarchies: the object's own virtual Copy().
+/// \addtogroup basic
+/// @{
+
+/// \struct cow_Virtual
+/// Clone policy of cow_COW for class hierarchies: the object's own virtual Copy().
 template <class T>
 struct cow_Virtual {
   static T* Clone(const T& object) { return object.Copy(); }
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// A broken invariant; the text is the failed condition ("WipReporter != 0").
+/// \addtogroup basic
+/// @{
+
+/// \class nex_AssertException
+/// A broken invariant; the text is the failed condition ("WipReporter != 0").
 #include <nex_Raisable.h>
 
 class BASIC_EXPORT nex_AssertException : public nex_Raisable<nex_AssertException, nex_Exception> {
@@ -19,6 +23,8 @@ private:
   cls_Uid m_AssertUid;
 };
 
-// Raises nex_AssertException with the condition's text when it does not hold.
+/// Raises nex_AssertException with the condition's text when it does not hold.
 #define NEX_ASSERT(condition, path) \
   ((condition) ? void() : NEX_THROW(nex_AssertException(#condition), path))
+
+/// @}

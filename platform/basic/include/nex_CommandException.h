@@ -1,6 +1,10 @@
 #pragma once
-// Base of the failures of a command: the report is built from JournalMessage(), and
-// PythonType() names the script-level error a scripting layer raises for it.
+/// \addtogroup basic
+/// @{
+
+/// \class nex_CommandException
+/// Base of the failures of a command: the report is built from JournalMessage(), and
+/// PythonType() names the script-level error a scripting layer raises for it.
 #include <cow_String.h>
 #include <nex_Exception.h>
 
@@ -22,3 +26,5 @@ protected:
 private:
   cls_Uid m_CommandUid;
 };
+
+/// @}

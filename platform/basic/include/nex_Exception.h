@@ -1,12 +1,16 @@
 #pragma once
-// Root of every failure of the application. Raise with NEX_THROW (or nex_Exception::Throw),
-// which records the source path and line; re-raise through a base reference with Propagate(),
-// which keeps the most-derived type; keep beyond a handler with Copy().
-//
-// Threads: an exception does not change once built, except through SetSource and assignment.
-// Its const operations (what(), the reports, Copy, Propagate, DBWrite) may be called on one
-// exception from several threads at once; SetSource and assignment need the one owner. This
-// holds for every class derived from it in this library.
+/// \addtogroup basic
+/// @{
+
+/// \class nex_Exception
+/// Root of every failure of the application. Raise with NEX_THROW (or nex_Exception::Throw),
+/// which records the source path and line; re-raise through a base reference with Propagate(),
+/// which keeps the most-derived type; keep beyond a handler with Copy().
+///
+/// Threads: an exception does not change once built, except through SetSource and assignment.
+/// Its const operations (what(), the reports, Copy, Propagate, DBWrite) may be called on one
+/// exception from several threads at once; SetSource and assignment need the one owner. This
+/// holds for every class derived from it in this library.
 #include <BASIC_Export.h>
 #include <atr_String.h>
 #include <cls_Uid.h>
@@ -21,14 +25,14 @@ class cls_WriteVisitor;
 class BASIC_EXPORT nex_Exception : public std::exception {
 public:
   nex_Exception() noexcept = default;
-  // Copies share the report's text, so copying (as every throw does) allocates nothing.
+  /// Copies share the report's text, so copying (as every throw does) allocates nothing.
   nex_Exception(const nex_Exception& other) noexcept = default;
   nex_Exception& operator=(const nex_Exception& other) noexcept = default;
   ~nex_Exception() override;
 
-  // The report with its source location, for developers and logs.
+  /// The report with its source location, for developers and logs.
   virtual atr_String DeveloperReport() const;
-  // The report as a user sees it.
+  /// The report as a user sees it.
   virtual atr_String UserReport() const;
   virtual atr_String AsString() const = 0;
   [[noreturn]] virtual void Propagate() const = 0;
@@ -36,13 +40,13 @@ public:
   virtual unsigned int DynTypeId() const;
   virtual void DBWrite(const cls_WriteVisitor& writer) const;
 
-  // DeveloperReport() as fixed when the exception was raised (Throw, NEX_THROW, Propagate) or
-  // read back from an archive; the text lives as long as the exception and every copy carries
-  // it. An exception only constructed, never raised, answers "nex_Exception".
+  /// DeveloperReport() as fixed when the exception was raised (Throw, NEX_THROW, Propagate) or
+  /// read back from an archive; the text lives as long as the exception and every copy carries
+  /// it. An exception only constructed, never raised, answers "nex_Exception".
   const char* what() const noexcept override;
   const char* SourcePath() const noexcept { return m_SourcePath; }
   int SourceLine() const noexcept { return m_SourceLine; }
-  // Records where the exception is raised and fixes its report for what().
+  /// Records where the exception is raised and fixes its report for what().
   void SetSource(const char* path, int line) noexcept;
 
   static unsigned int TypeId() noexcept;
@@ -55,19 +59,21 @@ public:
     throw exception;
   }
 
-  // Fixes the report for what() unless it already is; called on a fully built exception as
-  // it is raised or read back, since the report comes from the most-derived class.
+  /// Fixes the report for what() unless it already is; called on a fully built exception as
+  /// it is raised or read back, since the report comes from the most-derived class.
   void FixReport() noexcept;
 
 protected:
   explicit nex_Exception(const cls_ReadVisitor& reader);
 
 private:
-  const char* m_SourcePath = "";  // a literal: raisers pass fixed paths
+  const char* m_SourcePath = "";  ///< a literal: raisers pass fixed paths
   int m_SourceLine = 0;
   cls_Uid m_Uid;
-  atr_String m_What;  // what(); empty until raised
+  atr_String m_What;  ///< what(); empty until raised
 };
 
-// Raises exception from the given source path, recording this line.
+/// Raises exception from the given source path, recording this line.
 #define NEX_THROW(exception, path) nex_Exception::Throw((exception), (path), __LINE__)
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// The three operations every concrete exception class implements the same way, written once:
-// Propagate throws a copy typed as Derived (its report fixed, as for any raise), Copy clones
-// it, DynTypeId answers Derived's id.
+/// \addtogroup basic
+/// @{
+
+/// \class nex_Raisable
+/// The three operations every concrete exception class implements the same way, written once:
+/// Propagate throws a copy typed as Derived (its report fixed, as for any raise), Copy clones
+/// it, DynTypeId answers Derived's id.
 #include <nex_Exception.h>
 
 template <class Derived, class Base>
@@ -17,3 +21,5 @@ public:
   nex_Exception* Copy() const override { return new Derived(static_cast<const Derived&>(*this)); }
   unsigned int DynTypeId() const override { return Derived::TypeId(); }
 };
+
+/// @}

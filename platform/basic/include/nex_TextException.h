@@ -1,5 +1,9 @@
 #pragma once
-// An internal failure described by a fixed text ("List Index returned NULL").
+/// \addtogroup basic
+/// @{
+
+/// \class nex_TextException
+/// An internal failure described by a fixed text ("List Index returned NULL").
 #include <nex_Raisable.h>
 
 class BASIC_EXPORT nex_TextException : public nex_Raisable<nex_TextException, nex_Exception> {
@@ -18,3 +22,5 @@ private:
   atr_String m_Text;
   cls_Uid m_TextUid;
 };
+
+/// @}

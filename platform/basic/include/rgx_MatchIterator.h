@@ -1,5 +1,9 @@
 #pragma once
-// The result of rgx_match: whether the pattern occurs in the subject, and where first.
+/// \addtogroup basic
+/// @{
+
+/// \class rgx_MatchIterator
+/// The result of rgx_match: whether the pattern occurs in the subject, and where first.
 class rgx_MatchIterator {
 public:
   rgx_MatchIterator() noexcept = default;
@@ -16,3 +20,5 @@ private:
   int m_Position = -1;
   int m_Length = 0;
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// One instance of T per thread, created on the thread's first Instance() and destroyed when
-// the thread ends. Each shared library that instantiates it has its own slot, so T should
-// expose one accessor defined in its own library.
+/// \addtogroup basic
+/// @{
+
+/// \class thr_ThreadSingleton
+/// One instance of T per thread, created on the thread's first Instance() and destroyed when
+/// the thread ends. Each shared library that instantiates it has its own slot, so T should
+/// expose one accessor defined in its own library.
 #include <thr_ThreadSingletonRegistry.h>
 
 #include <memory>
@@ -18,7 +22,7 @@ public:
     }
     return *slot;
   }
-  // This thread's instance, or null when it has none.
+  /// This thread's instance, or null when it has none.
   static T* Peek() noexcept { return Slot(); }
 
 private:
@@ -32,3 +36,5 @@ private:
     return instance;
   }
 };
+
+/// @}

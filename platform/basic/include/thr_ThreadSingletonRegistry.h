@@ -1,7 +1,11 @@
 #pragma once
-// The per-thread clean-ups of the thread singletons: run in reverse order of registration
-// when the thread ends, or at once through CleanupThisThread. Each is given the object it was
-// registered with, as the thread's own storage may already be gone when it ends.
+/// \addtogroup basic
+/// @{
+
+/// \class thr_ThreadSingletonRegistry
+/// The per-thread clean-ups of the thread singletons: run in reverse order of registration
+/// when the thread ends, or at once through CleanupThisThread. Each is given the object it was
+/// registered with, as the thread's own storage may already be gone when it ends.
 #include <BASIC_Export.h>
 
 class BASIC_EXPORT thr_ThreadSingletonRegistry {
@@ -10,3 +14,5 @@ public:
   static void Register(Cleanup cleanup, void* object);
   static void CleanupThisThread() noexcept;
 };
+
+/// @}

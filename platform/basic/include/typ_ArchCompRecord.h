@@ -1,12 +1,16 @@
 #pragma once
-// One 16-byte row of a module's class table (and the table's 16-byte header).
+/// \addtogroup basic
+/// @{
+
+/// \struct typ_ArchCompRecord
+/// One 16-byte row of a module's class table (and the table's 16-byte header).
 #include <cstdint>
 
 struct typ_ArchCompRecord {
-  std::uint32_t kind;          // 4 exception class, 7 persistent value class, 0 unused
-  std::uint16_t parentClass;   // parent class number
-  std::uint16_t parentModule;  // parent module number
-  const char* name;            // registration name; null for an unused number
+  std::uint32_t kind;          ///< 4 exception class, 7 persistent value class, 0 unused
+  std::uint16_t parentClass;   ///< parent class number
+  std::uint16_t parentModule;  ///< parent module number
+  const char* name;            ///< registration name; null for an unused number
 };
 
 struct typ_ArchCompHeader {
@@ -15,7 +19,7 @@ struct typ_ArchCompHeader {
   std::uint8_t reserved[8];
 };
 
-// A module's table: the header, then rows for class numbers 1, 2, ... and a terminator.
+/// A module's table: the header, then rows for class numbers 1, 2, ... and a terminator.
 template <int Count>
 struct typ_ArchCompTableData {
   typ_ArchCompHeader header;
@@ -25,7 +29,7 @@ struct typ_ArchCompTableData {
 static_assert(sizeof(typ_ArchCompRecord) == 16, "class-table rows are 16 bytes");
 static_assert(sizeof(typ_ArchCompHeader) == 16, "the class-table header is 16 bytes");
 
-// Rows as the module tables spell them: kind, then the parent as module:class, then the name.
+/// Rows as the module tables spell them: kind, then the parent as module:class, then the name.
 constexpr typ_ArchCompRecord typ_Row(std::uint32_t kind, unsigned int parentModule,
                                      unsigned int parentClass, const char* name) noexcept {
   return {kind, static_cast<std::uint16_t>(parentClass), static_cast<std::uint16_t>(parentModule),
@@ -36,3 +40,5 @@ constexpr std::uint32_t typ_VALUE_CLASS = 7;
 constexpr typ_ArchCompRecord typ_UnusedRow = {0, 1, 0, nullptr};
 constexpr typ_ArchCompRecord typ_Terminator = {0, 0, 0, nullptr};
 constexpr typ_ArchCompHeader typ_TableHeader = {0, 1, {}};
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Builds a text piece by piece in one buffer.
+/// \addtogroup basic
+/// @{
+
+/// \class utl_Catenator
+/// Builds a text piece by piece in one buffer.
 #include <cow_String.h>
 
 #include <string>
@@ -24,7 +28,7 @@ public:
   std::string_view View() const noexcept { return m_Buffer; }
   int Length() const noexcept { return static_cast<int>(m_Buffer.size()); }
   void Clear() noexcept { m_Buffer.clear(); }
-  // Drops up to count characters from the end.
+  /// Drops up to count characters from the end.
   void Chop(int count) noexcept {
     m_Buffer.resize(count >= Length() ? 0 : m_Buffer.size() - static_cast<std::size_t>(count));
   }
@@ -32,3 +36,5 @@ public:
 private:
   std::string m_Buffer;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// A file-system path as the application passes it around: its text, unchanged. It does not
-// touch the file system.
+/// \addtogroup basic
+/// @{
+
+/// \class utl_FilePath
+/// A file-system path as the application passes it around: its text, unchanged. It does not
+/// touch the file system.
 #include <cow_String.h>
 
 class utl_FilePath {
@@ -15,3 +19,5 @@ public:
 private:
   cow_String m_Path;
 };
+
+/// @}
