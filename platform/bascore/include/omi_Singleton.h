@@ -12,11 +12,14 @@
 template <class T>
 class omi_Singleton {
 public:
+  /// The instance, created on first use.
   static T& Instance() {
     if (!Slot()) Slot() = std::make_unique<T>();
     return *Slot();
   }
+  /// True while the instance exists.
   static bool Exists() noexcept { return Slot() != nullptr; }
+  /// Destroys the instance; the next Instance() makes a new one.
   static void Destroy() noexcept { Slot().reset(); }
 
 private:

@@ -11,12 +11,18 @@
 class BASCORE_EXPORT omi_complex {
 public:
   constexpr omi_complex() noexcept = default;
+  /// Cartesian (real, imag).
   constexpr omi_complex(double real, double imag) noexcept : m_A(real), m_B(imag) {}
+  /// Polar (modulus, argument in radians), kept in that form.
   static omi_complex FromPolar(double modulus, double argument) noexcept;
 
+  /// True when held in polar form.
   bool IsPolar() const noexcept { return m_Polar; }
+  /// The Cartesian parts, whatever the form.
+  ///@{
   double Real() const noexcept;
   double Imag() const noexcept;
+  ///@}
   /// The same number in the other form.
   omi_complex ToCartesian() const noexcept { return {Real(), Imag()}; }
 
