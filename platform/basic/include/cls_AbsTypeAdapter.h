@@ -9,6 +9,7 @@
 template <class T>
 class cls_AbsTypeAdapter : public cls_ClassMetadata {
 public:
+  /// The metadata of T (T::TypeId()) under name, as cls_ClassMetadata takes it.
   cls_AbsTypeAdapter(const cow_String& name, unsigned int metadataWord, unsigned int parentTypeId,
                      unsigned int extra = 0)
       : cls_ClassMetadata(name, T::TypeId(), metadataWord, parentTypeId, extra) {}

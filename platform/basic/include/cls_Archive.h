@@ -23,17 +23,25 @@
 /// number of threads may read it at once, since reading changes nothing.
 class BASIC_EXPORT cls_Archive {
 public:
+  /// The file format version this library writes and reads.
   static constexpr std::uint32_t Version = 1;
   static constexpr int MaxDepth = 200;  ///< nesting of records and lists
 
   cls_Archive() = default;
+  /// Movable: the moved-from archive is left empty.
+  ///@{
   cls_Archive(cls_Archive&&) noexcept = default;
   cls_Archive& operator=(cls_Archive&&) noexcept = default;
+  ///@}
+  /// Not copyable.
+  ///@{
   cls_Archive(const cls_Archive&) = delete;
   cls_Archive& operator=(const cls_Archive&) = delete;
+  ///@}
 
   /// Writing: one top-level record per writer. An Add that raises adds nothing.
   cls_WriteVisitor NewRoot();
+  /// Writes object as a new top-level record through its DBWrite.
   template <class T>
   void Add(const T& object) {
     try {
@@ -46,8 +54,12 @@ public:
 
   /// Reading.
   int RootCount() const noexcept { return static_cast<int>(m_Roots.size()); }
+  /// Top-level record index as a value, and a reader on it; an index out of range raises nex_TextException.
+  ///@{
   const cls_Value& RootValue(int index) const;
   cls_ReadVisitor Root(int index) const;
+  ///@}
+  /// The object of top-level record index, built through the registry; owned by the caller.
   template <class T>
   std::unique_ptr<T> Read(int index) const {
     return Root(index).ReadObject<T>(RootValue(index));
@@ -57,6 +69,7 @@ public:
 
   /// The file form.
   std::string ToBytes() const;
+  /// Reads the file form; origin names the source in error messages.
   static cls_Archive FromBytes(std::string_view bytes, std::string_view origin = "memory");
   /// Save replaces the file at path, or the file a symbolic link there points to (the link
   /// stays), keeping its permission bits; a crash at any moment leaves the old or the new file
@@ -64,9 +77,11 @@ public:
   /// regular file of at most MaxFileBytes (1 GiB). Either raises nex_TextException naming the
   /// path and the system's reason ("archive 'a.cvxarch': cannot be written: No space left on
   /// device"); a directory, device or FIFO is refused untouched.
+  ///@{
   static constexpr std::uintmax_t MaxFileBytes = std::uintmax_t{1} << 30;
   void Save(const std::filesystem::path& path) const;
   static cls_Archive Load(const std::filesystem::path& path);
+  ///@}
   /// A readable listing of every record, for people.
   void Dump(std::ostream& out) const;
 

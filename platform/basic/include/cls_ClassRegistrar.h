@@ -16,12 +16,16 @@ class BASIC_EXPORT cls_ClassRegistrar {
 public:
   cls_ClassRegistrar();
   ~cls_ClassRegistrar();
+  /// Not copyable.
+  ///@{
   cls_ClassRegistrar(const cls_ClassRegistrar&) = delete;
   cls_ClassRegistrar& operator=(const cls_ClassRegistrar&) = delete;
+  ///@}
 
   /// Takes ownership; a class registered again replaces its earlier metadata.
   cls_ClassMetadata& AddClassMD(cls_ClassMetadata* metadata);
 
+  /// The metadata of typeId, or null.
   const cls_ClassMetadata* Find(unsigned int typeId) const noexcept {
     const unsigned int module = cls_ModuleOf(typeId);
     const unsigned int number = cls_ClassOf(typeId);

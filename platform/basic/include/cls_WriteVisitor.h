@@ -4,8 +4,10 @@
 
 /// \class cls_WriteVisitor
 /// Writes objects into an archive's record tree. A class level writes itself as
+/// \code
 ///   if (!writer.StartLevel<Parent>(TypeId(), m_Uid, *this)) return;   // or StartWrite at a root
 ///   writer.Write("name", value); ...
+/// \endcode
 /// Every object is written in full, even when its uid was written before in this pass: the
 /// archive file stores a record identical to one written earlier under the same uid as a
 /// reference to it, so an unchanged object shared by several owners is stored once, while a copy
@@ -27,7 +29,9 @@ public:
   /// A writer for the parent class level of the record that outer is writing.
   cls_WriteVisitor(const cls_WriteVisitor& outer, unsigned int parentTypeId);
 
+  /// Starts the record of a class level typeId for the object uid; answers true (see the class).
   bool StartWrite(unsigned int typeId, const cls_Uid& uid) const;
+  /// StartWrite, then self's Parent level written nested through Parent::DBWrite.
   template <class Parent, class Self>
   bool StartLevel(unsigned int typeId, const cls_Uid& uid, const Self& self) const {
     if (!StartWrite(typeId, uid)) return false;
@@ -35,9 +39,13 @@ public:
     return true;
   }
 
+  /// Writes the field name of the record started.
+  ///@{
   void Write(const char* name, cls_Value value) const;
   void Write(const char* name, const atr_StringBase& text) const;
   void Write(const char* name, const char* text) const;
+  ///@}
+  /// Writes an enumerator field by its name.
   void WriteEnum(const char* name, const cow_String& enumeratorName) const;
   /// A plain value in place of a record: an item of a list of values.
   void WriteValue(cls_Value value) const;
@@ -57,6 +65,7 @@ public:
     for (int i = 0; i < count; ++i) writeItem(i, Item(items));
   }
 
+  /// The class level of the record being written.
   unsigned int CurrentTypeId() const noexcept;
 
 private:

@@ -15,12 +15,14 @@
 template <class T>
 class cls_xo1DArrayList {
 public:
+  /// Writes list as the field name, one nested record per item.
   static void Write(const cls_WriteVisitor& writer, const char* name, const cow_List<T>& list) {
     writer.WriteObjects(name, list.Length(), [&list](int i, const cls_WriteVisitor& item) {
       list[i].DBWrite(item);
     });
   }
 
+  /// Reads the field name back, one T per item.
   static cow_List<T> Read(const cls_ReadVisitor& reader, const char* name) {
     const cls_Value::List& items = reader.ReadList(name);
     std::vector<T> values;

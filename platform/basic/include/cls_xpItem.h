@@ -18,8 +18,11 @@ struct cls_xpItem;
 /// A scalar stored as Stored in the value.
 template <class T, class Stored, int AttributeKind>
 struct cls_xpScalarItem {
+  /// The attribute kind of a field of such values.
   static constexpr int Kind = AttributeKind;
+  /// value as a Stored value.
   static cls_Value Encode(const T& value) { return cls_Value(static_cast<Stored>(value)); }
+  /// Sets out from a Stored value; false, out untouched, for a value of another kind.
   static bool Decode(const cls_Value& value, T& out) {
     const Stored* stored = value.As<Stored>();
     if (stored) out = static_cast<T>(*stored);

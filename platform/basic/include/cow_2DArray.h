@@ -30,20 +30,31 @@ class cow_2DArray {
 public:
   /// The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
   using const_reference = typename std::vector<T>::const_reference;
+  /// A writable cell.
   using reference = typename std::vector<T>::reference;
 
   cow_2DArray() noexcept = default;
+  /// rows x columns copies of fill.
   cow_2DArray(int rows, int columns, const T& fill = T()) { Resize(rows, columns, fill); }
 
+  /// The shape.
+  ///@{
   int Rows() const noexcept { return Body().rows; }
   int Columns() const noexcept { return Body().columns; }
+  ///@}
+  /// True when there are no cells.
   bool IsEmpty() const noexcept { return Body().cells.empty(); }
+  /// The cell, read-only; never un-shares.
+  ///@{
   const_reference operator()(int row, int column) const { return Body().cells[Index(row, column)]; }
   const_reference ConstGet(int row, int column) const { return (*this)(row, column); }
+  ///@}
+  /// The cell for change: un-shares first.
   reference Get(int row, int column) {
     const std::size_t at = Index(row, column);
     return m_Body.Write().cells[at];
   }
+  /// Stores value in the cell.
   void Set(int row, int column, const T& value) { Get(row, column) = value; }
   /// Every cell is reset to fill.
   void Resize(int rows, int columns, const T& fill = T()) {
@@ -53,8 +64,11 @@ public:
     body.cells.assign(static_cast<std::size_t>(body.rows) * static_cast<std::size_t>(body.columns),
                       fill);
   }
+  /// The cells row by row, read-only.
   const std::vector<T>& Cells() const noexcept { return Body().cells; }
+  /// The cells row by row, for change (un-shares first); keep their number.
   std::vector<T>& MutableCells() { return m_Body.Write().cells; }
+  /// True while another copy shares the cells.
   bool IsShared() const noexcept { return m_Body.IsShared(); }
 
   friend bool operator==(const cow_2DArray& a, const cow_2DArray& b) {

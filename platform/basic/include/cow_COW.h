@@ -22,22 +22,34 @@ template <class T, class P = cow_Copy<T>>
 class cow_COW {
 public:
   cow_COW() noexcept = default;
+  /// Takes ownership of owned (null gives an empty handle).
+  ///@{
   explicit cow_COW(T* owned) : cow_COW(std::unique_ptr<T>(owned)) {}
   explicit cow_COW(std::unique_ptr<T> owned) : m_Object(Hold(std::move(owned))) {}
+  ///@}
+  /// Holds a copy of value, cloned through P.
   explicit cow_COW(const T& value) : cow_COW(std::unique_ptr<T>(P::Clone(value))) {}
 
+  /// True for an empty handle.
   bool IsNull() const noexcept { return m_Object.Read() == nullptr; }
+  /// True unless empty.
   explicit operator bool() const noexcept { return !IsNull(); }
+  /// The object, read-only, or null; never copies.
+  ///@{
   const T* ConstGet() const noexcept { return m_Address; }
   const T* operator->() const noexcept { return ConstGet(); }
   const T& operator*() const noexcept { return *ConstGet(); }
+  ///@}
+  /// The object for change, or null: a shared one is cloned first.
   T* Get() {
     if (m_Object.IsShared()) {
       m_Object = Hold(std::unique_ptr<T>(m_Address ? P::Clone(*m_Address) : nullptr));
     }
     return m_Object.Read().get();
   }
+  /// Holds owned instead (taking ownership), leaving copies the old object.
   void Reset(T* owned = nullptr) { m_Object = Hold(std::unique_ptr<T>(owned)); }
+  /// True while another handle shares the object.
   bool IsShared() const noexcept { return m_Object.IsShared(); }
 
 private:

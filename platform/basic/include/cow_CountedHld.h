@@ -15,13 +15,21 @@ template <class T>
 class cow_CountedHld {
 public:
   cow_CountedHld() noexcept = default;
+  /// Takes ownership of owned (null gives an empty holder).
+  ///@{
   explicit cow_CountedHld(T* owned) : m_Object(owned) {}
   explicit cow_CountedHld(std::unique_ptr<T> owned) : m_Object(std::move(owned)) {}
+  ///@}
 
+  /// The object, or null; shared, never copied.
+  ///@{
   T* Get() const noexcept { return m_Object.get(); }
   T* operator->() const noexcept { return m_Object.get(); }
   T& operator*() const noexcept { return *m_Object; }
+  ///@}
+  /// True unless empty.
   explicit operator bool() const noexcept { return m_Object != nullptr; }
+  /// The number of holders sharing the object (0 when empty).
   long Count() const noexcept { return m_Object.use_count(); }
 
 private:

@@ -31,28 +31,46 @@
 template <class T>
 class cow_List {
 public:
+  /// The element type, iterator and reference types, as std::vector's.
+  ///@{
   using value_type = T;
   using const_iterator = typename std::vector<T>::const_iterator;
   /// The vector's: for bool a value and a proxy, so no reference to a temporary escapes.
   using const_reference = typename std::vector<T>::const_reference;
   using reference = typename std::vector<T>::reference;
+  ///@}
 
   cow_List() noexcept = default;
+  /// A list of the items, in order.
+  ///@{
   cow_List(std::initializer_list<T> items) : m_Items(std::vector<T>(items)) {}
   explicit cow_List(std::vector<T> items) : m_Items(std::move(items)) {}
+  ///@}
+  /// length copies of fill; a negative length gives the empty list.
   explicit cow_List(int length, const T& fill = T()) : m_Items(std::vector<T>(Count(length), fill)) {}
 
+  /// The number of elements.
   int Length() const noexcept { return static_cast<int>(Items().size()); }
+  /// True when Length() is 0.
   bool IsEmpty() const noexcept { return Items().empty(); }
+  /// The element at index, read-only; never un-shares.
+  ///@{
   const_reference operator[](int index) const { return Items()[Checked(index, Length())]; }
   const_reference ConstGet(int index) const { return (*this)[index]; }
+  ///@}
+  /// The element at index for change: un-shares first.
   reference Get(int index) {
     const std::size_t at = Checked(index, Length());
     return m_Items.Write()[at];
   }
+  /// Read-only iteration, in order.
+  ///@{
   const_iterator begin() const noexcept { return Items().begin(); }
   const_iterator end() const noexcept { return Items().end(); }
+  ///@}
+  /// The elements as a vector, read-only.
   const std::vector<T>& Vector() const noexcept { return Items(); }
+  /// The elements as a vector for change: un-shares first.
   std::vector<T>& MutableVector() { return m_Items.Write(); }
 
   /// Index of the first equal item, or -1.
@@ -60,25 +78,35 @@ public:
     const auto at = std::find(begin(), end(), item);
     return at == end() ? -1 : static_cast<int>(at - begin());
   }
+  /// True when Find(item) finds it.
   bool Contains(const T& item) const { return Find(item) >= 0; }
 
+  /// Adds item at the end.
+  ///@{
   void Append(const T& item) { m_Items.Write().push_back(item); }
   void Append(T&& item) { m_Items.Write().push_back(std::move(item)); }
+  ///@}
+  /// Inserts item before index (Length() appends).
   void Insert(int index, const T& item) {
     const auto at = static_cast<std::ptrdiff_t>(Checked(index, Length() + 1));
     auto& items = m_Items.Write();
     items.insert(items.begin() + at, item);
   }
+  /// Removes the element at index.
   void Remove(int index) {
     const auto at = static_cast<std::ptrdiff_t>(Checked(index, Length()));
     auto& items = m_Items.Write();
     items.erase(items.begin() + at);
   }
+  /// Cuts to length, or grows with copies of fill; negative means 0.
   void Resize(int length, const T& fill = T()) { m_Items.Write().resize(Count(length), fill); }
+  /// Removes every element.
   void Clear() {
     if (!IsEmpty()) m_Items = cow_Shared<std::vector<T>>();
   }
+  /// True while another copy shares the elements.
   bool IsShared() const noexcept { return m_Items.IsShared(); }
+  /// True when other is a copy still sharing this list's elements.
   bool SharesWith(const cow_List& other) const noexcept { return m_Items.SharesWith(other.m_Items); }
 
   friend bool operator==(const cow_List& a, const cow_List& b) {

@@ -9,10 +9,14 @@
 
 class BASIC_EXPORT cow_String : public atr_StringBase {
 public:
+  /// Every constructor of atr_StringBase.
   using atr_StringBase::atr_StringBase;
   cow_String() noexcept = default;
+  /// Shares the text's buffer.
+  ///@{
   cow_String(const atr_StringBase& text) noexcept : atr_StringBase(text) {}
   cow_String(atr_StringBase&& text) noexcept : atr_StringBase(std::move(text)) {}
+  ///@}
 };
 
 template <>

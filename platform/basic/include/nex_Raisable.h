@@ -13,12 +13,15 @@ class nex_Raisable : public Base {
 public:
   using Base::Base;
 
+  /// Raises a copy as Derived.
   [[noreturn]] void Propagate() const override {
     Derived raised(static_cast<const Derived&>(*this));
     raised.FixReport();
     throw raised;
   }
+  /// A new Derived copy, owned by the caller.
   nex_Exception* Copy() const override { return new Derived(static_cast<const Derived&>(*this)); }
+  /// Derived::TypeId().
   unsigned int DynTypeId() const override { return Derived::TypeId(); }
 };
 

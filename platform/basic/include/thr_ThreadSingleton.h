@@ -13,6 +13,7 @@
 template <class T>
 class thr_ThreadSingleton {
 public:
+  /// The calling thread's object, created on its first use there.
   static T& Instance() {
     T*& slot = Slot();
     if (!slot) {

@@ -10,8 +10,11 @@
 
 class BASIC_EXPORT thr_ThreadSingletonRegistry {
 public:
+  /// A clean-up, given its object.
   using Cleanup = void (*)(void* object) noexcept;
+  /// Registers a clean-up for the calling thread.
   static void Register(Cleanup cleanup, void* object);
+  /// Runs the calling thread's clean-ups now, newest first, and forgets them.
   static void CleanupThisThread() noexcept;
 };
 

@@ -11,10 +11,14 @@
 
 class BASIC_EXPORT typ_ArchCompTable {
 public:
+  /// The process's table, created on first use.
   static typ_ArchCompTable& Instance();
 
+  /// Enters a module's class table, replacing any earlier one.
   void InsertEntry(int module, typ_ArchCompEntry entry);
+  /// Removes a module's table.
   void RemoveEntry(int module);
+  /// A module's table, or null.
   const typ_ArchCompEntry* Entry(int module) const noexcept;
   /// The table's name for a type identifier, or null.
   const char* ClassName(unsigned int typeId) const noexcept;

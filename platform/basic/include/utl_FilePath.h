@@ -10,9 +10,12 @@
 class utl_FilePath {
 public:
   utl_FilePath() noexcept = default;
+  /// The path as given; not checked or normalised.
   explicit utl_FilePath(const cow_String& path) : m_Path(path) {}
 
+  /// The path's text.
   const cow_String& Text() const noexcept { return m_Path; }
+  /// True for the empty path.
   bool IsEmpty() const noexcept { return m_Path.IsEmpty(); }
   friend bool operator==(const utl_FilePath&, const utl_FilePath&) = default;
 
