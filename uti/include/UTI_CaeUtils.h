@@ -8,9 +8,14 @@
 /// count by one. Call on one thread, before and after all other use.
 #include <CVX_Export.h>
 
+/// The whole library, every module below included.
+///@{
 CVX_EXPORT void UTI_CaeUtils_initialize(int& count);
 CVX_EXPORT void UTI_CaeUtils_finalize(int& count);
+///@}
 
+/// One module, with the modules and libraries it needs.
+///@{
 CVX_EXPORT void wip_initialize(int& count);
 CVX_EXPORT void wip_finalize(int& count);
 CVX_EXPORT void idb_initialize(int& count);
@@ -21,5 +26,6 @@ CVX_EXPORT void omu_initialize(int& count);
 CVX_EXPORT void omu_finalize(int& count);
 CVX_EXPORT void mdl_initialize(int& count);
 CVX_EXPORT void mdl_finalize(int& count);
+///@}
 
 /// @}

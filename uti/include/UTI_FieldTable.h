@@ -7,9 +7,11 @@
 /// all walk the table in its order, which is the order of the fields in the archive record and
 /// of the attribute ordinals (0, 1, ...), so the three cannot drift apart. A constant built at
 /// compile time; it holds no state and is safe to use from any thread.
+/// \code
 ///   static constexpr auto Fields() {
 ///     return UTI_FieldTable{UTI_Field{"m_Found", &X::m_Found, cls_KIND_INT}, ...};
 ///   }
+/// \endcode
 #include <UTI_Field.h>
 #include <cls_ClassMetadata.h>
 #include <cls_ReadVisitor.h>
@@ -20,6 +22,7 @@
 template <class Class, class... Members>
 class UTI_FieldTable {
 public:
+  /// The fields, in record order.
   constexpr explicit UTI_FieldTable(UTI_Field<Class, Members>... fields) noexcept
       : m_Fields(fields...) {}
 
@@ -30,6 +33,7 @@ public:
                m_Fields);
   }
 
+  /// Writes each field under its name, in order.
   void Write(const cls_WriteVisitor& writer, const Class& object) const {
     std::apply([&](const auto&... field) { (writer.Write(field.name, object.*field.member), ...); },
                m_Fields);
