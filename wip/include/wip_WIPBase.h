@@ -11,13 +11,20 @@
 class CVX_EXPORT wip_WIPBase {
 public:
   wip_WIPBase() noexcept = default;
+  /// Not copyable.
+  ///@{
   wip_WIPBase(const wip_WIPBase&) = delete;
   wip_WIPBase& operator=(const wip_WIPBase&) = delete;
+  ///@}
   virtual ~wip_WIPBase();
 
+  /// Installs reporter (not owned; null removes it); it must outlive its use here.
   virtual void SetWipReporter(wip_WipReporter* reporter);
+  /// The installed reporter, or null.
   wip_WipReporter* GetWipReporter() const noexcept { return m_WipReporter; }
 
+  /// Forwarded to the reporter's member of the same name (see wip_WipReporter).
+  ///@{
   void Error(const atr_String& text, wip_errorLevelEnm level);
   void ErrorList(const cow_List<atr_String>& texts, wip_errorLevelEnm level);
   void Verbose(const atr_String& text);
@@ -33,6 +40,7 @@ public:
   int Interrupted();
   void CommandDone();
   void InterruptedThrow();
+  ///@}
 
 private:
   wip_WipReporter& Reporter(int line) const;
