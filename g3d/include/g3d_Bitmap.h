@@ -19,21 +19,30 @@ public:
   void SetSize(int width, int height, bool set, bool bottomUp);
   /// 0 or 1; outside the raster 0.
   int GetBit(int x, int y) const noexcept;
+  /// Sets or clears one bit; outside the raster nothing happens.
   void SetBit(int x, int y, bool on) noexcept;
   /// A size x size raster holding the symbol centred (size below 1 is taken as 1). The
   /// storage order is kept.
   void SetMarker(g3d_MarkerEnum marker, int size);
 
+  /// The size in bits.
+  ///@{
   int Width() const noexcept { return m_Width; }
   int Height() const noexcept { return m_Height; }
+  ///@}
+  /// The bytes of one row.
   int RowBytes() const noexcept { return (m_Width + 7) / 8; }
+  /// The packed rows in storage order (see the class); valid until the next change.
   const unsigned char* Data() const noexcept { return m_Bits.data(); }
 
+  /// Same size, storage order and bits.
+  ///@{
   bool operator==(const g3d_Bitmap& o) const noexcept {
     return m_Width == o.m_Width && m_Height == o.m_Height && m_BottomUp == o.m_BottomUp &&
            m_Bits == o.m_Bits;
   }
   bool operator!=(const g3d_Bitmap& o) const noexcept { return !(*this == o); }
+  ///@}
 
 private:
   int Row(int y) const noexcept { return m_BottomUp ? m_Height - 1 - y : y; }

@@ -20,6 +20,7 @@
 #include <g3d_BoundingVolume.h>
 #include <g3d_XForm.h>
 
+/// The projection, as SetProjection takes it.
 enum g3d_ProjectionEnum : int { PARALLEL_PROJECTION = 0, PERSPECTIVE_PROJECTION = 1 };
 
 /// The canned views: the eye on the named side of the model, up along +y except for the
@@ -36,7 +37,9 @@ enum g3d_SavedViewIdEnum : int {
 
 class CVX_EXPORT g3d_Camera {
 public:
+  /// The same values in the class's scope.
   enum ProjectionEnum : int { PARALLEL = 0, PERSPECTIVE = 1 };
+  /// The mode bits of GetFlags().
   enum FlagBits : unsigned char {
     FLAG_PERSPECTIVE = 0x01,
     FLAG_USER_MARK = 0x10,   ///< set by the host; cleared by every camera operation
@@ -53,6 +56,7 @@ public:
   /// near and far are equal (a NaN is never equal). Against a camera in layer-transform mode,
   /// equal when both are in that mode with equal targets and view matrices.
   int operator==(const g3d_Camera& other) const noexcept;
+  /// Negation of operator==.
   int operator!=(const g3d_Camera& other) const noexcept { return !(*this == other); }
 
   /// Repairs a coincident eye (its z times 1.1), a zero up (+y) and an up along the line of
@@ -61,13 +65,21 @@ public:
   /// Limited to at least 0.0001 (scaled to the near plane in perspective), at most 3.4e31,
   /// and an aspect of at most 500.
   g3d_Camera& SetWindow(float width, float height);
+  /// Shifts the window off the line of sight by (x, y) window units.
   g3d_Camera& SetViewOffset(float x, float y);
+  /// Taken as given; the window is then limited again, as its least size depends on near.
   g3d_Camera& SetNearFar(float near, float far);
+  /// False when the camera already has that projection; nothing else changes (see MakePerspective).
+  ///@{
   bool SetProjection(g3d_ProjectionEnum projection);
   bool SetProjection(ProjectionEnum projection);
+  ///@}
   /// Switch projection so that things at the target's distance keep their size on screen.
+  ///@{
   g3d_Camera& MakePerspective();
   g3d_Camera& MakeParallel();
+  ///@}
+  /// The full angle, in degrees, that the window's longer side spans.
   float GetFieldOfView() const noexcept;
   /// keepDistance: the window is resized; otherwise the near plane moves.
   g3d_Camera& SetFieldOfView(float degrees, bool keepDistance);
@@ -91,18 +103,24 @@ public:
   /// Turns the scene (the camera moves the opposite way) so that direction from appears
   /// where to was. eyeSpace: directions in eye coordinates (as a trackball gives them),
   /// otherwise world. The centre is the target, or the given point.
+  ///@{
   g3d_Camera& Rotate(const g3d_Vector& from, const g3d_Vector& to, bool eyeSpace);
   g3d_Camera& Rotate(const g3d_Vector& from, const g3d_Vector& to, const g3d_Point& center);
+  ///@}
   /// Turns the scene by degrees about the axis (right-handed), through the target or point.
+  ///@{
   g3d_Camera& Rotate(float degrees, const g3d_Vector& axis, bool eyeSpace);
   g3d_Camera& Rotate(float degrees, const g3d_Vector& axis, const g3d_Point& center);
+  ///@}
 
   /// Frames the sphere, keeping the direction of view and the field of view (perspective) or
   /// placing the eye at fitFactor radii (parallel); the sphere fills the window's shorter
   /// side, near and far enclose it, the offset is reset. An empty sphere does nothing.
+  ///@{
   g3d_Camera& Fit(const g3d_Sphere& sphere);
   g3d_Camera& Fit(const g3d_BoundingVolume& volume);
   g3d_Camera& Fit(const g3d_Point& min, const g3d_Point& max);
+  ///@}
   /// Frames the recorded model in a viewport of the given size in pixels, first giving the
   /// window the viewport's aspect.
   g3d_Camera& FitVP(float viewportWidth, float viewportHeight);
@@ -125,8 +143,13 @@ public:
   /// Leaving: the accumulated layer transform is handed back through layer when given.
   g3d_Camera& SetLayerXForm(bool on, g3d_XForm* layer);
 
+  /// The view matrix (world to eye) and the projection matrix, rebuilt here when stale.
+  ///@{
   const g3d_XForm& GetVOM() const;
   const g3d_XForm& GetPM() const;
+  ///@}
+  /// The state as set (see the setters).
+  ///@{
   const g3d_Point& GetEye() const noexcept { return m_Eye; }
   const g3d_Point& GetTarget() const noexcept { return m_Target; }
   const g3d_Vector& GetUp() const noexcept { return m_Up; }
@@ -139,11 +162,14 @@ public:
   bool IsPerspective() const noexcept { return (m_Flags & FLAG_PERSPECTIVE) != 0; }
   bool IsLayerMode() const noexcept { return (m_Flags & FLAG_LAYER_XFORM) != 0; }
   unsigned char GetFlags() const noexcept { return m_Flags; }
+  ///@}
   /// The host marks a view it set up itself; any camera operation clears the mark.
   void SetUserMark() noexcept { m_Flags |= FLAG_USER_MARK; }
   /// The eye's distance from a fitted sphere in parallel projection, in radii (default 4).
+  ///@{
   float GetFitFactor() const noexcept { return m_FitFactor; }
   void SetFitFactor(float factor) noexcept { m_FitFactor = factor; }
+  ///@}
   /// The window-unit position of a world point: its projection scaled to the window, with the
   /// view offset; the bool is false for a point on the eye plane (no position).
   bool ToWindow(const g3d_Point& world, float& x, float& y) const;

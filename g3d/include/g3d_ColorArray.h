@@ -11,16 +11,22 @@
 class CVX_EXPORT g3d_ColorArray {
 public:
   g3d_ColorArray() = default;
+  /// Member-wise copy.
+  ///@{
   g3d_ColorArray(const g3d_ColorArray&) = default;
   g3d_ColorArray& operator=(const g3d_ColorArray&) = default;
+  ///@}
   virtual ~g3d_ColorArray();
 
+  /// The number of entries.
   int Length() const noexcept { return m_Colors.Length(); }
   /// Appends the colour (clamped, packed) and answers its index.
   unsigned int Append(const g3d_Color& color);
   /// An index beyond the palette raises the list's out-of-range error.
   g3d_Color GetColor(unsigned int index) const;
+  /// The same as three components.
   void GetColor(unsigned int index, float& r, float& g, float& b) const;
+  /// Unpacks 0xRRGGBBAA into components in [0, 1].
   static g3d_Color IntToFloatColor(unsigned int packed) noexcept;
   /// Replaces the alpha of every entry.
   void SetAlpha(float alpha);

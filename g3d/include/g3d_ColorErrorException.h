@@ -14,6 +14,7 @@ public:
   /// Each error made here takes an identity of its own.
   explicit g3d_ColorErrorException(const cow_String& name = cow_String())
       : UTI_FieldError(cls_Uid::AllocateUid()), m_Value(name) {}
+  /// Reads the object back from the record reader is at.
   explicit g3d_ColorErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
     ReadFields(reader);
   }
@@ -21,7 +22,9 @@ public:
   atr_String JournalMessage() const override;
   cow_String PythonType() const override { return "ColorError"; }
 
+  /// The name the class is registered under.
   static constexpr const char* ClassName = "g3d_ColorErrorException";
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept;
 
   cow_String m_Value;  ///< the offending name

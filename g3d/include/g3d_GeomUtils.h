@@ -22,18 +22,24 @@ enum g3d_ClipResultEnum {
 
 class CVX_EXPORT g3d_GeomUtils {
 public:
+  /// The process-wide tolerance (see the class).
+  ///@{
   static void setTolerance(double tolerance) noexcept;
   static double getTolerance() noexcept;
+  ///@}
 
   /// |a - b| < tol, strictly.
   static bool EqualValue(double a, double b, double tol) noexcept;
+  /// EqualValue on each of x, y and z.
   static bool EqualPoint(const g3d_Storage& a, const g3d_Storage& b, double tol) noexcept;
 
   /// Twice the triangle's area (absolute units) below the tolerance.
+  ///@{
   static bool PointsCollinear(const g3d_Storage& p0, const g3d_Storage& p1,
                               const g3d_Storage& p2) noexcept;
   static bool PointsCollinear(const g3d_Point& p0, const g3d_Point& p1,
                               const g3d_Point& p2) noexcept;
+  ///@}
 
   /// s, t with p = origin + s u + t v; false when u and v are parallel, p is off the plane,
   /// or the axes disagree on s.

@@ -7,6 +7,7 @@
 /// for the interfaces that mention it; the symbols are drawn by g3d_Bitmap::SetMarker.
 #include <CVX_Export.h>
 
+/// The marker symbols.
 enum g3d_MarkerEnum : int {
   MARKER_FILLED_CIRCLE = 0,
   MARKER_FILLED_SQUARE,
@@ -19,8 +20,10 @@ enum g3d_MarkerEnum : int {
   MARKER_POINT,
 };
 
+/// The marker sizes.
 enum g3d_MarkerSizeEnum : int { MARKER_SMALL = 0, MARKER_MEDIUM, MARKER_LARGE };
 
+/// The line thicknesses.
 enum g3d_LineThicknessEnum : int {
   THICKNESS_VERY_THIN = 0,
   THICKNESS_THIN,

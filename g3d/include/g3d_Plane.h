@@ -8,7 +8,9 @@
 
 class CVX_EXPORT g3d_Plane {
 public:
+  /// A point on the plane.
   g3d_Point point;
+  /// The normal.
   g3d_Vector normal;
 
   /// Where the ray's line meets the plane (the parameter may be negative); a ray parallel

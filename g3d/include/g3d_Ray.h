@@ -8,9 +8,12 @@
 
 class CVX_EXPORT g3d_Ray {
 public:
+  /// The origin.
   g3d_Point origin;
+  /// The direction.
   g3d_Vector direction;
 
+  /// Sets both.
   g3d_Ray& Set(const g3d_Point& origin_, const g3d_Vector& direction_) noexcept;
 };
 

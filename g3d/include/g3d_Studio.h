@@ -10,15 +10,21 @@
 
 class CVX_EXPORT g3d_Studio {
 public:
+  /// The number of lights.
   static constexpr int LightCount = 8;
 
   g3d_Studio();
 
+  /// True when the test-print set-up was taken.
   bool testPrint = false;
+  /// The specular exponent (105; 25 for test print).
   float shininess = 105.0f;
+  /// The ambient colour, as g3d_Light's colours.
   cow_String ambientColor = "#707070";
+  /// The lights.
   g3d_Light lights[LightCount];
 
+  /// Every field and light equal.
   bool operator==(const g3d_Studio& o) const noexcept;
 };
 

@@ -17,11 +17,12 @@ public:
   static void Rainbow(g3d_Color* out, int n, bool reverse, float alpha);
   /// The rainbow from its blue end: low values cold, high values hot.
   static void BlueToRed(g3d_Color* out, int n, bool reverse, float alpha);
+  /// Greys from black to white.
   static void BlackToWhite(g3d_Color* out, int n, bool reverse, float alpha);
   /// Hues i / n around the whole circle, for cyclic quantities (no colour repeats).
   static void WrapAround(g3d_Color* out, int n, float alpha);
   /// n colours interpolated linearly in RGB between the named colours (colour names or
-  /// #RRGGBB), spread evenly from the first to the last; an unknown name raises
+  /// `#RRGGBB`), spread evenly from the first to the last; an unknown name raises
   /// g3d_ColorErrorException; an empty list writes nothing.
   static void FillInColorsAndInterpolate(const cow_List<cow_String>& names, int n,
                                          g3d_Color* out);

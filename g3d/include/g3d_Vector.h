@@ -14,12 +14,17 @@ class cls_WriteVisitor;
 
 class CVX_EXPORT g3d_Vector {
 public:
+  /// The components.
+  ///@{
   float x = 0.0f;
   float y = 0.0f;
   float z = 0.0f;
+  ///@}
 
   constexpr g3d_Vector() noexcept = default;
+  /// (x, y, z).
   constexpr g3d_Vector(float x_, float y_, float z_) noexcept : x(x_), y(y_), z(z_) {}
+  /// Reads the object back from the record reader is at.
   explicit g3d_Vector(const cls_ReadVisitor& reader);
 
   /// Computed in double, narrowed once.
@@ -40,11 +45,16 @@ public:
 
   /// Persistence. Not virtual: the value keeps its twelve-byte layout.
   unsigned int DynTypeId() const noexcept { return TypeId(); }
+  /// Writes the object through writer: its class level, and its parent classes' levels within it.
   void DBWrite(const cls_WriteVisitor& writer) const;
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept;
+  /// Registers the class (name, version, parent) with registrar, so archives can read it back.
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
 };
 
+/// Component-wise sum, difference, negation and scaling by k.
+///@{
 constexpr g3d_Vector operator+(const g3d_Vector& a, const g3d_Vector& b) noexcept {
   return {a.x + b.x, a.y + b.y, a.z + b.z};
 }
@@ -56,11 +66,13 @@ constexpr g3d_Vector operator*(const g3d_Vector& v, float k) noexcept {
   return {v.x * k, v.y * k, v.z * k};
 }
 constexpr g3d_Vector operator*(float k, const g3d_Vector& v) noexcept { return v * k; }
+///@}
 /// One reciprocal, three multiplies; a divisor of 0 is not guarded.
 constexpr g3d_Vector operator/(const g3d_Vector& v, float d) noexcept {
   return d == 1.0f ? v : v * (1.0f / d);
 }
 
+/// The dot product, in float.
 constexpr float g3d_Dot(const g3d_Vector& a, const g3d_Vector& b) noexcept {
   return a.x * b.x + a.y * b.y + a.z * b.z;
 }
