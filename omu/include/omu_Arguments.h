@@ -18,13 +18,20 @@
 
 class CVX_EXPORT omu_Arguments : public omu_PrimLeaf<omu_Arguments, omu_PrimTuple> {
 public:
+  /// size positional slots and no keywords.
   explicit omu_Arguments(int size = 0);
+  /// Member-wise copy.
+  ///@{
   omu_Arguments(const omu_Arguments&) = default;
   omu_Arguments& operator=(const omu_Arguments&) = default;
+  ///@}
 
   using omu_PrimTuple::Get;
+  /// The tuple's positional reads and writes stay visible beside the keyword ones.
+  ///@{
   using omu_PrimTuple::GetValue;
   using omu_PrimTuple::Put;
+  ///@}
 
   void Begin() override;
   /// Reads the parameter by position while positions last (with the tuple's Get), else by its
@@ -65,7 +72,9 @@ public:
     Get(out, keyword);
     if (!ErrorOnPrevious()) Deprecated(keyword, other);
   }
+  /// Whether deprecated arguments are allowed (omu_Deprecation); other names the replacement.
   bool DeprecatedCheck(cow_String other) const;
+  /// DeprecatedCheck, then Alternative: whether the failed Get may be read again by the old keyword.
   bool DeprecatedAlternative(cow_String other);
 
   /// Undoes the last Get when it failed, so that the parameter can be read again as another
@@ -79,7 +88,9 @@ public:
   /// The same for a command name given as a literal: its text is copied only when End raises.
   void End(const char* context);
 
+  /// The keyword values, by keyword.
   const omu_PrimDictionary<cow_String>& Keywords() const noexcept { return m_Keywords; }
+  /// The keywords Put stored, in order.
   const cow_List<cow_String>& StoredKeywords() const noexcept { return m_StoredKeywords; }
   /// The call's text as a script writes it: positional values, then keyword=value pairs, in
   /// parentheses (no one-element comma: this is a call, not a tuple).

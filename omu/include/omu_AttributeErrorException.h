@@ -13,9 +13,11 @@
 class CVX_EXPORT omu_AttributeErrorException
     : public UTI_FieldError<omu_AttributeErrorException, nex_CommandException> {
 public:
+  /// The message errorType chooses (see the class), with attribute as its name or text.
   explicit omu_AttributeErrorException(int errorType = 0,
                                        const atr_String& attribute = atr_String())
       : m_ErrorType(errorType), m_Attribute(attribute) {}
+  /// Reads the object back from the record reader is at.
   explicit omu_AttributeErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
     ReadFields(reader);
   }
@@ -23,10 +25,14 @@ public:
   atr_String JournalMessage() const override;
   cow_String PythonType() const override { return "AttributeError"; }
 
+  /// Which message: 0, 1 or 2.
   int ErrorType() const noexcept { return m_ErrorType; }
+  /// The attribute's name, or the message for error type 2.
   const atr_String& Attribute() const noexcept { return m_Attribute; }
 
+  /// The name the class is registered under.
   static constexpr const char* ClassName = "omu_AttributeErrorException";
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(6); }
 
 private:

@@ -8,6 +8,7 @@
 /// lists go through it, and argument errors name the type by it. A specialisation holds, all
 /// static:
 ///
+/// \code{.unparsed}
 ///   code      char: the type code of the primitive Make builds
 ///   Make      omu_PrimOwner Make(const T& value): a new primitive carrying value, owned by the
 ///             caller
@@ -15,6 +16,7 @@
 ///             out and answers true when value is of a kind T takes under rule; else answers
 ///             false and leaves out untouched
 ///   Expected  cow_String Expected(const T& out): the expected type an argument error names
+/// \endcode
 ///
 /// code and Make where values of T can be put (omu_Puttable), Convert and Expected where they
 /// can be got (omu_Gettable).
@@ -26,6 +28,7 @@
 /// omu_PrimEnumBase does.
 ///
 /// What Convert takes, by either rule unless said (collection elements by the converting one):
+/// \code{.unparsed}
 ///   int, short, signed char    an integer number; by position only one of the type's own data
 ///                              type (INT, SHORT, SCHAR)
 ///   unsigned int               a UINT number, or another integer number that is not negative
@@ -44,6 +47,7 @@
 ///                              out accepts)
 ///   const omu_PyObjectWrapper*, const omu_ListPyObjectWrapper*, const omu_InterfaceObj*
 ///                              a value of that class, lent
+/// \endcode
 ///
 /// Bindings keep no state and are safe on any thread. Make allocates one primitive, and one
 /// more per element of a collection.
@@ -89,17 +93,20 @@ class omu_DictPyObjectWrapper;
 template <class K>
 class omu_PrimDictionary;
 
+/// A primitive owned by whoever holds it.
 using omu_PrimOwner = std::unique_ptr<omu_Primitive>;
 
 template <class T>
 struct omu_Binding;
 
+/// T has a binding that puts it (code and Make).
 template <class T>
 concept omu_Puttable = requires(const T& value) {
   { omu_Binding<T>::code } -> std::convertible_to<char>;
   { omu_Binding<T>::Make(value) } -> std::same_as<omu_PrimOwner>;
 };
 
+/// T has a binding that gets it (Convert and Expected).
 template <class T>
 concept omu_Gettable = requires(const omu_Primitive& value, T& out, omu_BindingRuleEnum rule) {
   { omu_Binding<T>::Convert(value, out, rule) } -> std::same_as<bool>;
@@ -122,10 +129,13 @@ bool omu_PrimConvert(const omu_Primitive* value, T& out,
 /// An expected-type name as a template argument of the binding families below.
 template <std::size_t N>
 struct omu_BindingName {
+  /// Takes the name literal.
   constexpr omu_BindingName(const char (&name)[N]) { std::copy_n(name, N, text); }
+  /// The name, null-terminated.
   char text[N];
 };
 
+/// \cond
 // --- Scalars -------------------------------------------------------------------------------
 
 /// A number of data type Kind. An integer type takes the number's AsInt (a UINT number's
@@ -467,4 +477,5 @@ struct omu_Binding<cow_Map<cow_String, float>> {
   }
 };
 
+/// \endcond
 /// @}

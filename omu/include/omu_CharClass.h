@@ -20,10 +20,13 @@ public:
   /// The set of the given bytes.
   static omu_CharClass Of(std::string_view bytes);
 
+  /// True when byte is in the set.
   bool Has(unsigned char byte) const noexcept { return m_Member[byte] != 0; }
   /// What searching the pattern in text answers.
   bool Matches(std::string_view text) const noexcept;
+  /// True when the pattern began with "^" before its bracket.
   bool IsAnchored() const noexcept { return m_Anchored; }
+  /// The union of the two sets (unanchored).
   omu_CharClass operator|(const omu_CharClass& other) const noexcept;
   /// Every byte not in the set (unanchored).
   omu_CharClass operator~() const noexcept;

@@ -15,14 +15,22 @@
 class CVX_EXPORT omu_CorvexName {
 public:
   omu_CorvexName();
+  /// Checks name against kind's rules (see the class).
+  ///@{
   omu_CorvexName(const cow_String& name, omu_CorvexNameEnum kind);
   omu_CorvexName(const char* name, omu_CorvexNameEnum kind);
+  ///@}
 
+  /// The name.
   const cow_String& Name() const noexcept { return m_Name; }
+  /// The kind it was checked as.
   omu_CorvexNameEnum Kind() const noexcept { return m_Kind; }
+  /// The kind's rule texts: the character class a name may not start with, and those it may not contain.
+  ///@{
   std::string_view LeadingPattern() const noexcept { return m_LeadingPattern; }
   std::string_view WideForbiddenPattern() const noexcept { return m_WidePattern; }
   std::string_view NarrowForbiddenPattern() const noexcept { return m_NarrowPattern; }
+  ///@}
 
   /// The error code a name of this kind gets (see omu_CorNameErrorException), or -1 when the
   /// name is legal.

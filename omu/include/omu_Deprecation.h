@@ -11,8 +11,11 @@
 
 class CVX_EXPORT omu_Deprecation {
 public:
+  /// Whether deprecated names may be used (default false).
+  ///@{
   static bool IsAllowed() noexcept;
   static void SetAllowed(bool allowed) noexcept;
+  ///@}
   /// "Warning: 'old' is deprecated; use 'replacement' instead." (or without the advice).
   static void Notice(const cow_String& old, const cow_String& replacement = cow_String());
 };

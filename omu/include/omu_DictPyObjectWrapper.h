@@ -15,9 +15,11 @@ class omu_DictPyObjectWrapper : public omu_PrimLeaf<omu_DictPyObjectWrapper<K>, 
 
 public:
   omu_DictPyObjectWrapper() = default;
+  /// The entries (shared, copy-on-write) with the script object they came from.
   omu_DictPyObjectWrapper(const omu_PrimDictionary<K>& entries, const omu_ScriptHandle& object)
       : Leaf(entries), m_Object(object) {}
 
+  /// The script object.
   const omu_ScriptHandle& Object() const noexcept { return m_Object; }
 
   /// omu_DictIntPyObjectWrapper and omu_DictStrPyObjectWrapper.

@@ -11,6 +11,7 @@
 #include <CVX_Export.h>
 #include <cow_String.h>
 
+/// The position of bracket's quoted form in text, searching from start (see the file).
 CVX_EXPORT int omu_GetBracketKeyPos(const cow_String& text, char bracket, int start);
 
 /// @}

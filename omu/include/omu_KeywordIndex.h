@@ -19,14 +19,20 @@
 class CVX_EXPORT omu_KeywordIndex {
 public:
   omu_KeywordIndex() noexcept = default;
+  /// Copies and assignments are cleared (see the class).
+  ///@{
   omu_KeywordIndex(const omu_KeywordIndex&) noexcept {}
   omu_KeywordIndex& operator=(const omu_KeywordIndex&) noexcept {
     Clear();
     return *this;
   }
+  ///@}
 
+  /// True once built, until cleared.
   bool Built() const noexcept { return !m_Table.empty(); }
+  /// Indexes keywords, which must not change while the index is used.
   void Build(const omu_PrimDictionary<cow_String>& keywords);
+  /// Forgets the index, keeping its storage for the next build.
   void Clear() noexcept;
   /// The keyword's slot, or -1 when the call does not give it (or nothing is built).
   int Find(std::string_view keyword) const noexcept;

@@ -13,11 +13,14 @@ class CVX_EXPORT omu_ListPyObjectWrapper
     : public omu_PrimLeaf<omu_ListPyObjectWrapper, omu_PrimList> {
 public:
   omu_ListPyObjectWrapper() : omu_PrimLeaf(0) {}
+  /// The values (shared, copy-on-write) with the script object they came from.
   omu_ListPyObjectWrapper(const omu_PrimList& values, const omu_ScriptHandle& object)
       : omu_PrimLeaf(values), m_Object(object) {}
 
+  /// The script object.
   const omu_ScriptHandle& Object() const noexcept { return m_Object; }
 
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(46); }
 
 private:

@@ -8,6 +8,7 @@
 #include <CVX_Export.h>
 #include <cow_String.h>
 
+/// text in script string syntax (see the file).
 CVX_EXPORT cow_String omu_NameString(const cow_String& text);
 
 /// @}

@@ -11,8 +11,10 @@
 class CVX_EXPORT omu_OperationRules {
 public:
   constexpr omu_OperationRules() noexcept = default;
+  /// Equality by path when equalByPath is set.
   constexpr explicit omu_OperationRules(bool equalByPath) noexcept : m_EqualByPath(equalByPath) {}
 
+  /// Whether equality is by path.
   constexpr bool EqualByPath() const noexcept { return m_EqualByPath; }
 
 private:

@@ -18,9 +18,13 @@ public:
   omu_PrimArrayData(std::vector<std::byte> data, std::vector<int> dims, int itemSize);
   virtual ~omu_PrimArrayData();
 
+  /// The numbers.
   virtual std::byte* Data() noexcept { return m_Data.data(); }
+  /// The dimensions and their byte strides, one per dimension.
+  ///@{
   const int* Dims() const noexcept { return m_Dims.data(); }
   const int* Strides() const noexcept { return m_Strides.data(); }
+  ///@}
 
 private:
   std::vector<std::byte> m_Data;

@@ -24,12 +24,19 @@ class CVX_EXPORT omu_PrimDictionary : public omu_PrimLeaf<omu_PrimDictionary<K>,
   using Leaf = omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase>;
 
 public:
+  /// A value slot, shared with copies until written.
   using Handle = cow_COW<omu_Primitive, cow_Virtual<omu_Primitive>>;
+  /// The entries in key order.
   using Entries = cow_Btree<K, Handle>;
 
+  /// An empty dictionary with a new entries identity.
   explicit omu_PrimDictionary(char typeCode = '{', char represents = 0);
+  /// Member-wise copy.
+  ///@{
   omu_PrimDictionary(const omu_PrimDictionary&) = default;
   omu_PrimDictionary& operator=(const omu_PrimDictionary&) = default;
+  ///@}
+  /// Reads the object back from the record reader is at.
   explicit omu_PrimDictionary(const cls_ReadVisitor& reader);
 
   /// "dictionary with string keys" or "dictionary with integer keys".
@@ -39,11 +46,15 @@ public:
   /// Same type code, the same keys in order and equal values: the order of the Puts does
   /// not matter.
   bool operator==(const omu_Primitive& other) const override;
+  /// Writes the object through writer: its class level, and its parent classes' levels within it.
   void DBWrite(const cls_WriteVisitor& writer) const override;
   char Kind() const override;
 
+  /// The number of entries.
   int Length() const noexcept { return m_Dict.Length(); }
+  /// True when key has an entry.
   bool Contains(const K& key) const { return m_Dict.Contains(key); }
+  /// The entries, for iteration in key order.
   const Entries& GetEntries() const noexcept { return m_Dict; }
   /// The value under key, or the dictionary's missing-key value (a None).
   const omu_Primitive& Get(const K& key) const;
@@ -61,6 +72,7 @@ public:
   int Get(T& out, const K& key) const {
     return omu_PrimConvert(Find(key), out) ? 1 : 0;
   }
+  /// Stores value under key as its binding makes it, replacing any entry.
   template <omu_Puttable T>
   void Put(const T& value, const K& key) {
     Store(key, omu_PrimMake(value));
@@ -69,10 +81,14 @@ public:
   void Put(const omu_Primitive& value, const K& key) { Store(key, omu_PrimOwner(value.Copy())); }
   /// Takes ownership of value.
   void Put(omu_Primitive* value, const K& key) { Store(key, omu_PrimOwner(value)); }
+  /// Removes key's entry; false when there was none.
   bool Remove(const K& key);
+  /// The entries' persistence identity (see the class).
   const cls_Uid& EntriesUid() const noexcept { return m_DictUid; }
 
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept;
+  /// Registers the class (name, version, parent) with registrar, so archives can read it back.
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
 
 private:

@@ -16,8 +16,11 @@ public:
   /// A kind that adds to another takes a copy of the other's value.
   explicit omu_PrimLeaf(const Base& value) : Base(value) {}
 
+  /// A new Derived copy, owned by the caller.
   omu_Primitive* Copy() const override { return new Derived(Self()); }
+  /// Derived::TypeId().
   unsigned int DynTypeId() const override { return Derived::TypeId(); }
+  /// Calls visitor's Visit for Derived.
   void Accept(omu_PrimVisitor* visitor) const override {
     if constexpr (requires { visitor->Visit(Self()); }) visitor->Visit(Self());
   }

@@ -32,6 +32,8 @@ class omu_SeqIntObj;
 class CVX_EXPORT omu_PrimVisitor {
 public:
   virtual ~omu_PrimVisitor();
+  /// Called by Accept for a value of that kind; does nothing unless overridden.
+  ///@{
   virtual void Visit(const omu_PrimNumber&) {}
   virtual void Visit(const omu_PrimString&) {}
   virtual void Visit(const omu_PrimTranslatedString&) {}
@@ -52,6 +54,7 @@ public:
   virtual void Visit(const omu_PrimDictionary<int>&) {}
   virtual void Visit(const omu_PrimDictionary<cow_String>&) {}
   virtual void Visit(const omu_SeqIntObj&) {}
+  ///@}
 
 protected:
   omu_PrimVisitor() = default;

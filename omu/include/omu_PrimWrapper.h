@@ -19,23 +19,34 @@ public:
   omu_PrimWrapper() noexcept : omu_PrimLeaf('w') {}
   /// Borrows object, which must point at the most-derived object of class objType.
   omu_PrimWrapper(const void* object, unsigned int objType);
+  /// Deep: the copy owns a copy of the object, made through the persistence layer.
+  ///@{
   omu_PrimWrapper(const omu_PrimWrapper& other);
   omu_PrimWrapper& operator=(const omu_PrimWrapper& other);
+  ///@}
+  /// Reads the object back from the record reader is at.
   explicit omu_PrimWrapper(const cls_ReadVisitor& reader);
 
   cow_String TypeString() const override { return "Wrapper"; }
   cow_String AsString(int) const override { return "Wrapper"; }
   bool operator==(const omu_Primitive&) const override { return false; }
+  /// Writes the object through writer: its class level, and its parent classes' levels within it.
   void DBWrite(const cls_WriteVisitor& writer) const override;
 
+  /// The wrapped object; null for an empty wrapper.
   const void* Object() const noexcept { return m_Object.get(); }
+  /// The wrapped object's type identifier.
   unsigned int ObjType() const noexcept { return m_ObjType; }
+  /// True when the wrapper owns the object rather than borrows it.
   bool OwnsObject() const noexcept { return m_Owned; }
   /// The members a script set on the wrapped object, by name.
   const omu_PrimDictionary<cow_String>& MemberDict() const noexcept { return m_MemberDict; }
+  /// The same, for change.
   omu_PrimDictionary<cow_String>& MemberDict() noexcept { return m_MemberDict; }
 
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(30); }
+  /// Registers the class (name, version, parent) with registrar, so archives can read it back.
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
 
 private:

@@ -13,9 +13,12 @@
 class omu_PrimList;
 class omu_PrimTuple;
 
+/// A list of the values, or a tuple of one tuple per row; owned by the caller.
+///@{
 template <class T>
 CVX_EXPORT omu_PrimList* omu_ReturnPrim(const cow_List<T>& values);
 template <class T>
 CVX_EXPORT omu_PrimTuple* omu_ReturnPrim(const cow_2DArray<T>& values);
+///@}
 
 /// @}

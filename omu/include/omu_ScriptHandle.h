@@ -10,14 +10,19 @@
 
 class omu_ScriptHandle {
 public:
+  /// Drops the host's reference to object.
   using Release = void (*)(void* object);
 
   omu_ScriptHandle() noexcept = default;
+  /// Holds object; release (null for none) runs when the last copy goes.
   omu_ScriptHandle(void* object, Release release)
       : m_Object(object, release ? release : [](void*) {}) {}
 
+  /// The object, or null.
   void* Get() const noexcept { return m_Object.get(); }
+  /// True when no object is held.
   bool IsNull() const noexcept { return m_Object == nullptr; }
+  /// Same object.
   friend bool operator==(const omu_ScriptHandle& a, const omu_ScriptHandle& b) noexcept {
     return a.m_Object == b.m_Object;
   }

@@ -11,10 +11,13 @@
 class CVX_EXPORT omu_Shortcut {
 public:
   omu_Shortcut() = default;
+  /// The object at path.
   explicit omu_Shortcut(const cow_String& path) : m_Path(path) {}
   virtual ~omu_Shortcut();
 
+  /// The access path.
   virtual cow_String Path() const { return m_Path; }
+  /// True for an empty path.
   bool IsEmpty() const { return Path().IsEmpty(); }
 
 private:

@@ -9,6 +9,7 @@
 #include <CVX_Export.h>
 #include <cow_String.h>
 
+/// The text inside quoted (see the file).
 CVX_EXPORT cow_String omu_StringFromQString(const cow_String& quoted);
 
 /// @}

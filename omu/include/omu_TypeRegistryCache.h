@@ -13,13 +13,16 @@
 
 class CVX_EXPORT omu_TypeRegistryCache {
 public:
+  /// The registry, created on first use.
   static omu_TypeRegistryCache& Instance();
   /// Releases the instance (module finalise); the next Instance() starts empty.
   static void Release() noexcept;
 
+  /// Exposes typeName to scripts.
   void Expose(const cow_String& typeName);
   /// Lets `alias` match `typeName` in type tests (a script may test against a family name).
   void AddAlias(const cow_String& alias, const cow_String& typeName);
+  /// True when typeName is exposed.
   bool IsExposed(const cow_String& typeName) const;
   /// True when asked names the described type itself or one of its aliases.
   bool Matches(const cow_String& asked, const cow_String& described) const;
