@@ -19,8 +19,10 @@ enum mdl_PropAttributeStateEnm : int {
   COMP_DEFAULT = 7,
 };
 
+/// The names of mdl_PropAttributeStateEnm.
 template <>
 struct omu_PrimEnumTable<mdl_PropAttributeStateEnm, 1> {
+  /// The enumeration's names and values, ended by a row with a null name.
   static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
 };
 

@@ -41,8 +41,10 @@ CVX_EXPORT bool mdl_generalAnalysisStatus(mdl_PropagationStatusEnm status) noexc
 /// One status per analysis step.
 using mdl_PropagationStatusList = cow_List<mdl_PropagationStatusEnm>;
 
+/// The names of mdl_PropagationStatusEnm.
 template <>
 struct omu_PrimEnumTable<mdl_PropagationStatusEnm, 1> {
+  /// The enumeration's names and values, ended by a row with a null name.
   static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept;
 };
 
