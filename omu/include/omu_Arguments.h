@@ -1,12 +1,16 @@
 #pragma once
-// The argument list of one script call: the positional values as a tuple and the keyword
-// values as a dictionary. Command code reads it with Begin, one Get per parameter in
-// declaration order (each naming its keyword: positions are used first, keywords once they
-// run out), and End with the command's name, which raises the one error that best describes
-// what was wrong, in this order: a keyword no Get asked for, a positional value of the wrong
-// type, a keyword value of the wrong type, too few arguments, too many. Keywords are taken as
-// text views: reading allocates nothing, and each keyword read takes constant time (a hash
-// index of the call's keywords, built at the first keyword read after the keywords change).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_Arguments
+/// The argument list of one script call: the positional values as a tuple and the keyword
+/// values as a dictionary. Command code reads it with Begin, one Get per parameter in
+/// declaration order (each naming its keyword: positions are used first, keywords once they
+/// run out), and End with the command's name, which raises the one error that best describes
+/// what was wrong, in this order: a keyword no Get asked for, a positional value of the wrong
+/// type, a keyword value of the wrong type, too few arguments, too many. Keywords are taken as
+/// text views: reading allocates nothing, and each keyword read takes constant time (a hash
+/// index of the call's keywords, built at the first keyword read after the keywords change).
 #include <omu_CorvexName.h>
 #include <omu_KeywordIndex.h>
 #include <omu_PrimDictionary.h>
@@ -16,42 +20,49 @@
 
 class CVX_EXPORT omu_Arguments : public omu_PrimLeaf<omu_Arguments, omu_PrimTuple> {
 public:
+  /// size positional slots and no keywords.
   explicit omu_Arguments(int size = 0);
+  /// Member-wise copy.
+  ///@{
   omu_Arguments(const omu_Arguments&) = default;
   omu_Arguments& operator=(const omu_Arguments&) = default;
+  ///@}
 
   using omu_PrimTuple::Get;
+  /// The tuple's positional reads and writes stay visible beside the keyword ones.
+  ///@{
   using omu_PrimTuple::GetValue;
   using omu_PrimTuple::Put;
+  ///@}
 
   void Begin() override;
-  // Reads the parameter by position while positions last (with the tuple's Get), else by its
-  // keyword (with T's binding, omu_Binding). A missing required keyword, or a keyword value
-  // that does not convert to T, is kept for End; a missing optional keyword is no error and
-  // leaves out untouched.
+  /// Reads the parameter by position while positions last (with the tuple's Get), else by its
+  /// keyword (with T's binding, omu_Binding). A missing required keyword, or a keyword value
+  /// that does not convert to T, is kept for End; a missing optional keyword is no error and
+  /// leaves out untouched.
   template <class T>
   void Get(T& out, std::string_view keyword) {
     Read(out, keyword, [this](T& into) { omu_PrimTuple::Get(into); });
   }
-  // The same for any bound type, by position with the tuple's GetValue.
+  /// The same for any bound type, by position with the tuple's GetValue.
   template <omu_Gettable T>
   void GetValue(T& out, std::string_view keyword) {
     Read(out, keyword, [this](T& into) { omu_PrimTuple::GetValue(into); });
   }
-  // A name validated by its kind (out's kind): an illegal name raises
-  // omu_CorNameErrorException at once.
+  /// A name validated by its kind (out's kind): an illegal name raises
+  /// omu_CorNameErrorException at once.
   void Get(omu_CorvexName& out, std::string_view keyword);
-  // An interface object of the script type typeName, by position or keyword; lent.
+  /// An interface object of the script type typeName, by position or keyword; lent.
   const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*,
                               std::string_view keyword);
 
-  // Room for count keyword Puts in the stored keywords, so that building a call of many
-  // keywords grows that list once.
+  /// Room for count keyword Puts in the stored keywords, so that building a call of many
+  /// keywords grows that list once.
   void ReserveKeywords(int count) {
     m_StoredKeywords.MutableVector().reserve(static_cast<std::size_t>(count));
   }
-  // Stores value under keyword (as the keyword dictionary's Put does), for argument lists
-  // built to be passed on.
+  /// Stores value under keyword (as the keyword dictionary's Put does), for argument lists
+  /// built to be passed on.
   template <class T>
   void Put(const T& value, const cow_String& keyword) {
     m_Index.Clear();
@@ -59,33 +70,37 @@ public:
     m_StoredKeywords.Append(keyword);
   }
 
-  // Right after a Get of the same parameter that failed, and while deprecated arguments are
-  // allowed: reads the parameter again by the old keyword and gives the deprecation notice
-  // naming `other` as what replaces it.
+  /// Right after a Get of the same parameter that failed, and while deprecated arguments are
+  /// allowed: reads the parameter again by the old keyword and gives the deprecation notice
+  /// naming `other` as what replaces it.
   template <class T>
   void DeprecatedGet(T& out, std::string_view keyword, cow_String other) {
     if (!DeprecatedAlternative(other)) return;
     Get(out, keyword);
     if (!ErrorOnPrevious()) Deprecated(keyword, other);
   }
+  /// Whether deprecated arguments are allowed (omu_Deprecation); other names the replacement.
   bool DeprecatedCheck(cow_String other) const;
+  /// DeprecatedCheck, then Alternative: whether the failed Get may be read again by the old keyword.
   bool DeprecatedAlternative(cow_String other);
 
-  // Undoes the last Get when it failed, so that the parameter can be read again as another
-  // type; false (and nothing changed) otherwise.
+  /// Undoes the last Get when it failed, so that the parameter can be read again as another
+  /// type; false (and nothing changed) otherwise.
   bool Alternative();
-  // Whether End would raise.
+  /// Whether End would raise.
   bool Error() const;
-  // Whether the last Get is the one that failed.
+  /// Whether the last Get is the one that failed.
   bool ErrorOnPrevious() const;
   void End(cow_String context) override;
-  // The same for a command name given as a literal: its text is copied only when End raises.
+  /// The same for a command name given as a literal: its text is copied only when End raises.
   void End(const char* context);
 
+  /// The keyword values, by keyword.
   const omu_PrimDictionary<cow_String>& Keywords() const noexcept { return m_Keywords; }
+  /// The keywords Put stored, in order.
   const cow_List<cow_String>& StoredKeywords() const noexcept { return m_StoredKeywords; }
-  // The call's text as a script writes it: positional values, then keyword=value pairs, in
-  // parentheses (no one-element comma: this is a call, not a tuple).
+  /// The call's text as a script writes it: positional values, then keyword=value pairs, in
+  /// parentheses (no one-element comma: this is a call, not a tuple).
   cow_String AsString(int level) const override;
   cow_String AsRepr() const override { return AsString(0); }
 
@@ -103,15 +118,15 @@ private:
     }
     CountKeywordRead(slot);
   }
-  // The keyword's value when the call gives it (at slot) and no Get has taken it; else records
-  // the missing keyword and answers null.
+  /// The keyword's value when the call gives it (at slot) and no Get has taken it; else records
+  /// the missing keyword and answers null.
   const omu_Primitive* Claim(std::string_view keyword, int slot);
   void KeywordTypeError(std::string_view keyword, const cow_String& expected,
                         const omu_Primitive& found);
   void CountKeywordRead(int slot);
-  // The keyword's place in key order, or -1.
+  /// The keyword's place in key order, or -1.
   int KeywordSlot(std::string_view keyword);
-  // End's checks in order; context() gives the text of the error raised.
+  /// End's checks in order; context() gives the text of the error raised.
   template <class Context>
   void EndWith(Context&& context);
   void Deprecated(std::string_view keyword, const cow_String& other) const;
@@ -120,9 +135,9 @@ private:
 
   omu_PrimDictionary<cow_String> m_Keywords;
   omu_KeywordIndex m_Index;
-  // The unclaimed keywords: one flag per keyword in key order (set once a Get took it), so
-  // that reading claims nothing by copying texts. A string for its small buffer: a call of up
-  // to 15 keywords allocates no flags.
+  /// The unclaimed keywords: one flag per keyword in key order (set once a Get took it), so
+  /// that reading claims nothing by copying texts. A string for its small buffer: a call of up
+  /// to 15 keywords allocates no flags.
   std::string m_Claimed;
   int m_Unclaimed = 0;
   cow_List<cow_String> m_StoredKeywords;
@@ -131,3 +146,5 @@ private:
   cow_String m_KeywordInError;
   int m_OptionalKeywordMissingAt = 0;
 };
+
+/// @}

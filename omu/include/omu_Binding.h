@@ -1,48 +1,56 @@
 #pragma once
-// How a native value becomes a primitive and a primitive a native value: one trait per native
-// type, omu_Binding<T>. The Put and Get operations of tuples, lists, dictionaries and argument
-// lists go through it, and argument errors name the type by it. A specialisation holds, all
-// static:
-//
-//   code      char: the type code of the primitive Make builds
-//   Make      omu_PrimOwner Make(const T& value): a new primitive carrying value, owned by the
-//             caller
-//   Convert   bool Convert(const omu_Primitive& value, T& out, omu_BindingRuleEnum rule): sets
-//             out and answers true when value is of a kind T takes under rule; else answers
-//             false and leaves out untouched
-//   Expected  cow_String Expected(const T& out): the expected type an argument error names
-//
-// code and Make where values of T can be put (omu_Puttable), Convert and Expected where they
-// can be got (omu_Gettable).
-//
-// The library binds the types that omu_BindingTypes lists. A type of one's own enters
-// with one specialisation, visible wherever it is put or got, and is then stored and read
-// through PutValue and GetValue of tuples, lists and argument lists, and Put and Get of
-// dictionaries; a type without one does not compile there. Enumeration classes bind as
-// omu_PrimEnumBase does.
-//
-// What Convert takes, by either rule unless said (collection elements by the converting one):
-//   int, short, signed char    an integer number; by position only one of the type's own data
-//                              type (INT, SHORT, SCHAR)
-//   unsigned int               a UINT number, or another integer number that is not negative
-//   double, float              any number
-//   bool                       a Boolean, or an integer number but UINT that is 0 or 1 (by
-//                              position after narrowing it to its own data type)
-//   cow_String, atr_String,    a string or translated string (atr_String keeps which)
-//   utl_FilePath
-//   const char*                a string, whose text it lends
-//   omi_complex                a complex number, or any number as the real part
-//   cow_List<T>                a tuple or list whose every element T takes
-//   cow_2DArray<T>             a tuple or list of equally long tuples or lists of T
-//   cow_Map<cow_String, float> a dictionary with string keys whose every value is a number
-//   primitive classes          a value of that class and type code, copied (omu_PrimList takes
-//                              a tuple too, a wrapper any type code, an enumeration a name that
-//                              out accepts)
-//   const omu_PyObjectWrapper*, const omu_ListPyObjectWrapper*, const omu_InterfaceObj*
-//                              a value of that class, lent
-//
-// Bindings keep no state and are safe on any thread. Make allocates one primitive, and one
-// more per element of a collection.
+/// \addtogroup omu
+/// @{
+
+/// \struct omu_Binding
+/// How a native value becomes a primitive and a primitive a native value: one trait per native
+/// type, omu_Binding<T>. The Put and Get operations of tuples, lists, dictionaries and argument
+/// lists go through it, and argument errors name the type by it. A specialisation holds, all
+/// static:
+///
+/// \code{.unparsed}
+///   code      char: the type code of the primitive Make builds
+///   Make      omu_PrimOwner Make(const T& value): a new primitive carrying value, owned by the
+///             caller
+///   Convert   bool Convert(const omu_Primitive& value, T& out, omu_BindingRuleEnum rule): sets
+///             out and answers true when value is of a kind T takes under rule; else answers
+///             false and leaves out untouched
+///   Expected  cow_String Expected(const T& out): the expected type an argument error names
+/// \endcode
+///
+/// code and Make where values of T can be put (omu_Puttable), Convert and Expected where they
+/// can be got (omu_Gettable).
+///
+/// The library binds the types that omu_BindingTypes lists. A type of one's own enters
+/// with one specialisation, visible wherever it is put or got, and is then stored and read
+/// through PutValue and GetValue of tuples, lists and argument lists, and Put and Get of
+/// dictionaries; a type without one does not compile there. Enumeration classes bind as
+/// omu_PrimEnumBase does.
+///
+/// What Convert takes, by either rule unless said (collection elements by the converting one):
+/// \code{.unparsed}
+///   int, short, signed char    an integer number; by position only one of the type's own data
+///                              type (INT, SHORT, SCHAR)
+///   unsigned int               a UINT number, or another integer number that is not negative
+///   double, float              any number
+///   bool                       a Boolean, or an integer number but UINT that is 0 or 1 (by
+///                              position after narrowing it to its own data type)
+///   cow_String, atr_String,    a string or translated string (atr_String keeps which)
+///   utl_FilePath
+///   const char*                a string, whose text it lends
+///   omi_complex                a complex number, or any number as the real part
+///   cow_List<T>                a tuple or list whose every element T takes
+///   cow_2DArray<T>             a tuple or list of equally long tuples or lists of T
+///   cow_Map<cow_String, float> a dictionary with string keys whose every value is a number
+///   primitive classes          a value of that class and type code, copied (omu_PrimList takes
+///                              a tuple too, a wrapper any type code, an enumeration a name that
+///                              out accepts)
+///   const omu_PyObjectWrapper*, const omu_ListPyObjectWrapper*, const omu_InterfaceObj*
+///                              a value of that class, lent
+/// \endcode
+///
+/// Bindings keep no state and are safe on any thread. Make allocates one primitive, and one
+/// more per element of a collection.
 #include <CVX_Export.h>
 #include <atr_String.h>
 #include <cow_2DArray.h>
@@ -85,47 +93,53 @@ class omu_DictPyObjectWrapper;
 template <class K>
 class omu_PrimDictionary;
 
+/// A primitive owned by whoever holds it.
 using omu_PrimOwner = std::unique_ptr<omu_Primitive>;
 
 template <class T>
 struct omu_Binding;
 
+/// T has a binding that puts it (code and Make).
 template <class T>
 concept omu_Puttable = requires(const T& value) {
   { omu_Binding<T>::code } -> std::convertible_to<char>;
   { omu_Binding<T>::Make(value) } -> std::same_as<omu_PrimOwner>;
 };
 
+/// T has a binding that gets it (Convert and Expected).
 template <class T>
 concept omu_Gettable = requires(const omu_Primitive& value, T& out, omu_BindingRuleEnum rule) {
   { omu_Binding<T>::Convert(value, out, rule) } -> std::same_as<bool>;
   { omu_Binding<T>::Expected(std::as_const(out)) } -> std::convertible_to<cow_String>;
 };
 
-// The primitive carrying value.
+/// The primitive carrying value.
 template <omu_Puttable T>
 omu_PrimOwner omu_PrimMake(const T& value) {
   return omu_Binding<T>::Make(value);
 }
 
-// omu_Binding<T>::Convert, refusing a null value.
+/// omu_Binding<T>::Convert, refusing a null value.
 template <omu_Gettable T>
 bool omu_PrimConvert(const omu_Primitive* value, T& out,
                      omu_BindingRuleEnum rule = omu_BINDING_CONVERTING) {
   return value && omu_Binding<T>::Convert(*value, out, rule);
 }
 
-// An expected-type name as a template argument of the binding families below.
+/// An expected-type name as a template argument of the binding families below.
 template <std::size_t N>
 struct omu_BindingName {
+  /// Takes the name literal.
   constexpr omu_BindingName(const char (&name)[N]) { std::copy_n(name, N, text); }
+  /// The name, null-terminated.
   char text[N];
 };
 
+/// \cond
 // --- Scalars -------------------------------------------------------------------------------
 
-// A number of data type Kind. An integer type takes the number's AsInt (a UINT number's
-// unsigned value) cast to itself.
+/// A number of data type Kind. An integer type takes the number's AsInt (a UINT number's
+/// unsigned value) cast to itself.
 template <class T, omu_PrimNumber::DataTypeEnm Kind>
 struct omu_NumberBinding {
   static constexpr bool floating = Kind == omu_PrimNumber::FLOAT || Kind == omu_PrimNumber::DOUBLE;
@@ -189,7 +203,7 @@ struct omu_Binding<bool> {
   static cow_String Expected(const bool&) { return "Boolean"; }
 };
 
-// A text: put as a string, taken from a string or a translated string.
+/// A text: put as a string, taken from a string or a translated string.
 template <class T>
 struct omu_TextBinding {
   static constexpr char code = 's';
@@ -224,7 +238,7 @@ struct omu_Binding<atr_String> : omu_TextBinding<atr_String> {};
 template <>
 struct omu_Binding<utl_FilePath> : omu_TextBinding<utl_FilePath> {};
 
-// Lends the text of a string; a translated string is refused.
+/// Lends the text of a string; a translated string is refused.
 template <>
 struct omu_Binding<const char*> {
   static constexpr char code = 's';
@@ -240,7 +254,7 @@ struct omu_Binding<const char*> {
   static cow_String Expected(const char*) { return "string"; }
 };
 
-// A text literal is put as the text it points to.
+/// A text literal is put as the text it points to.
 template <std::size_t N>
 struct omu_Binding<char[N]> : omu_Binding<const char*> {};
 
@@ -266,8 +280,8 @@ struct omu_Binding<omi_complex> {
 
 // --- Primitive classes -----------------------------------------------------------------------
 
-// A primitive class: put as a copy of itself (its own class kept), taken from a value of that
-// class and type code.
+/// A primitive class: put as a copy of itself (its own class kept), taken from a value of that
+/// class and type code.
 template <class T, char Code, omu_BindingName Name>
 struct omu_ValueBinding {
   static constexpr char code = Code;
@@ -303,13 +317,13 @@ struct omu_Binding<omu_PrimDictionary<cow_String>>
 
 template <>
 struct omu_Binding<omu_PrimList> : omu_ValueBinding<omu_PrimList, '(', "list"> {
-  // A tuple is taken too, as a list of its size.
+  /// A tuple is taken too, as a list of its size.
   CVX_EXPORT static bool Convert(const omu_Primitive& value, omu_PrimList& out,
                                  omu_BindingRuleEnum rule);
 };
 
-// A script list or dictionary held with its script object: put and named as the class it
-// wraps, taken from a wrapper of any type code.
+/// A script list or dictionary held with its script object: put and named as the class it
+/// wraps, taken from a wrapper of any type code.
 template <class T, class Wrapped>
 struct omu_WrapperBinding : omu_Binding<Wrapped> {
   static omu_PrimOwner Make(const T& value) { return omu_PrimOwner(value.Copy()); }
@@ -327,8 +341,8 @@ template <class K>
 struct omu_Binding<omu_DictPyObjectWrapper<K>>
     : omu_WrapperBinding<omu_DictPyObjectWrapper<K>, omu_PrimDictionary<K>> {};
 
-// An enumeration is put as a copy of itself and taken by name: the name must be one that out
-// accepts (SetValue), and out's permissible names are what an error says was expected.
+/// An enumeration is put as a copy of itself and taken by name: the name must be one that out
+/// accepts (SetValue), and out's permissible names are what an error says was expected.
 template <>
 struct omu_Binding<omu_PrimEnumBase> {
   static constexpr char code = 'c';
@@ -345,7 +359,7 @@ template <class T>
   requires std::derived_from<T, omu_PrimEnumBase>
 struct omu_Binding<T> : omu_Binding<omu_PrimEnumBase> {};
 
-// A value of class T, lent; only got.
+/// A value of class T, lent; only got.
 template <class T, omu_BindingName Name>
 struct omu_LentBinding {
   static bool Convert(const omu_Primitive& value, const T*& out, omu_BindingRuleEnum) {
@@ -368,19 +382,19 @@ struct omu_Binding<const omu_InterfaceObj*>
 
 // --- Collections -----------------------------------------------------------------------------
 
-// What the list and two-dimensional array bindings share: made as tuples, taken from tuples
-// or lists. Tuples are made and recognised out of line, as omu_PrimTuple includes this header.
-// The functions are exported one by one: on Windows a constant of an imported class would be
-// imported too, and the library has no copy of code to export.
+/// What the list and two-dimensional array bindings share: made as tuples, taken from tuples
+/// or lists. Tuples are made and recognised out of line, as omu_PrimTuple includes this header.
+/// The functions are exported one by one: on Windows a constant of an imported class would be
+/// imported too, and the library has no copy of code to export.
 struct omu_SequenceBinding {
   static constexpr char code = '(';
 
-  // A tuple of size elements, made by item(0) to item(size - 1) in order.
+  /// A tuple of size elements, made by item(0) to item(size - 1) in order.
   CVX_EXPORT static omu_PrimOwner Tuple(int size, const std::function<omu_PrimOwner(int)>& item);
-  // value when it is a tuple or list (type code '('), else null.
+  /// value when it is a tuple or list (type code '('), else null.
   CVX_EXPORT static const omu_PrimSequence* Sequence(const omu_Primitive& value);
-  // The elements of a tuple or list, each taken as T by the converting rule; false (items
-  // unspecified) when value is neither or an element is refused.
+  /// The elements of a tuple or list, each taken as T by the converting rule; false (items
+  /// unspecified) when value is neither or an element is refused.
   template <class T>
   static bool Items(const omu_Primitive& value, std::vector<T>& items) {
     const omu_PrimSequence* sequence = Sequence(value);
@@ -449,12 +463,12 @@ struct omu_Binding<cow_2DArray<T>> : omu_SequenceBinding {
   }
 };
 
-// Exported function by function, as omu_SequenceBinding.
+/// Exported function by function, as omu_SequenceBinding.
 template <>
 struct omu_Binding<cow_Map<cow_String, float>> {
   static constexpr char code = '{';
 
-  // A dictionary with string keys.
+  /// A dictionary with string keys.
   CVX_EXPORT static omu_PrimOwner Make(const cow_Map<cow_String, float>& value);
   CVX_EXPORT static bool Convert(const omu_Primitive& value, cow_Map<cow_String, float>& out,
                                  omu_BindingRuleEnum rule);
@@ -462,3 +476,6 @@ struct omu_Binding<cow_Map<cow_String, float>> {
     return omu_Binding<omu_PrimDictionary<cow_String>>::name;
   }
 };
+
+/// \endcond
+/// @}

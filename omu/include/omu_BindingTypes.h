@@ -1,7 +1,11 @@
 #pragma once
-// The native types the library binds (omu_Binding), for code that walks them (a script
-// binding, a test) instead of listing them again. Including this completes every listed class.
-// Lists and arrays of other bound types bind as well.
+/// \addtogroup omu
+/// @{
+
+/// \file
+/// The native types the library binds (omu_Binding), for code that walks them (a script
+/// binding, a test) instead of listing them again. Including this completes every listed class.
+/// Lists and arrays of other bound types bind as well.
 #include <omu_Binding.h>
 #include <omu_DictPyObjectWrapper.h>
 #include <omu_InterfaceObj.h>
@@ -17,6 +21,7 @@
 #include <omu_PyObjectWrapper.h>
 #include <omu_TypeList.h>
 
+/// Every bound type, as one type list.
 using omu_BindingTypes = omu_TypeList<
     // scalars
     int, unsigned int, short, signed char, float, double, bool, cow_String, atr_String,
@@ -32,3 +37,5 @@ using omu_BindingTypes = omu_TypeList<
     omu_PrimEnumBase,
     // lent
     const omu_PyObjectWrapper*, const omu_ListPyObjectWrapper*, const omu_InterfaceObj*>;
+
+/// @}

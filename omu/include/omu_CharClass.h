@@ -1,7 +1,11 @@
 #pragma once
-// A set of bytes compiled once from a regular-expression character class ("[^0-9]",
-// "[\$\\&]"), optionally anchored with a leading "^". It answers with one table lookup per
-// byte, and no branch, what a regular-expression search of that pattern would answer.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_CharClass
+/// A set of bytes compiled once from a regular-expression character class ("[^0-9]",
+/// "[\$\\&]"), optionally anchored with a leading "^". It answers with one table lookup per
+/// byte, and no branch, what a regular-expression search of that pattern would answer.
 #include <CVX_Export.h>
 
 #include <array>
@@ -10,20 +14,23 @@
 
 class CVX_EXPORT omu_CharClass {
 public:
-  // pattern: an optional "^", then one bracket expression: an optional "^" negation, bytes,
-  // ranges "a-z" and backslash escapes, then "]". Anything else raises nex_TextException.
+  /// pattern: an optional "^", then one bracket expression: an optional "^" negation, bytes,
+  /// ranges "a-z" and backslash escapes, then "]". Anything else raises nex_TextException.
   explicit omu_CharClass(std::string_view pattern);
-  // The set of the given bytes.
+  /// The set of the given bytes.
   static omu_CharClass Of(std::string_view bytes);
 
+  /// True when byte is in the set.
   bool Has(unsigned char byte) const noexcept { return m_Member[byte] != 0; }
-  // What searching the pattern in text answers.
+  /// What searching the pattern in text answers.
   bool Matches(std::string_view text) const noexcept;
+  /// True when the pattern began with "^" before its bracket.
   bool IsAnchored() const noexcept { return m_Anchored; }
+  /// The union of the two sets (unanchored).
   omu_CharClass operator|(const omu_CharClass& other) const noexcept;
-  // Every byte not in the set (unanchored).
+  /// Every byte not in the set (unanchored).
   omu_CharClass operator~() const noexcept;
-  // The bytes below 32.
+  /// The bytes below 32.
   static omu_CharClass Controls() noexcept;
 
 private:
@@ -33,3 +40,5 @@ private:
   std::array<std::uint8_t, 256> m_Member{};
   bool m_Anchored = false;
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// A name broke a rule of its kind; m_Error says which message: 0 invalid name, 1 empty,
-// 2 invalid job name, 3 invalid model name.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_CorNameErrorException
+/// A name broke a rule of its kind; m_Error says which message: 0 invalid name, 1 empty,
+/// 2 invalid job name, 3 invalid model name.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -9,7 +13,9 @@
 class CVX_EXPORT omu_CorNameErrorException
     : public UTI_FieldError<omu_CorNameErrorException, nex_CommandException> {
 public:
+  /// The message error chooses (see the class).
   explicit omu_CorNameErrorException(int error = 0) : m_Error(error) {}
+  /// Reads the object back from the record reader is at.
   explicit omu_CorNameErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
     ReadFields(reader);
   }
@@ -17,9 +23,12 @@ public:
   atr_String JournalMessage() const override;
   cow_String PythonType() const override { return "CorvexNameError"; }
 
+  /// Which message: 0 to 3.
   int Error() const noexcept { return m_Error; }
 
+  /// The name the class is registered under.
   static constexpr const char* ClassName = "omu_CorNameErrorException";
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(34); }
 
 private:
@@ -30,3 +39,5 @@ private:
 
   int m_Error;
 };
+
+/// @}

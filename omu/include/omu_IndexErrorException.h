@@ -1,5 +1,9 @@
 #pragma once
-// An index outside its sequence; the message is the index in decimal.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_IndexErrorException
+/// An index outside its sequence; the message is the index in decimal.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -8,7 +12,9 @@
 class CVX_EXPORT omu_IndexErrorException
     : public UTI_FieldError<omu_IndexErrorException, nex_CommandException> {
 public:
+  /// The index value was out of range.
   explicit omu_IndexErrorException(int value = 0) : m_Value(value) {}
+  /// Reads the object back from the record reader is at.
   explicit omu_IndexErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
     ReadFields(reader);
   }
@@ -16,9 +22,12 @@ public:
   atr_String JournalMessage() const override { return atr_String(atr_StringBase(m_Value)); }
   cow_String PythonType() const override { return "IndexError"; }
 
+  /// The offending index.
   int Value() const noexcept { return m_Value; }
 
+  /// The name the class is registered under.
   static constexpr const char* ClassName = "omu_IndexErrorException";
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(8); }
 
 private:
@@ -29,3 +38,5 @@ private:
 
   int m_Value;
 };
+
+/// @}

@@ -1,13 +1,23 @@
 #pragma once
-// A key that a repository does not hold; the value is the message.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_KeyErrorException
+/// A key that a repository does not hold; the value is the message.
 #include <omu_TextErrorException.h>
 
 class CVX_EXPORT omu_KeyErrorException : public omu_TextErrorException<omu_KeyErrorException> {
 public:
   using omu_TextErrorException::omu_TextErrorException;
 
+  /// The name the class is registered under.
   static constexpr const char* ClassName = "omu_KeyErrorException";
+  /// The error as a script names it.
   static constexpr const char* ScriptName = "KeyError";
+  /// The message, printf-style: the value takes the place of its `%s`.
   static constexpr const char* MessageFormat = "%s";
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(7); }
 };
+
+/// @}

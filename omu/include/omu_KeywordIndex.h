@@ -1,14 +1,18 @@
 #pragma once
-// The keywords of one call, found by their text in constant time, so that binding a call costs
-// time linear in its number of keyword arguments. A slot is a keyword's place in key order.
-//
-// The index points into the dictionary it was built from: it is valid until that dictionary
-// changes, so its owner clears it before every change and builds it again when next asked. A
-// copied or assigned index is cleared: it would point into another call's keywords.
-// A call of up to Inline keywords, the common case, is indexed in place and searched linearly:
-// building allocates nothing. Larger calls get a hash table, allocated once for the entries and
-// once for the table, reused by later builds of no more keywords. Not thread-safe; a call is
-// bound on one thread.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_KeywordIndex
+/// The keywords of one call, found by their text in constant time, so that binding a call costs
+/// time linear in its number of keyword arguments. A slot is a keyword's place in key order.
+///
+/// The index points into the dictionary it was built from: it is valid until that dictionary
+/// changes, so its owner clears it before every change and builds it again when next asked. A
+/// copied or assigned index is cleared: it would point into another call's keywords.
+/// A call of up to Inline keywords, the common case, is indexed in place and searched linearly:
+/// building allocates nothing. Larger calls get a hash table, allocated once for the entries and
+/// once for the table, reused by later builds of no more keywords. Not thread-safe; a call is
+/// bound on one thread.
 #include <omu_PrimDictionary.h>
 
 #include <array>
@@ -17,21 +21,28 @@
 
 class CVX_EXPORT omu_KeywordIndex {
 public:
+  /// The most keywords indexed in place, without allocating.
   static constexpr std::size_t Inline = 8;
 
   omu_KeywordIndex() noexcept = default;
+  /// Copies and assignments are cleared (see the class).
+  ///@{
   omu_KeywordIndex(const omu_KeywordIndex&) noexcept {}
   omu_KeywordIndex& operator=(const omu_KeywordIndex&) noexcept {
     Clear();
     return *this;
   }
+  ///@}
 
+  /// True once built, until cleared.
   bool Built() const noexcept { return m_Size >= 0; }
+  /// Indexes keywords, which must not change while the index is used.
   void Build(const omu_PrimDictionary<cow_String>& keywords);
+  /// Forgets the index, keeping its storage for the next build.
   void Clear() noexcept { m_Size = -1; }
-  // The keyword's slot, or -1 when the call does not give it (or nothing is built).
+  /// The keyword's slot, or -1 when the call does not give it (or nothing is built).
   int Find(std::string_view keyword) const noexcept;
-  // The value in a slot that Find answered.
+  /// The value in a slot that Find answered.
   const omu_Primitive* Value(int slot) const noexcept {
     return Entries()[static_cast<std::size_t>(slot)].value;
   }
@@ -50,7 +61,9 @@ private:
   int m_Size = -1;
   std::array<Entry, Inline> m_Inline;
   std::vector<Entry> m_Entries;
-  // Open addressing with linear probing over slots, -1 where empty; at most half full.
+  /// Open addressing with linear probing over slots, -1 where empty; at most half full.
   std::vector<int> m_Table;
   std::size_t m_Mask = 0;
 };
+
+/// @}

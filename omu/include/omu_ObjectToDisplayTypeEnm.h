@@ -1,5 +1,9 @@
 #pragma once
-// The kinds of displayed object a type value can name.
+/// \addtogroup omu
+/// @{
+
+/// \enum omu_ObjectToDisplayTypeEnm
+/// The kinds of displayed object a type value can name.
 enum omu_ObjectToDisplayTypeEnm : int {
   omu_DISPLAY_NONE = 0,
   omu_DISPLAY_PART = 1,
@@ -9,5 +13,7 @@ enum omu_ObjectToDisplayTypeEnm : int {
   omu_DISPLAY_XY_PLOT = 5,
   omu_DISPLAY_STUB = 6,
   omu_DISPLAY_DETAIL_PLOT = 7,
-  omu_DISPLAY_UNKNOWN = 8,  // a name that matches none of the above
+  omu_DISPLAY_UNKNOWN = 8,  ///< a name that matches none of the above
 };
+
+/// @}

@@ -1,7 +1,11 @@
 #pragma once
-// The operations every concrete primitive implements the same way, written once: Copy
-// through the copy constructor, DynTypeId from the class, Accept through the visitor's
-// overload for the class or its nearest base (a kind the visitor has none for visits nothing).
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimLeaf
+/// The operations every concrete primitive implements the same way, written once: Copy
+/// through the copy constructor, DynTypeId from the class, Accept through the visitor's
+/// overload for the class or its nearest base (a kind the visitor has none for visits nothing).
 #include <omu_PrimVisitor.h>
 #include <omu_Primitive.h>
 
@@ -9,11 +13,14 @@ template <class Derived, class Base>
 class omu_PrimLeaf : public Base {
 public:
   using Base::Base;
-  // A kind that adds to another takes a copy of the other's value.
+  /// A kind that adds to another takes a copy of the other's value.
   explicit omu_PrimLeaf(const Base& value) : Base(value) {}
 
+  /// A new Derived copy, owned by the caller.
   omu_Primitive* Copy() const override { return new Derived(Self()); }
+  /// Derived::TypeId().
   unsigned int DynTypeId() const override { return Derived::TypeId(); }
+  /// Calls visitor's Visit for Derived.
   void Accept(omu_PrimVisitor* visitor) const override {
     if constexpr (requires { visitor->Visit(Self()); }) visitor->Visit(Self());
   }
@@ -21,3 +28,5 @@ public:
 private:
   const Derived& Self() const noexcept { return static_cast<const Derived&>(*this); }
 };
+
+/// @}

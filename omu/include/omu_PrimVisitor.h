@@ -1,6 +1,10 @@
 #pragma once
-// Dispatch on the concrete kind of a primitive: Accept calls the one Visit overload for its
-// kind. Every Visit does nothing unless overridden, so a visitor names only what it handles.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_PrimVisitor
+/// Dispatch on the concrete kind of a primitive: Accept calls the one Visit overload for its
+/// kind. Every Visit does nothing unless overridden, so a visitor names only what it handles.
 #include <CVX_Export.h>
 #include <cow_String.h>
 
@@ -28,6 +32,8 @@ class omu_SeqIntObj;
 class CVX_EXPORT omu_PrimVisitor {
 public:
   virtual ~omu_PrimVisitor();
+  /// Called by Accept for a value of that kind; does nothing unless overridden.
+  ///@{
   virtual void Visit(const omu_PrimNumber&) {}
   virtual void Visit(const omu_PrimString&) {}
   virtual void Visit(const omu_PrimTranslatedString&) {}
@@ -48,7 +54,10 @@ public:
   virtual void Visit(const omu_PrimDictionary<int>&) {}
   virtual void Visit(const omu_PrimDictionary<cow_String>&) {}
   virtual void Visit(const omu_SeqIntObj&) {}
+  ///@}
 
 protected:
   omu_PrimVisitor() = default;
 };
+
+/// @}

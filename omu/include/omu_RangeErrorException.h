@@ -1,7 +1,11 @@
 #pragma once
-// A number outside its permitted range. The limits arrive as ready-made text; each
-// qualifier is 0 (no limit on that side), 1 (inclusive) or 2 (exclusive); the keyword type
-// is 1 for an integer, 2 for a float.
+/// \addtogroup omu
+/// @{
+
+/// \class omu_RangeErrorException
+/// A number outside its permitted range. The limits arrive as ready-made text; each
+/// qualifier is 0 (no limit on that side), 1 (inclusive) or 2 (exclusive); the keyword type
+/// is 1 for an integer, 2 for a float.
 #include <CVX_Export.h>
 #include <UTI_FieldError.h>
 #include <UTI_Modules.h>
@@ -10,6 +14,7 @@
 class CVX_EXPORT omu_RangeErrorException
     : public UTI_FieldError<omu_RangeErrorException, nex_CommandException> {
 public:
+  /// keyword's value is outside the limits given as text, each with its qualifier (see the class).
   omu_RangeErrorException(const atr_String& keyword, int keywordType,
                           const atr_String& lowerLimit, int lowerQualifier,
                           const atr_String& higherLimit, int higherQualifier)
@@ -19,6 +24,7 @@ public:
         m_LowerLimitQualifier(lowerQualifier),
         m_HigherLimitAsString(higherLimit),
         m_HigherLimitQualifier(higherQualifier) {}
+  /// Reads the object back from the record reader is at.
   explicit omu_RangeErrorException(const cls_ReadVisitor& reader) : UTI_FieldError(reader) {
     ReadFields(reader);
   }
@@ -26,14 +32,24 @@ public:
   atr_String JournalMessage() const override;
   cow_String PythonType() const override { return "RangeError"; }
 
+  /// The keyword whose value is out of range.
   const atr_String& Keyword() const noexcept { return m_Keyword; }
+  /// 1 for an integer, 2 for a float.
   int KeywordType() const noexcept { return m_KeywordType; }
+  /// The lower limit's text and qualifier.
+  ///@{
   const atr_String& LowerLimit() const noexcept { return m_LowerLimitAsString; }
   int LowerQualifier() const noexcept { return m_LowerLimitQualifier; }
+  ///@}
+  /// The higher limit's text and qualifier.
+  ///@{
   const atr_String& HigherLimit() const noexcept { return m_HigherLimitAsString; }
   int HigherQualifier() const noexcept { return m_HigherLimitQualifier; }
+  ///@}
 
+  /// The name the class is registered under.
   static constexpr const char* ClassName = "omu_RangeErrorException";
+  /// The class's type identifier: module and class number (cls_MakeTypeId).
   static unsigned int TypeId() noexcept { return omu_TypeId(9); }
 
 private:
@@ -56,3 +72,5 @@ private:
   atr_String m_HigherLimitAsString;
   int m_HigherLimitQualifier;
 };
+
+/// @}

@@ -1,13 +1,19 @@
 #pragma once
-// A list of types known at compile time, so that code can walk a family of types (the bound
-// native types, omu_BindingTypes) without keeping a list of its own.
+/// \addtogroup omu
+/// @{
+
+/// \struct omu_TypeList
+/// A list of types known at compile time, so that code can walk a family of types (the bound
+/// native types, omu_BindingTypes) without keeping a list of its own.
 #include <type_traits>
 
 template <class... T>
 struct omu_TypeList {
-  // Calls visit(std::type_identity<T>()) for each type, in list order.
+  /// Calls visit(std::type_identity<T>()) for each type, in list order.
   template <class Visit>
   static void ForEach(Visit&& visit) {
     (visit(std::type_identity<T>()), ...);
   }
 };
+
+/// @}

@@ -1,6 +1,10 @@
 #pragma once
-// What a registering module does on its first start and last finalise: insert its class
-// table and queue its registration functions in order; then withdraw both.
+/// \addtogroup uti
+/// @{
+
+/// \file
+/// What a registering module does on its first start and last finalise: insert its class
+/// table and queue its registration functions in order; then withdraw both.
 #include <cls_MetadataRegistrar.h>
 #include <typ_ArchCompTable.h>
 
@@ -24,3 +28,5 @@ inline void UTI_StopModule(unsigned int module) {
   cls_MetadataRegistrar::Instance().Withdraw(module);
   typ_ArchCompTable::Instance().RemoveEntry(static_cast<int>(module));
 }
+
+/// @}

@@ -1,23 +1,37 @@
 #pragma once
-// One persisted attribute of a class: ordinal and name, kind code, type argument, flags.
+/// \addtogroup basic
+/// @{
+
+/// \struct cls_Attribute
+/// One persisted attribute of a class: ordinal and name, kind code, type argument, flags.
 #include <cow_String.h>
 
+/// An attribute's ordinal and name, as AddAttribute takes them.
 struct cls_AttributeName {
+  /// The attribute's position among the class's attributes, and its name.
+  ///@{
   int ordinal;
   cow_String name;
+  ///@}
 };
 
 struct cls_Attribute {
+  /// The attribute's position among the class's attributes, and its name.
+  ///@{
   int ordinal;
   cow_String name;
+  ///@}
+  /// The kind code (cls_AttributeKind).
   int kind;
+  /// The kind's argument (1 for a plain value).
   unsigned int typeArgument;
+  /// Flags, kept for the class's owner.
   unsigned int flags;
 
   friend bool operator==(const cls_Attribute&, const cls_Attribute&) = default;
 };
 
-// Attribute kind codes.
+/// Attribute kind codes.
 enum cls_AttributeKind : int {
   cls_KIND_CHAR = 1,
   cls_KIND_INT = 5,
@@ -32,3 +46,5 @@ enum cls_AttributeKind : int {
   cls_KIND_ARRAY = 17,
   cls_KIND_FLOAT = 18,
 };
+
+/// @}

@@ -1,5 +1,9 @@
 #pragma once
-// Metadata of a concrete class T: adds the factory (from a read visitor) and the copy.
+/// \addtogroup basic
+/// @{
+
+/// \class cls_TypeAdapter
+/// Metadata of a concrete class T: adds the factory (from a read visitor) and the copy.
 #include <cls_AbsTypeAdapter.h>
 
 template <class T>
@@ -18,3 +22,5 @@ public:
     return new T(*static_cast<const T*>(object));
   }
 };
+
+/// @}

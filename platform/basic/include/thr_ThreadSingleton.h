@@ -1,7 +1,11 @@
 #pragma once
-// One instance of T per thread, created on the thread's first Instance() and destroyed when
-// the thread ends. Each shared library that instantiates it has its own slot, so T should
-// expose one accessor defined in its own library.
+/// \addtogroup basic
+/// @{
+
+/// \class thr_ThreadSingleton
+/// One instance of T per thread, created on the thread's first Instance() and destroyed when
+/// the thread ends. Each shared library that instantiates it has its own slot, so T should
+/// expose one accessor defined in its own library.
 #include <thr_ThreadSingletonRegistry.h>
 
 #include <memory>
@@ -9,6 +13,7 @@
 template <class T>
 class thr_ThreadSingleton {
 public:
+  /// The calling thread's object, created on its first use there.
   static T& Instance() {
     T*& slot = Slot();
     if (!slot) {
@@ -18,7 +23,7 @@ public:
     }
     return *slot;
   }
-  // This thread's instance, or null when it has none.
+  /// This thread's instance, or null when it has none.
   static T* Peek() noexcept { return Slot(); }
 
 private:
@@ -32,3 +37,5 @@ private:
     return instance;
   }
 };
+
+/// @}

@@ -1,11 +1,17 @@
 #pragma once
-// Builds a text piece by piece in one buffer.
+/// \addtogroup basic
+/// @{
+
+/// \class utl_Catenator
+/// Builds a text piece by piece in one buffer.
 #include <cow_String.h>
 
 #include <string>
 
 class utl_Catenator {
 public:
+  /// Appends the text, or the decimal text of a number (a double as atr_StringBase prints it).
+  ///@{
   utl_Catenator& operator<<(std::string_view text) {
     m_Buffer.append(text);
     return *this;
@@ -19,12 +25,17 @@ public:
   utl_Catenator& operator<<(int value) { return *this << atr_StringBase(value); }
   utl_Catenator& operator<<(unsigned int value) { return *this << atr_StringBase(value); }
   utl_Catenator& operator<<(double value) { return *this << atr_StringBase(value); }
+  ///@}
 
+  /// The text so far, as a new string.
   cow_String String() const { return cow_String(std::string_view(m_Buffer)); }
+  /// The text so far, valid until the next change.
   std::string_view View() const noexcept { return m_Buffer; }
+  /// In bytes.
   int Length() const noexcept { return static_cast<int>(m_Buffer.size()); }
+  /// Empties the text, keeping the buffer.
   void Clear() noexcept { m_Buffer.clear(); }
-  // Drops up to count characters from the end.
+  /// Drops up to count characters from the end.
   void Chop(int count) noexcept {
     m_Buffer.resize(count >= Length() ? 0 : m_Buffer.size() - static_cast<std::size_t>(count));
   }
@@ -32,3 +43,5 @@ public:
 private:
   std::string m_Buffer;
 };
+
+/// @}
