@@ -7,6 +7,7 @@ or under Debian's interpreter with the module on the path:
     PYTHONPATH=build/release/python/site /usr/bin/python3 examples/demo.py
 """
 import contextlib
+import os
 import sys
 
 import numpy as np
@@ -181,15 +182,110 @@ def repository_objects():
             "other.name")
 
 
+def torus_points(rings=24, ring_points=12):
+    """A torus of radii 3 and 1 as (rings * ring_points, 3) float32 points, tilted by 20 degrees
+    through the library's transform, in place."""
+    u = np.repeat(np.linspace(0, 2 * np.pi, rings, endpoint=False), ring_points)
+    v = np.tile(np.linspace(0, 2 * np.pi, ring_points, endpoint=False), rings)
+    r = 3 + np.cos(v)
+    points = np.stack([r * np.cos(u), np.sin(v), r * np.sin(u)], axis=1).astype(np.float32)
+    return cvxutils.XForm.rotation(20, cvxutils.Vector(1, 0, 0)).transform_points(points)
+
+
+def write_svg(path, camera, points, rings, size=600):
+    window = max(camera.window)
+    pixels = camera.project(points) * (size / window) * np.float32([1, -1]) + size / 2
+    colours = cvxutils.ColorRamp.rainbow(rings)
+    with open(path, "w") as svg:
+        svg.write(f'<svg xmlns="http://www.w3.org/2000/svg" width="{size}" height="{size}">\n'
+                  '<rect width="100%" height="100%" fill="white"/>\n')
+        for ring, colour in zip(pixels.reshape(rings, -1, 2), colours):
+            corners = " ".join(f"{x:.1f},{y:.1f}" for x, y in ring)
+            svg.write(f'<polygon fill="none" stroke-width="1.5" '
+                      f'stroke="#{colour.rgba >> 8:06X}" points="{corners}"/>\n')
+        svg.write("</svg>\n")
+
+
+def viewing():
+    heading("A camera framing a model, and the picture it sees")
+    rings = 24
+    points = torus_points(rings)
+    model = cvxutils.BoundingVolume()
+    model.extend(points)
+    camera = cvxutils.Camera()
+    camera.set_location((0, 4, 10), (0, 0, 0), (0, 1, 0)).set_model(model, 1.4)
+    camera.fit_viewport(600, 600).zoom(10).pan(0.05, -0.02, 0, True).rotate(25, (0, 1, 0))
+    folder = os.environ.get("CVX_DEMO_OUT", ".")
+    os.makedirs(folder, exist_ok=True)
+    picture = os.path.join(folder, "torus.svg")
+    write_svg(picture, camera, points, rings)
+    session({"camera": camera, "model": model, "points": points},
+            "len(model), round(model.radius, 4)",
+            "[round(c, 3) for c in camera.eye], camera.perspective, round(camera.field_of_view, 3)",
+            "camera.view_matrix.round(3)",
+            "x, y = camera.project(points[0]); round(x, 4), round(y, 4)",
+            "origin, direction = camera.unproject(x, y)",  # the ray back through that pixel
+            "np.allclose(np.cross(points[0] - origin, direction), 0, atol=1e-4)",
+            "camera.set_window(0, -1).window")                # repaired, not refused
+    print(f"  the picture: {picture}")
+
+
+class ProgressLog:
+    """A reporter written in Python: the library calls it from its native task."""
+
+    def __init__(self):
+        self.reports = []
+
+    def progress(self, task, unit, done, total):
+        self.reports.append((task, unit, done, total))
+
+
+def progress():
+    heading("Progress from a long native task")
+    steel = cvxutils.createMaterial("Steel", [[200e9, 0.3, 20.0], [190e9, 0.3, 400.0]], 1)
+    log = ProgressLog()
+    with cvxutils.install_reporter(log):
+        cvxutils.densifyMaterial("Steel", 2000)
+    print(f"  a Python reporter heard {len(log.reports)} reports; first and last:")
+    print(f"    {log.reports[0]}\n    {log.reports[-1]}")
+    print("  the console reporter's bar, on this terminal or as plain lines:")
+    with cvxutils.install_reporter(cvxutils.ConsoleReporter()):
+        cvxutils.densifyMaterial("Steel", 2000)
+    print(f"  the table grew from 2 to {len(steel.elastic)} rows, sorted and valid")
+
+
+def journal():
+    heading("The session's journal, replayed")
+    cvxutils.resetModel()
+    cvxutils.clear_journal()
+    cvxutils.createMaterial("Steel", [[200e9, 0.3, 20.0], [190e9, 0.3, 400.0]], 1)
+    cvxutils.createSection("Shell-1", 2.0, material="Steel")
+    cvxutils.annotate("loads", (0.1, float("nan"), -0.0, 1e300, 2**31 - 1, "it's"))
+    with contextlib.suppress(cvxutils.CorvexNameError):
+        cvxutils.createSection("1st shell", 2.0)
+    for line in cvxutils.journal():
+        print("    " + line)
+    saved = cvxutils.modelArchive()
+    lines = cvxutils.journal()
+    cvxutils.resetModel()
+    cvxutils.replay(lines)
+    same = cvxutils.modelArchive() == saved
+    print(f"  replayed into a fresh model: archive of {len(saved)} bytes, "
+          f"{'byte for byte the same' if same else 'DIFFERENT'}")
+
+
 def main():
     where = "built into this interpreter" if "cvxutils" in sys.builtin_module_names else cvxutils.__file__
-    print(f"cvxutils: {where}")
+    print(f"cvxutils {cvxutils.__version__}: {where}")
     values()
     model_across_steps()
     material_table()
     names()
     wrong_calls()
     repository_objects()
+    viewing()
+    progress()
+    journal()
 
 
 if __name__ == "__main__":

@@ -12,6 +12,7 @@
 #include "py_ValueTypes.h"
 #include "py_Viewing.h"
 
+#include <UTI_CaeUtils.h>
 #include <pybind11/pybind11.h>
 
 namespace py = pybind11;
@@ -34,6 +35,7 @@ PYBIND11_MODULE(cvxutils, module) {
   module.doc() =
       "The CaeUtils library as a script meets it: values, errors, commands and "
       "repository objects.";
+  module.attr("__version__") = UTI_CaeUtils_version();
   py_Library::Start();
   py_ErrorTranslator::Register(module);
   py_ValueTypes::Register(module);

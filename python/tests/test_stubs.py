@@ -50,3 +50,9 @@ def test_class_members_match_the_stubs():
         if missing or unstubbed:
             differences[node.name] = (missing, unstubbed)
     assert differences == {}, "class: (stubbed but not exposed, exposed but not stubbed)"
+
+
+def test_the_version_is_the_change_logs_newest():
+    log = pathlib.Path(__file__).resolve().parents[2] / "CHANGELOG.md"
+    newest = next(line for line in log.read_text().splitlines() if line.startswith("## "))
+    assert newest.split()[1] == cvxutils.__version__
