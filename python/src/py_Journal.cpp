@@ -135,8 +135,8 @@ std::vector<std::string> py_Journal::Lines() const {
 
 void py_Journal::Clear() {
   // Emptied first: releasing a reference may run Python code that calls a command.
-  std::vector<Call> calls = std::move(m_Calls);
-  std::vector<Argument> arguments = std::move(m_Arguments);
+  auto calls = std::move(m_Calls);
+  auto arguments = std::move(m_Arguments);
   m_Calls.clear();
   m_Arguments.clear();
   m_Comments.clear();

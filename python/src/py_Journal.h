@@ -28,6 +28,7 @@
 #include <pybind11/pybind11.h>
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -65,7 +66,8 @@ private:
 
   std::string Text(const Call& call) const;
 
-  std::vector<Call> m_Calls;
-  std::vector<Argument> m_Arguments;
+  // Blocks, not one array: a growing journal never moves what it holds.
+  std::deque<Call> m_Calls;
+  std::deque<Argument> m_Arguments;
   std::vector<std::string> m_Comments;
 };
