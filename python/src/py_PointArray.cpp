@@ -5,6 +5,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 namespace py = pybind11;
 
@@ -62,17 +65,44 @@ bool Packed(const py::buffer_info& numbers) noexcept {
          numbers.strides[1] == py::ssize_t(sizeof(Number));
 }
 
+// Rows from which splitting the work across cores pays for starting a thread.
+constexpr py::ssize_t kRowsPerThread = 65536;
+
+// Runs rows(first, count) over [0, total), split across the machine's cores when large; a
+// thread that cannot be started leaves its share to this one.
+template <typename Work>
+void InParallel(py::ssize_t total, Work&& rows) {
+  const auto cores = static_cast<py::ssize_t>(std::max(1u, std::thread::hardware_concurrency()));
+  const py::ssize_t parts = std::clamp<py::ssize_t>(total / kRowsPerThread, 1, cores);
+  const py::ssize_t share = (total + parts - 1) / parts;
+  std::vector<std::jthread> helpers;
+  py::ssize_t first = 0;
+  for (; first + share < total; first += share) {
+    try {
+      helpers.emplace_back([&rows, first, share] { rows(first, share); });
+    } catch (const std::system_error&) {
+      break;
+    }
+  }
+  rows(first, total - first);
+}
+
 template <typename Element, typename In, typename Out>
 void Transform(const g3d_XForm& form, const py::buffer_info& in, const py::buffer_info& out) {
-  const Rows from{static_cast<char*>(in.ptr), in.strides[0], in.strides[1]};
-  const Rows to{static_cast<char*>(out.ptr), out.strides[0], out.strides[1]};
   const bool packed = Packed<In>(in) && Packed<Out>(out);
+  const auto slice = [&](py::ssize_t first, py::ssize_t count) {
+    const Rows from{static_cast<char*>(in.ptr) + first * in.strides[0], in.strides[0],
+                    in.strides[1]};
+    const Rows to{static_cast<char*>(out.ptr) + first * out.strides[0], out.strides[0],
+                  out.strides[1]};
+    if (packed) {
+      TransformRows<Element, In, Out, true>(form, from, to, count);
+    } else {
+      TransformRows<Element, In, Out, false>(form, from, to, count);
+    }
+  };
   py::gil_scoped_release unlocked;
-  if (packed) {
-    TransformRows<Element, In, Out, true>(form, from, to, in.shape[0]);
-  } else {
-    TransformRows<Element, In, Out, false>(form, from, to, in.shape[0]);
-  }
+  InParallel(in.shape[0], slice);
 }
 
 [[noreturn]] void Raise(PyObject* type, const char* format, auto found) {

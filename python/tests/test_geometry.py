@@ -226,6 +226,14 @@ def test_wrong_array_raises_with_its_message(points, error, message):
         FORM.transform_points(points)
 
 
+@pytest.mark.parametrize("rows", [131_071, 131_072, 300_001])  # below, at and above a split
+def test_large_arrays_shared_across_cores_give_the_rows_of_small_ones(rows):
+    points = np.random.default_rng(rows).random((rows, 3))
+    whole = FORM.transform_points(points)
+    pieces = np.concatenate([FORM.transform_points(points[i:i + 4096]) for i in range(0, rows, 4096)])
+    assert np.array_equal(whole, pieces)
+
+
 def test_empty_array_gives_an_empty_array():
     assert FORM.transform_points(np.zeros((0, 3))).shape == (0, 3)
 
