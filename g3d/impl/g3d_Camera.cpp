@@ -354,7 +354,9 @@ void g3d_Camera::FitWithin(const g3d_Sphere& sphere) {
     distance = static_cast<float>(radius / std::sin(halfAngle));
   }
   const g3d_Point center = Cartesian(sphere.center);
-  SetLocation(center + back * distance, center, m_Up);
+  const g3d_Point eye = center + back * distance;
+  if (!InRange(eye)) return;  // so far away that no later step could stay finite
+  SetLocation(eye, center, m_Up);
   const float far = distance + kClipMargin * radius;
   SetClipping(std::max(distance - kClipMargin * radius, far * 0.001f), far);
   if (!IsPerspective()) {

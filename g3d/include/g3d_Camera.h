@@ -122,7 +122,8 @@ public:
 
   /// Frames the sphere, keeping the direction of view and the field of view (perspective) or
   /// placing the eye at fitFactor radii (parallel); the sphere fills the window's shorter
-  /// side, near and far enclose it, the offset is reset. An empty sphere does nothing.
+  /// side, near and far enclose it, the offset is reset. An empty sphere does nothing, nor does
+  /// one whose framing would put the eye beyond +-3.4e31 on any axis.
   ///@{
   g3d_Camera& Fit(const g3d_Sphere& sphere);
   g3d_Camera& Fit(const g3d_BoundingVolume& volume);
