@@ -1,7 +1,6 @@
 #include "py_Components.h"
 
 #include <charconv>
-#include <string_view>
 
 namespace py = pybind11;
 
@@ -46,11 +45,15 @@ std::string py_Components::Repr(const char* name, const float* values, std::size
   return text;
 }
 
-void py_Components::AppendNumber(std::string& out, float value) {
+void py_Components::AppendShortest(std::string& out, float value) {
   char buffer[32];
   const char* end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-  const std::string_view number(buffer, static_cast<std::size_t>(end - buffer));
-  out += number;
+  out.append(buffer, static_cast<std::size_t>(end - buffer));
+}
+
+void py_Components::AppendNumber(std::string& out, float value) {
+  const std::size_t start = out.size();
+  AppendShortest(out, value);
   // Python's float text: a whole number keeps its ".0".
-  if (number.find_first_of(".ein") == std::string_view::npos) out += ".0";
+  if (out.find_first_of(".ein", start) == std::string::npos) out += ".0";
 }

@@ -23,6 +23,8 @@ public:
   static std::string Repr(const char* name, const float* values, std::size_t count);
   // One number in that text, appended to out.
   static void AppendNumber(std::string& out, float value);
+  // The shortest text that reads back as the same float, appended to out: 1, 0.5019608, 1e+20.
+  static void AppendShortest(std::string& out, float value);
 
   // Gives cls what Vector and Point share: the properties x, y, z (and w) over members, len,
   // indexing (negative from the end, IndexError beyond), iteration and the repr under name.

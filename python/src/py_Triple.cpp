@@ -1,6 +1,6 @@
 #include "py_Triple.h"
 
-#include <charconv>
+#include "py_Components.h"
 
 namespace py = pybind11;
 
@@ -61,9 +61,9 @@ py_Triple::FloatArray py_Triple::NewRows(py::ssize_t n, int columns) {
 }
 
 std::string py_Triple::Text(float value) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, value).ptr;
-  return std::string(text, end);
+  std::string text;
+  py_Components::AppendShortest(text, value);
+  return text;
 }
 
 std::string py_Triple::Text(const g3d_Vector& v) {
