@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The checks too long for every change: valgrind memcheck over every test binary of the debug
-# build, then every fuzz target for a longer time (CVX_LONG_FUZZ_SECONDS each, default 600).
+# build, then every fuzz target for a longer time (CVX_LONG_FUZZ_SECONDS each, default 600, two at
+# a time), merging what the fuzzers find into the committed seeds in fuzz/seeds/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
@@ -23,5 +24,6 @@ done
 echo "=== long fuzzing"
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz
-bash scripts/fuzz.sh build/fuzz "$fuzz_seconds" || status=1
+CVX_FUZZ_JOBS=${CVX_FUZZ_JOBS:-2} CVX_FUZZ_MERGE=1 bash scripts/fuzz.sh build/fuzz "$fuzz_seconds" ||
+  status=1
 exit $status
