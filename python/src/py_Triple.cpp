@@ -47,7 +47,8 @@ py_Triple::FloatArray py_Triple::Rows(py::handle value, int columns, const char*
   if (rows.ndim() != 2 || rows.shape(1) != columns) {
     std::string shape;
     for (py::ssize_t i = 0; i < rows.ndim(); ++i) {
-      shape += (i ? ", " : "") + std::to_string(rows.shape(i));
+      if (i) shape += ", ";
+      shape += std::to_string(rows.shape(i));
     }
     if (rows.ndim() == 1) shape += ",";
     throw py::value_error(std::string(what) + " must have the shape (N, " +
