@@ -4,7 +4,6 @@ import math
 import numpy as np
 import pytest
 
-import cvxutils
 from cvxutils import BoundingVolume, Camera, Sphere
 
 f32 = np.float32

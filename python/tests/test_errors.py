@@ -13,12 +13,10 @@ ERRORS = [
     ("CorvexNameError", [0], cvxutils.CorvexNameError, "invalid name"),
     ("CorvexNameError", [1], cvxutils.CorvexNameError, "name is empty"),
     ("CorvexNameError", [2], cvxutils.CorvexNameError, "invalid job name"),
-    ("CorvexNameError", [3], cvxutils.CorvexNameError, "invalid model name"),
     ("CorvexNameError", [4], cvxutils.CorvexNameError, ""),
     ("FontError", ["Arial"], cvxutils.FontError, "Arial is not a valid font."),
     ("GuiAccessError", ["no display"], cvxutils.GuiAccessError, "no display"),
     ("IndexError", [7], IndexError, "7"),
-    ("IndexError", [-3], IndexError, "-3"),
     ("KeyError", ["Part-9"], KeyError, "Part-9"),
     ("NameError", ["x is not defined"], NameError, "x is not defined"),
     ("OverflowError", ["too large"], OverflowError, "too large"),
@@ -91,33 +89,3 @@ def test_unknown_error_name_is_a_key_error():
     with pytest.raises(KeyError, match="NoSuchError"):
         cvxutils.raiseError("NoSuchError")
 
-
-class TestRaisedByTheLibrary:
-    def test_range_check(self):
-        with pytest.raises(cvxutils.RangeError) as raised:
-            cvxutils.checkRange("n", 1, False, 1, 10, True)
-        assert raised.value.args == ("n must be an Integer in the range: 1 < n <= 10",)
-
-    def test_name_check(self):
-        with pytest.raises(cvxutils.CorvexNameError) as raised:
-            cvxutils.validateName("my job", 1)
-        assert raised.value.args == ("invalid job name",) and raised.value.error == 2
-
-    def test_enumeration_name_not_allowed(self):
-        section = cvxutils.createSection("Shell-1", 2.0)
-        with pytest.raises(ValueError) as raised:
-            section.setStatus("thickness", "set")
-        assert raised.value.args == (
-            "omu_PrimEnum(const cow_String&) - str not allowed: set  Permissible: {ABS_DEFAULT: 6, COMP_DEFAULT: 7, "
-            "FREED: 3, INVALID: 5, NOT_APPLICABLE: 4, SET: 1, UNCHANGED: 2, UNSET: 0}",)
-
-    def test_internal_failure_is_a_runtime_error_with_its_text(self):
-        with pytest.raises(RuntimeError) as raised:
-            cvxutils.createMaterial("Steel", [[200e9, 0.3], [0.0, 0.0]], 1)
-        assert raised.value.args == (
-            "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).",)
-
-    def test_a_status_not_allowed_here_is_a_runtime_error(self):
-        section = cvxutils.createSection("Shell-1", 2.0)
-        with pytest.raises(RuntimeError, match="^Invalid propagation status for 'thickness' attribute.$"):
-            section.setStatus("thickness", cvxutils.UNSET)
