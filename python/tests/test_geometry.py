@@ -231,9 +231,8 @@ def test_stack_post_multiplies_and_keeps_its_base():
     assert (stack.depth, stack.top) == (2, a @ b)
     with pytest.raises(IndexError, match=r"^push onto a full XFormStack of 3 entries$"):
         stack.push(a)
-    stack.pop()
-    stack.pop()
-    stack.pop()
+    for _ in range(3):
+        stack.pop()  # the third pop finds only the base and keeps it
     assert (stack.depth, stack.top) == (0, XForm())
     stack.reset(b)
     assert (stack.depth, stack.top, repr(stack)) == (0, b, "XFormStack(depth=0, capacity=3)")
