@@ -123,14 +123,13 @@ def test_setters_repair_as_the_library_does():
     assert not wide.perspective and wide.window == (8, 8)
 
 
+# The sphere's outline touches the window's top; near and far around it are CameraTest.cpp's.
 @pytest.mark.parametrize("perspective, edge", [(True, 0.5 * math.cos(math.atan(0.5))), (False, 0.5)])
 def test_fit_frames_the_sphere(perspective, edge):
     camera = looking((0, 0, 5), perspective=perspective, window=(2, 1)).fit(Sphere((10, 0, 0), 2))
     assert camera.target == (10, 0, 0) and camera.eye[2] > 0
     x, y = camera.project((10, 2, 0))
     assert y / camera.window[1] == pytest.approx(edge, abs=1e-5)
-    distance = math.dist(camera.eye, camera.target)
-    assert camera.near < distance - 2 and camera.far > distance + 2
 
 
 def test_fit_to_a_box_is_fit_to_its_sphere():
