@@ -1,6 +1,8 @@
 // The argument binder fed random calls: positional values and keyword values of random kinds,
 // then a random sequence of reads. Only the documented scripting errors may escape, and only
 // from End (or a name read by keyword); nothing may crash.
+#include "FuzzInput.h"
+
 #include <omu_Arguments.h>
 #include <omu_CorNameErrorException.h>
 #include <omu_Get.h>
@@ -13,21 +15,10 @@
 namespace {
 constexpr const char* kKeywords[] = {"a", "b", "c", "flag", "name", "points"};
 
-class Input {
-public:
-  Input(const std::uint8_t* data, std::size_t size) : m_Data(data), m_Size(size) {}
-  bool Empty() const { return m_At >= m_Size; }
-  std::uint8_t Byte() { return Empty() ? 0 : m_Data[m_At++]; }
-  const char* Keyword() { return kKeywords[Byte() % std::size(kKeywords)]; }
-
-private:
-  const std::uint8_t* m_Data;
-  std::size_t m_Size;
-  std::size_t m_At = 0;
-};
+const char* Keyword(FuzzInput& in) { return kKeywords[in.Byte() % std::size(kKeywords)]; }
 
 // Stores one random value, by position (keyword null) or by keyword.
-void PutValue(omu_Arguments& args, Input& in, const char* keyword) {
+void PutValue(omu_Arguments& args, FuzzInput& in, const char* keyword) {
   auto put = [&](const auto& value) {
     if (keyword) {
       args.Put(value, keyword);
@@ -46,8 +37,8 @@ void PutValue(omu_Arguments& args, Input& in, const char* keyword) {
   }
 }
 
-void Read(omu_Arguments& args, Input& in) {
-  const char* keyword = in.Keyword();
+void Read(omu_Arguments& args, FuzzInput& in) {
+  const char* keyword = Keyword(in);
   switch (in.Byte() % 10) {
     case 0: { int v = 0; args.Get(v, keyword); break; }
     case 1: { double v = 0; args.Get(v, keyword); break; }
@@ -64,11 +55,11 @@ void Read(omu_Arguments& args, Input& in) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Input in(data, size);
+  FuzzInput in(data, size);
   const int positional = in.Byte() % 6;
   omu_Arguments args(positional);
   for (int i = 0; i < positional; ++i) PutValue(args, in, nullptr);
-  for (int i = in.Byte() % 5; i > 0; --i) PutValue(args, in, in.Keyword());
+  for (int i = in.Byte() % 5; i > 0; --i) PutValue(args, in, Keyword(in));
   (void)args.AsString(0);
   try {
     args.Begin();

@@ -2,33 +2,17 @@
 // and integer keys, checked against std::map. Typed reads answer 1 with the stored value for
 // the kind that was put and 0 for another kind; keys iterate in order; a copy taken along
 // the way keeps its entries however the original changes.
+#include "FuzzInput.h"
+
 #include <omu_PrimDictionary.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <string>
 #include <variant>
 
 namespace {
 using Model = std::variant<int, cow_String>;
-
-class Bytes {
-public:
-  Bytes(const std::uint8_t* data, std::size_t size) : m_Data(data), m_Size(size) {}
-  bool Empty() const { return m_At >= m_Size; }
-  std::uint8_t Next() { return Empty() ? 0 : m_Data[m_At++]; }
-  std::string Text() {
-    std::string text;
-    for (int length = Next() % 6; length > 0; --length) text += char(Next());
-    return text;
-  }
-
-private:
-  const std::uint8_t* m_Data;
-  std::size_t m_Size;
-  std::size_t m_At = 0;
-};
 
 template <class K>
 void CheckRead(const omu_PrimDictionary<K>& dict, const K& key, const Model* expected) {
@@ -44,17 +28,17 @@ void CheckRead(const omu_PrimDictionary<K>& dict, const K& key, const Model* exp
 }
 
 template <class K, class MakeKey>
-void Run(Bytes& bytes, MakeKey makeKey) {
+void Run(FuzzInput& bytes, MakeKey makeKey) {
   omu_PrimDictionary<K> dict;
   std::map<K, Model> model;
   omu_PrimDictionary<K> copy;
   std::map<K, Model> copyModel;
   while (!bytes.Empty()) {
-    const std::uint8_t op = bytes.Next();
+    const std::uint8_t op = bytes.Byte();
     const K key = makeKey(bytes);
     const auto at = model.find(key);
     switch (op % 5) {
-      case 0: { const int v = int(bytes.Next()) - 128; dict.Put(v, key); model[key] = v; break; }
+      case 0: { const int v = int(bytes.Byte()) - 128; dict.Put(v, key); model[key] = v; break; }
       case 1: { const cow_String v(bytes.Text()); dict.Put(v, key); model[key] = v; break; }
       case 2: if (dict.Remove(key) != (at != model.end())) __builtin_trap(); model.erase(key); break;
       case 3: copy = dict; copyModel = model; break;
@@ -74,11 +58,11 @@ void Run(Bytes& bytes, MakeKey makeKey) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Bytes bytes(data, size);
-  if (bytes.Next() % 2) {
-    Run<int>(bytes, [](Bytes& b) { return int(b.Next() % 16) - 8; });
+  FuzzInput bytes(data, size);
+  if (bytes.Byte() % 2) {
+    Run<int>(bytes, [](FuzzInput& b) { return int(b.Byte() % 16) - 8; });
   } else {
-    Run<cow_String>(bytes, [](Bytes& b) { return cow_String(b.Text()); });
+    Run<cow_String>(bytes, [](FuzzInput& b) { return cow_String(b.Text()); });
   }
   return 0;
 }

@@ -1,39 +1,24 @@
 // Random polygons and segments through the 2-D and 3-D intersection routines: no crash, no
 // endless loop, whatever the coordinates (NaN and infinities included). An empty polygon
 // may raise the list's out-of-range error, and nothing else.
+#include "FuzzInput.h"
+
 #include <g3d_GeomUtils.h>
 
 #include <nex_TextException.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace {
-class Reader {
-public:
-  Reader(const std::uint8_t* data, std::size_t size) : m_Data(data), m_Size(size) {}
-  float Next() {
-    float value = 0.0f;
-    if (m_At + sizeof value <= m_Size) std::memcpy(&value, m_Data + m_At, sizeof value);
-    m_At += sizeof value;
-    return value;
-  }
-  std::uint8_t Count() { return m_At < m_Size ? m_Data[m_At++] % 16 : 0; }
-  g3d_Point Point() {
-    const float x = Next(), y = Next(), z = Next();
-    return {x, y, z};
-  }
+g3d_Point Point(FuzzInput& in) {
+  const float x = in.Raw<float>(), y = in.Raw<float>(), z = in.Raw<float>();
+  return {x, y, z};
+}
 
-private:
-  const std::uint8_t* m_Data;
-  std::size_t m_Size;
-  std::size_t m_At = 0;
-};
-
-cow_List<g3d_Point> Polygon(Reader& in) {
+cow_List<g3d_Point> Polygon(FuzzInput& in) {
   cow_List<g3d_Point> polygon;
-  for (int n = in.Count(); n > 0; --n) polygon.Append(in.Point());
+  for (int n = in.Byte() % 16; n > 0; --n) polygon.Append(Point(in));
   return polygon;
 }
 
@@ -47,9 +32,9 @@ void Guarded(Call&& call) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Reader in(data, size);
+  FuzzInput in(data, size);
   const cow_List<g3d_Point> a = Polygon(in), b = Polygon(in);
-  const g3d_Point p0 = in.Point(), p1 = in.Point(), p2 = in.Point(), p3 = in.Point();
+  const g3d_Point p0 = Point(in), p1 = Point(in), p2 = Point(in), p3 = Point(in);
   g3d_Point min, max;
   g3d_GeomUtils::RangeOfPolygon(a, min, max);
   Guarded([&] { g3d_GeomUtils::PointInPolygon2D(a, p0); });

@@ -3,10 +3,7 @@ import pytest
 
 import cvxutils
 
-
-def test_command_is_a_native_callable():
-    assert repr(cvxutils.probe) == "<cvxutils command probe>"
-    assert cvxutils.probe.__name__ == "probe" and "binds" in cvxutils.probe.__doc__
+ELASTIC = [[200e9, 0.30, 20, 1], [180e9, 0.31, 400, 0], [195e9, 0.30, 100, 1], [205e9, 0.29, 20, 0]]
 
 
 @pytest.mark.parametrize("args, kwargs", [
@@ -26,6 +23,7 @@ def test_good_calls_bind(args, kwargs):
 # One row per wrong call: what the library's binder raises, in its order of faults.
 @pytest.mark.parametrize("args, kwargs, message", [
     ((1, 2.5), {}, "probe; not all required arguments specified; expected 3, got 2"),
+    ((1,), {"c": "abc"}, "probe; not all required arguments specified; expected 3, got 2"),
     ((), {}, "probe; not all required arguments specified; expected 3, got 0"),
     ((1, 2.5, "abc", True, "x", 6), {}, "probe; too many arguments; expected 5, got 6"),
     ((1, 2.5, "abc"), {"colour": "red"}, "probekeyword error on colour"),
@@ -48,85 +46,83 @@ def test_wrong_calls_get_the_binders_message(args, kwargs, message):
     assert raised.value.args == (message,)
 
 
-def test_missing_required_keyword_counts_as_missing():
-    with pytest.raises(TypeError) as raised:
-        cvxutils.probe(1, c="abc")
-    assert raised.value.args == ("probe; not all required arguments specified; expected 3, got 2",)
-    assert (raised.value.expecting, raised.value.found) == (3, 2)
+def test_material_table_is_sorted_by_its_key_columns():
+    material = cvxutils.createMaterial("Steel", ELASTIC)
+    assert [row[2:] for row in material.elastic] == [(20.0, 0.0), (400.0, 0.0), (20.0, 1.0), (100.0, 1.0)]
 
 
-class TestModelCommands:
-    ELASTIC = [[200e9, 0.30, 20, 1], [180e9, 0.31, 400, 0], [195e9, 0.30, 100, 1], [205e9, 0.29, 20, 0]]
+def test_section_attributes_propagate_across_steps(section):
+    assert (section.thicknessState, section.materialState) == ("SET", "SET")
+    section.nextStep(cvxutils.PROPAGATED)
+    assert (section.thicknessState, section.materialState) == ("UNCHANGED", "UNCHANGED")
+    section.thickness = 2.5
+    section.setStatus("material", cvxutils.FREED)
+    assert (section.thickness, section.thicknessState, section.material, section.materialState) == (
+        2.5, "SET", "", "FREED")
+    section.nextStep(status=cvxutils.MODIFIED)
+    assert (section.thicknessState, section.materialState) == ("UNCHANGED", "UNSET")
+    assert section.statuses == ("CREATED", "PROPAGATED", "MODIFIED")
+    assert section.statusAt(2) == cvxutils.MODIFIED
+    with pytest.raises(TypeError, match=r"^nextStep\[0\]; found SET, expecting BUILT_INTO_BASE_STATE, "):
+        section.nextStep(cvxutils.SET)  # a step takes a propagation status only
 
-    def test_material_table_is_sorted_by_its_key_columns(self):
-        material = cvxutils.createMaterial("Steel", self.ELASTIC)
-        assert [row[2:] for row in material.elastic] == [(20.0, 0.0), (400.0, 0.0), (20.0, 1.0), (100.0, 1.0)]
 
-    def test_material_sort_key_columns_are_range_checked(self):
-        with pytest.raises(cvxutils.RangeError) as raised:
-            cvxutils.createMaterial("Steel", self.ELASTIC, keyColumns=5)
-        assert raised.value.args == ("keyColumns must be an Integer in the range: 1 <= keyColumns <= 4",)
+@pytest.mark.parametrize("call, result", [
+    (lambda: cvxutils.validateName("x" * 80, 0), "x" * 80),
+    (lambda: cvxutils.validateName("Model:1", 2), "Model:1"),
+    (lambda: cvxutils.validateName("_part", 0), "_part"),
+    (lambda: cvxutils.validateName("a,b", 0), "a,b"),
+    (lambda: cvxutils.makeLegalGuiName("1abc", "xxxxxx"), (True, "x1abc")),
+    (lambda: cvxutils.makeLegalGuiName("...", "......"), (False, "...")),
+    (lambda: cvxutils.makeLegalGuiName("my.part_", "x.--.."), (True, "my-part")),
+    (lambda: cvxutils.checkRange("n", 1, True, 1, 10, True), None),
+    (lambda: cvxutils.checkRange("x", 0.0, True, float("nan"), 1.0, False), None),
+    (lambda: cvxutils.checkRange("x", 0.0, True, 1, 1.0, True), None),
+])
+def test_accepted_calls_answer(call, result):
+    assert call() == result
 
-    def test_material_name_is_validated(self):
-        with pytest.raises(cvxutils.CorvexNameError, match="^invalid name$"):
-            cvxutils.createMaterial("1st.steel", self.ELASTIC)
 
-    def test_section_attributes_propagate_across_steps(self):
-        section = cvxutils.createSection("Shell-1", 2.0, material="Steel")
-        assert (section.thicknessState, section.materialState) == ("SET", "SET")
-        section.nextStep(cvxutils.PROPAGATED)
-        assert (section.thicknessState, section.materialState) == ("UNCHANGED", "UNCHANGED")
-        section.thickness = 2.5
-        section.setStatus("material", cvxutils.FREED)
-        assert (section.thickness, section.thicknessState, section.material, section.materialState) == (
-            2.5, "SET", "", "FREED")
-        section.nextStep(status=cvxutils.MODIFIED)
-        assert (section.thicknessState, section.materialState) == ("UNCHANGED", "UNSET")
-        assert section.statuses == ("CREATED", "PROPAGATED", "MODIFIED")
-        assert section.statusAt(2) == cvxutils.MODIFIED
+def shell():
+    return cvxutils.createSection("Shell-1", 2.0)
 
-    def test_section_step_status_must_be_a_propagation_status(self):
-        section = cvxutils.createSection("Shell-1", 2.0)
-        with pytest.raises(TypeError, match=r"^nextStep\[0\]; found SET, expecting BUILT_INTO_BASE_STATE, BUILT_INTO_MODES, COMPUTED, "):
-            section.nextStep(cvxutils.SET)
 
-    @pytest.mark.parametrize("call, error, message", [
-        (lambda s: s.statusAt(1), IndexError, "1"),
-        (lambda s: s.setStatus("colour", "SET"), KeyError, "colour"),
-        (lambda s: setattr(s, "thickness", "thick"), TypeError, "thickness[0]; found string, expecting float"),
-    ])
-    def test_section_faults(self, call, error, message):
-        with pytest.raises(error) as raised:
-            call(cvxutils.createSection("Shell-1", 2.0))
-        assert raised.value.args == (message,)
+# One row per refused command: the error the library raises and its message, exactly.
+REFUSALS = [
+    ("key columns", lambda: cvxutils.createMaterial("Steel", ELASTIC, keyColumns=5), cvxutils.RangeError,
+     "keyColumns must be an Integer in the range: 1 <= keyColumns <= 4"),
+    ("material name", lambda: cvxutils.createMaterial("1st.steel", ELASTIC), cvxutils.CorvexNameError,
+     "invalid name"),
+    ("zero row", lambda: cvxutils.createMaterial("Steel", [[200e9, 0.3], [0.0, 0.0]], 1), RuntimeError,
+     "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s)."),
+    ("ragged rows", lambda: cvxutils.createMaterial("Steel", [[1.0, 0.3], [2.0]]), TypeError,
+     "createMaterial[1]; found list, expecting sequence of sequences of float"),
+    ("float for int", lambda: cvxutils.validateName("ok", 1.0), TypeError, "validateName[1]; found float, expecting int"),
+    ("status index", lambda: shell().statusAt(1), IndexError, "1"),
+    ("status key", lambda: shell().setStatus("colour", "SET"), KeyError, "colour"),
+    ("status text", lambda: shell().setStatus("thickness", "set"), ValueError,
+     "omu_PrimEnum(const cow_String&) - str not allowed: set  Permissible: {ABS_DEFAULT: 6, COMP_DEFAULT: 7, "
+     "FREED: 3, INVALID: 5, NOT_APPLICABLE: 4, SET: 1, UNCHANGED: 2, UNSET: 0}"),
+    ("status here", lambda: shell().setStatus("thickness", cvxutils.UNSET), RuntimeError,
+     "Invalid propagation status for 'thickness' attribute."),
+    ("thickness", lambda: setattr(shell(), "thickness", "thick"), TypeError, "thickness[0]; found string, expecting float"),
+    ("long name", lambda: cvxutils.validateName("x" * 81, 0), cvxutils.CorvexNameError, "invalid name"),
+    ("model name", lambda: cvxutils.validateName("a$b", 2), cvxutils.CorvexNameError, "invalid model name"),
+    ("job name", lambda: cvxutils.validateName("my job", 1), cvxutils.CorvexNameError, "invalid job name"),
+    ("underscore", lambda: cvxutils.validateName("_part", 3), cvxutils.CorvexNameError, "invalid name"),
+    ("comma", lambda: cvxutils.validateName("a,b", kind=7), cvxutils.CorvexNameError, "invalid name"),
+    ("empty name", lambda: cvxutils.validateName("", 4), cvxutils.CorvexNameError, "name is empty"),
+    ("range", lambda: cvxutils.checkRange("n", 1, False, 1, 10, True), cvxutils.RangeError,
+     "n must be an Integer in the range: 1 < n <= 10"),
+    ("int above", lambda: cvxutils.checkGreaterThan("n", 0, False, 2147483647), cvxutils.RangeError,
+     "n must be an Integer > 0"),
+    ("float above", lambda: cvxutils.checkGreaterThan("t", 0.0, True, -1.0), cvxutils.RangeError,
+     "t must be a Float >= 0"),
+]
 
-    @pytest.mark.parametrize("name, kind", [("x" * 80, 0), ("Model:1", 2), ("_part", 0), ("a,b", 0)])
-    def test_legal_names_pass(self, name, kind):
-        assert cvxutils.validateName(name, kind) == name
 
-    @pytest.mark.parametrize("name, kind, message", [
-        ("x" * 81, 0, "invalid name"), ("a$b", 2, "invalid model name"), ("_part", 3, "invalid name"),
-        ("a,b", 7, "invalid name"), ("", 4, "name is empty")])
-    def test_illegal_names_raise(self, name, kind, message):
-        with pytest.raises(cvxutils.CorvexNameError) as raised:
-            cvxutils.validateName(name, kind=kind)
-        assert raised.value.args == (message,)
-
-    @pytest.mark.parametrize("name, replacements, result", [
-        ("1abc", "xxxxxx", (True, "x1abc")), ("...", "......", (False, "...")), ("my.part_", "x.--..", (True, "my-part"))])
-    def test_gui_names_are_repaired(self, name, replacements, result):
-        assert cvxutils.makeLegalGuiName(name, replacements) == result
-
-    @pytest.mark.parametrize("args, message", [
-        (("n", 0, False, 2147483647), "n must be an Integer > 0"),
-        (("t", 0.0, True, -1.0), "t must be a Float >= 0"),
-    ])
-    def test_greater_than(self, args, message):
-        with pytest.raises(cvxutils.RangeError) as raised:
-            cvxutils.checkGreaterThan(*args)
-        assert raised.value.args == (message,)
-
-    @pytest.mark.parametrize("args", [("n", 1, True, 1, 10, True), ("x", 0.0, True, float("nan"), 1.0, False),
-                                      ("x", 0.0, True, 1, 1.0, True)])
-    def test_in_range_passes(self, args):
-        assert cvxutils.checkRange(*args) is None
+@pytest.mark.parametrize("what, call, error, message", REFUSALS, ids=[r[0] for r in REFUSALS])
+def test_refused_command_raises_its_error(what, call, error, message):
+    with pytest.raises(error) as raised:
+        call()
+    assert (type(raised.value), raised.value.args) == (error, (message,))

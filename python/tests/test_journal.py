@@ -11,12 +11,6 @@ import cvxutils
 STEEL = [[200e9, 0.3, 20.0], [190e9, 0.3, 100.0]]
 
 
-@pytest.fixture(autouse=True)
-def fresh_model():
-    cvxutils.resetModel()
-    cvxutils.clear_journal()
-
-
 def session():
     cvxutils.createMaterial("Steel", STEEL, 1)
     cvxutils.createMaterial("Alu", ((70e9, 0.33, 20.0), (69e9, 0.33, 80.0), (68e9, 1 / 3, 150.0)),
@@ -67,7 +61,6 @@ def test_arguments_are_journaled_as_they_were_at_the_call():
 # replay alone decides). Library forms where they read back exactly, round-trip forms else.
 @pytest.mark.parametrize("value, text", [
     (0.1, "0.1"),
-    (2.5, "2.5"),
     (1.0, "1.0"),
     (1e300, "1e+300"),
     (1 / 3, "0.3333333333333333"),          # 15 digits would lose it

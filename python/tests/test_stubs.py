@@ -23,33 +23,26 @@ def public(names):
     return {name for name in names if not name.startswith("_")}
 
 
-def module_names():
-    # The symbolic constants are covered by the stubs' module __getattr__.
-    return public(name for name, value in vars(cvxutils).items()
-                  if not isinstance(value, cvxutils.SymbolicConstant))
-
-
-def test_module_names_match_the_stubs():
+def scopes():
+    """The module and each class the stubs describe: its name, the object, the stubs' body."""
     tree = ast.parse(STUBS.read_text())
-    stubbed = public(stub_names(tree.body))
-    exposed = module_names()
-    assert (sorted(stubbed - exposed), sorted(exposed - stubbed)) == ([], []), \
-        "(stubbed but not exposed, exposed but not stubbed)"
+    yield "cvxutils", cvxutils, tree.body
+    for node in tree.body:
+        if isinstance(node, ast.ClassDef) and hasattr(cvxutils, node.name):
+            yield node.name, getattr(cvxutils, node.name), node.body
 
 
-def test_class_members_match_the_stubs():
+def test_the_stubs_name_what_the_module_exposes_and_no_more():
     differences = {}
-    for node in ast.parse(STUBS.read_text()).body:
-        if not isinstance(node, ast.ClassDef) or not hasattr(cvxutils, node.name):
-            continue
-        cls = getattr(cvxutils, node.name)
-        stubbed = stub_names(node.body)
-        exposed = public(vars(cls))
-        missing = sorted(name for name in stubbed if not hasattr(cls, name))
-        unstubbed = sorted(exposed - stubbed)
+    for name, scope, body in scopes():
+        stubbed = public(stub_names(body))
+        # The symbolic constants are covered by the stubs' module __getattr__.
+        exposed = public(key for key, value in vars(scope).items()
+                         if not isinstance(value, cvxutils.SymbolicConstant))
+        missing, unstubbed = sorted(n for n in stubbed if not hasattr(scope, n)), sorted(exposed - stubbed)
         if missing or unstubbed:
-            differences[node.name] = (missing, unstubbed)
-    assert differences == {}, "class: (stubbed but not exposed, exposed but not stubbed)"
+            differences[name] = (missing, unstubbed)
+    assert differences == {}, "scope: (stubbed but not exposed, exposed but not stubbed)"
 
 
 def test_the_version_is_the_change_logs_newest():

@@ -105,20 +105,17 @@ TEST(BitmapTest, BitsAndMarkers) {
 
   const auto count = [](const g3d_Bitmap& b) {
     int on = 0;
-    for (int y = 0; y < b.Height(); ++y) {
-      for (int x = 0; x < b.Width(); ++x) on += b.GetBit(x, y);
-    }
+    for (int i = 0; i < b.Width() * b.Height(); ++i) on += b.GetBit(i % b.Width(), i / b.Width());
     return on;
   };
   const struct {
     g3d_MarkerEnum marker;
-    int size, pixels;
-  } cases[] = {{MARKER_FILLED_SQUARE, 5, 25}, {MARKER_HOLLOW_SQUARE, 5, 16},
-                        {MARKER_CROSS, 5, 9},          {MARKER_XS, 5, 9},
-                        {MARKER_FILLED_DIAMOND, 5, 13}, {MARKER_HOLLOW_DIAMOND, 5, 8},
-                        {MARKER_POINT, 5, 1},          {MARKER_FILLED_CIRCLE, 5, 21}};
+    int pixels;  // of a marker of size 5
+  } cases[] = {{MARKER_FILLED_SQUARE, 25}, {MARKER_HOLLOW_SQUARE, 16}, {MARKER_CROSS, 9}, {MARKER_XS, 9},
+               {MARKER_FILLED_DIAMOND, 13}, {MARKER_HOLLOW_DIAMOND, 8}, {MARKER_POINT, 1},
+               {MARKER_FILLED_CIRCLE, 21}};
   for (const auto& c : cases) {
-    bitmap.SetMarker(c.marker, c.size);
+    bitmap.SetMarker(c.marker, 5);
     EXPECT_EQ(count(bitmap), c.pixels) << c.marker;
     const bool hollow = c.marker == MARKER_HOLLOW_SQUARE || c.marker == MARKER_HOLLOW_DIAMOND;
     EXPECT_EQ(bitmap.GetBit(2, 2), hollow ? 0 : 1) << c.marker;

@@ -110,39 +110,35 @@ TEST(XFormTest, ArraysMatchElementByElement) {
   m.SetRotate(33, {1, 2, 3}).Translate(1, -2, 3).Scale(1.5f, 0.5f, 2);
   m.M(3, 0) = 0.25f;  // a projective row too
   std::vector<g3d_Point> points, bulkPoints;
-  std::vector<g3d_Vector> vectors, bulkVectors;
+  std::vector<g3d_Vector> bulkVectors;
   for (int i = 0; i < 11; ++i) {  // two passes of four and a rest of three
     points.emplace_back(float(i), float(i * i) * 0.1f, -float(i), 1.0f + float(i % 2));
-    vectors.emplace_back(float(i), 1.0f, -float(i));
+    bulkVectors.emplace_back(float(i), 1.0f, -float(i));
   }
   bulkPoints = points;
-  bulkVectors = vectors;
   m.XForm(bulkPoints.data(), int(bulkPoints.size()));
   m.XForm(bulkVectors.data(), int(bulkVectors.size()));
+  const auto row = [&m](int r, const g3d_Point& p) {
+    return m.GetM(r, 0) * p.x + m.GetM(r, 1) * p.y + m.GetM(r, 2) * p.z + m.GetM(r, 3) * p.w;
+  };
   for (std::size_t i = 0; i < points.size(); ++i) {
     const g3d_Point& p = points[i];
-    float row[4];
-    for (int r = 0; r < 4; ++r) {
-      row[r] = m.GetM(r, 0) * p.x + m.GetM(r, 1) * p.y + m.GetM(r, 2) * p.z + m.GetM(r, 3) * p.w;
-    }
-    EXPECT_EQ(bulkPoints[i], g3d_Point(row[0], row[1], row[2], row[3])) << i;
-    g3d_Vector v = vectors[i];
-    m.XForm(&v, 1);
-    EXPECT_EQ(bulkVectors[i], v) << i;
-    EXPECT_EQ(v.x, m.GetM(0, 0) * vectors[i].x + m.GetM(0, 1) * vectors[i].y + m.GetM(0, 2) * vectors[i].z);
+    EXPECT_EQ(bulkPoints[i], g3d_Point(row(0, p), row(1, p), row(2, p), row(3, p))) << i;
+    const g3d_Point v(float(i), 1.0f, -float(i), 0.0f);  // a vector takes the 3x3 part only
+    EXPECT_EQ(bulkVectors[i], g3d_Vector(row(0, v), row(1, v), row(2, v))) << i;
   }
-  m.XForm(points.data(), 0);  // nothing to do, nothing touched
+  const std::vector<g3d_Point> before = points;
+  m.XForm(points.data(), 0);
   m.XForm(points.data(), -3);
+  EXPECT_EQ(points, before);  // nothing to do, nothing touched
 }
 
 TEST(XFormTest, NaNMakesEvenCopiesUnequal) {
   g3d_XForm a;
   a.M(2, 1) = std::numeric_limits<float>::quiet_NaN();
   const g3d_XForm copy = a;
-  EXPECT_FALSE(a == copy);
-  EXPECT_TRUE(a != copy);
-  EXPECT_FALSE(a == g3d_XForm());
-  EXPECT_TRUE(a == a);
+  EXPECT_EQ(std::tuple(a == copy, a != copy, a == g3d_XForm(), a == a),
+            std::tuple(false, true, false, true));
 }
 
 TEST(XFormTest, TransposeColumnMajorExportAndFrames) {
