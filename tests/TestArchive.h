@@ -35,3 +35,11 @@ std::unique_ptr<T> RoundTrip(const V& value, const std::string& name = "roundtri
   archive.Add(value);
   return SaveAndLoad(archive, name).template Read<T>(0);
 }
+
+// The bytes of an archive holding the object alone: its fields, whatever its identities.
+template <class T>
+std::string SoloBytes(const T& object) {
+  cls_Archive archive;
+  archive.Add(object);
+  return archive.ToBytes();
+}

@@ -59,11 +59,3 @@ inline omu_PrimList ListOf(std::initializer_list<int> values) {
 inline omu_PrimString* StringOf(const char* text) { return new omu_PrimString(cow_String(text)); }
 
 inline std::string Text(const omu_Primitive& value) { return value.AsString(0).StdString(); }
-
-// The bytes of an archive holding the object alone: its fields, whatever its identities.
-template <class T>
-std::string SoloBytes(const T& object) {
-  cls_Archive archive;
-  archive.Add(object);
-  return archive.ToBytes();
-}
