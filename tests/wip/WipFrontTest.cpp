@@ -12,15 +12,14 @@
 #include <set>
 #include <thread>
 
-namespace {
-struct Forwarding {
-  const char* name;
-  std::function<void(wip_WIPBase&)> call;
-  const char* recorded;
-};
-
-const std::vector<Forwarding>& Forwardings() {
-  static const std::vector<Forwarding> cases = {
+// Without a reporter each operation asserts, from a line of its own; with one, it reaches the
+// matching overload unchanged.
+TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
+  const struct {
+    const char* name;
+    std::function<void(wip_WIPBase&)> call;
+    const char* recorded;
+  } forwardings[] = {
       {"Error", [](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
       {"ErrorList",
        [](wip_WIPBase& f) {
@@ -48,25 +47,9 @@ const std::vector<Forwarding>& Forwardings() {
        "Warning(thin shell)"},
       {"InterruptedThrow", [](wip_WIPBase& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
   };
-  return cases;
-}
-}  // namespace
-
-TEST(WipFront, ForwardsEachOperationToTheMatchingOverloadUnchanged) {
-  for (const Forwarding& forwarding : Forwardings()) {
-    wip_WIPBase front;
-    RecordingReporter reporter;
-    reporter.interrupted = 7;  // and its answer comes back
-    front.SetWipReporter(&reporter);
-    forwarding.call(front);
-    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.name;
-  }
-}
-
-TEST(WipFront, EveryOperationAssertsThatAReporterIsInstalled) {
-  wip_WIPBase front;
   std::set<int> lines;
-  for (const Forwarding& forwarding : Forwardings()) {
+  for (const auto& forwarding : forwardings) {
+    wip_WIPBase front;
     try {
       forwarding.call(front);
       ADD_FAILURE() << forwarding.name << " did not raise";
@@ -75,9 +58,13 @@ TEST(WipFront, EveryOperationAssertsThatAReporterIsInstalled) {
       EXPECT_STREQ(e.SourcePath(), "wip/impl/wip_WIP") << forwarding.name;
       lines.insert(e.SourceLine());
     }
+    RecordingReporter reporter;
+    reporter.interrupted = 7;  // and its answer comes back
+    front.SetWipReporter(&reporter);
+    forwarding.call(front);
+    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.name;
   }
-  // Each operation reports from its own line.
-  EXPECT_EQ(lines.size(), Forwardings().size());
+  EXPECT_EQ(lines.size(), std::size(forwardings));
 }
 
 TEST(WipFront, DestroyingTheInstalledReporterClearsTheThreadsFront) {
