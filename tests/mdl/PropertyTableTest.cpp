@@ -37,10 +37,7 @@ bool SameBits(const mdl_PropertyTable& a, const mdl_PropertyTable& b) {
 // The sort as the model describes it, row by row on a copy, without any shortcut.
 cow_2DArray<double> InsertionSorted(const cow_2DArray<double>& table, int keys) {
   if (keys == 0) return table;
-  cow_2DArray<double> rows(table.Rows(), table.Columns());
-  for (int r = 0; r < table.Rows(); ++r) {
-    for (int c = 0; c < table.Columns(); ++c) rows.Set(r, c, table(r, c));
-  }
+  cow_2DArray<double> rows = table;
   const int last = table.Columns() - 1;
   std::vector<double> scratch(static_cast<std::size_t>(table.Columns()));
   for (int i = 1; i < table.Rows(); ++i) {
