@@ -7,10 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <latch>
 #include <memory>
 #include <set>
-#include <thread>
 
 // Without a reporter each operation asserts, from a line of its own; with one, it reaches the
 // matching overload unchanged.
@@ -94,39 +92,4 @@ TEST(WipFront, FacilityMessagesAreRoutedByKind) {
     const std::vector<std::string> none;
     EXPECT_EQ(reporter.calls, expected ? std::vector<std::string>{expected} : none) << kind;
   }
-}
-
-TEST(WipFront, EachThreadSeesOnlyItsOwnReporter) {
-#if defined(__MINGW32__)
-  GTEST_SKIP() << "std::latch of MinGW's GCC 12 runtime, which waits without futexes, "
-                  "now and then sleeps forever";
-#endif
-  constexpr int kThreads = 4;
-  constexpr int kMessages = 200;
-  std::vector<RecordingReporter> reporters(kThreads);
-  std::vector<std::thread> threads;
-  std::vector<wip_WIP*> fronts(kThreads);
-  // Every thread installs before any reports and stays alive until all have reported, so a
-  // shared front would show as crossed messages.
-  std::latch installed(kThreads);
-  std::latch reported(kThreads);
-  for (int t = 0; t < kThreads; ++t) {
-    threads.emplace_back([&, t] {
-      wip_WIP& front = wip_WIP::Instance();
-      fronts[t] = &front;
-      front.SetWipReporter(&reporters[t]);
-      installed.arrive_and_wait();
-      for (int i = 0; i < kMessages; ++i) front.Print(atr_StringBase(t));
-      reported.arrive_and_wait();
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  for (int t = 0; t < kThreads; ++t) {
-    EXPECT_EQ(reporters[t].calls,
-              std::vector<std::string>(kMessages, "Print(" + std::to_string(t) + ")"));
-  }
-  EXPECT_EQ(std::set<wip_WIP*>(fronts.begin(), fronts.end()).size(), std::size_t{kThreads})
-      << "threads shared a front";
-  // None of them installed anything on this thread's front.
-  EXPECT_NE(wip_WIP::Instance().GetWipReporter(), &reporters[0]);
 }
