@@ -84,22 +84,6 @@ TEST(PropAttr, EqualityComparesValueAndStateButNotTheUid) {
   EXPECT_TRUE(list == (cls_xpListInt{1, 2}) && list != (cls_xpListInt{2, 1}));
 }
 
-TEST(PropAttr, EachPredicateHoldsInItsStatesOnly) {
-  const struct {
-    const char* name;
-    bool (PropString::*holds)() const;
-    std::set<int> states;
-  } predicates[] = {{"IsModified", &PropString::IsModified, {SET, FREED}},
-                    {"IsConditionModified", &PropString::IsConditionModified, {FREED}},
-                    {"IsActive", &PropString::IsActive, {SET, UNCHANGED}},
-                    {"IsFree", &PropString::IsFree, {UNSET, FREED}}};
-  for (const auto& p : predicates) {
-    for (mdl_PropAttributeStateEnm state : kStates) {
-      EXPECT_EQ((Holder(state).*p.holds)(), p.states.count(state) == 1) << p.name << " " << state;
-    }
-  }
-}
-
 TEST(PropAttr, SetStatusAcceptsItsBranchsStatusesAndRefusesTheRest) {
   // Expected state after SetStatus on a NOT_APPLICABLE holder of "abc", or nullopt for a
   // refusal; the value is "abc" or zeroed. UNCHANGED changes nothing at all.
