@@ -7,6 +7,8 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 inline std::filesystem::path TestFolder() {
   const char* folder = std::getenv("CVX_TEST_TMP");
@@ -43,3 +45,14 @@ std::string SoloBytes(const T& object) {
   archive.Add(object);
   return archive.ToBytes();
 }
+
+// A record as a foreign or damaged archive could hold it: a class's identifier and any fields.
+struct ForgedRecord {
+  unsigned int typeId;
+  std::vector<std::pair<const char*, cls_Value>> fields;
+  cls_Uid uid = cls_Uid();
+  void DBWrite(const cls_WriteVisitor& writer) const {
+    writer.StartWrite(typeId, uid);
+    for (const auto& [name, value] : fields) writer.Write(name, value);
+  }
+};

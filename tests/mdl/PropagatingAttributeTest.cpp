@@ -165,30 +165,22 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
 
 namespace {
 // An mdl_PropInt record as a foreign or damaged archive could hold it.
-struct ForgedPropInt {
-  cls_Value val;
-  const char* state;
-  void DBWrite(const cls_WriteVisitor& writer) const {
-    writer.StartWrite(mdl_PropAttr<int>::TypeId(), cls_Uid(99));
-    writer.Write("val", val);
-    writer.WriteEnum("state", state);
-  }
-};
+ForgedRecord PropInt(cls_Value val, const char* state) {
+  return {mdl_PropAttr<int>::TypeId(), {{"val", val}, {"state", cls_EnumName{state}}}, cls_Uid(99)};
+}
 }  // namespace
 
 // The enumeration's message is checked with the enumerations.
 TEST(PropAttrPersistence, AnUnknownStateNameIsRefusedByTheEnumeration) {
-  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "set"}, "badstate"),
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(std::int32_t{3}, "set"), "badstate"),
                omu_ValueErrorException);
-  const auto read =
-      RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{std::int32_t{3}, "FREED"}, "goodstate");
+  const auto read = RoundTrip<mdl_PropAttr<int>>(PropInt(std::int32_t{3}, "FREED"), "goodstate");
   EXPECT_EQ(read->State(), FREED);
   EXPECT_TRUE(*read == 3);  // the stored value is taken as it is
 }
 
 TEST(PropAttrPersistence, AValueOfTheWrongKindIsRefusedAsATextFailure) {
-  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{2.5, "SET"}, "badval"),
-               nex_TextException);
-  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(ForgedPropInt{cls_Value(), "SET"}, "noval"),
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(2.5, "SET"), "badval"), nex_TextException);
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(cls_Value(), "SET"), "noval"),
                nex_TextException);
 }

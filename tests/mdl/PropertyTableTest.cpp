@@ -160,24 +160,15 @@ TEST(PropertyTable, RoundTripsThroughAnArchiveFileBitForBit) {
   EXPECT_EQ(*RoundTrip<mdl_PropertyTable>(mdl_PropertyTable(), "emptytable"), mdl_PropertyTable());
 }
 
-namespace {
-struct ForgedTable {
-  cls_Matrix table;
-  void DBWrite(const cls_WriteVisitor& writer) const {
-    writer.StartWrite(mdl_PropertyTable::TypeId(), cls_Uid());
-    writer.Write("table", table);
-    writer.Write("allowEmptyFirstRow", false);
-  }
-};
-}  // namespace
-
 TEST(PropertyTable, AForeignTableIsRefusedAsATextFailure) {
-  const ForgedTable forged[] = {
-      {cls_Matrix{2, 2, {1.0, 2.0, 3.0}}},                    // fewer cells than its shape
-      {cls_Matrix{-1, 0, {}}},                                // negative shape
-      {cls_Matrix{1, 2, {1.0, cls_Value(std::int32_t{2})}}},  // a cell of another kind
+  const cls_Matrix forged[] = {
+      {2, 2, {1.0, 2.0, 3.0}},                    // fewer cells than its shape
+      {-1, 0, {}},                                // negative shape
+      {1, 2, {1.0, cls_Value(std::int32_t{2})}},  // a cell of another kind
   };
-  for (const ForgedTable& table : forged) {
-    EXPECT_THROW(RoundTrip<mdl_PropertyTable>(table, "forgedtable"), nex_TextException);
+  for (const cls_Matrix& table : forged) {
+    const ForgedRecord record{mdl_PropertyTable::TypeId(),
+                              {{"table", table}, {"allowEmptyFirstRow", false}}};
+    EXPECT_THROW(RoundTrip<mdl_PropertyTable>(record, "forgedtable"), nex_TextException);
   }
 }
