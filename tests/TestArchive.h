@@ -7,6 +7,8 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 inline std::filesystem::path TestFolder() {
   const char* folder = std::getenv("CVX_TEST_TMP");
@@ -35,3 +37,22 @@ std::unique_ptr<T> RoundTrip(const V& value, const std::string& name = "roundtri
   archive.Add(value);
   return SaveAndLoad(archive, name).template Read<T>(0);
 }
+
+// The bytes of an archive holding the object alone: its fields, whatever its identities.
+template <class T>
+std::string SoloBytes(const T& object) {
+  cls_Archive archive;
+  archive.Add(object);
+  return archive.ToBytes();
+}
+
+// A record as a foreign or damaged archive could hold it: a class's identifier and any fields.
+struct ForgedRecord {
+  unsigned int typeId;
+  std::vector<std::pair<const char*, cls_Value>> fields;
+  cls_Uid uid = cls_Uid();
+  void DBWrite(const cls_WriteVisitor& writer) const {
+    writer.StartWrite(typeId, uid);
+    for (const auto& [name, value] : fields) writer.Write(name, value);
+  }
+};

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <sstream>
+#include <string>
 
 TEST(AtrString, CopiesShareAndWritesUnshare) {
   atr_StringBase a("shared text");

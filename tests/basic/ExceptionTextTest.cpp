@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -37,37 +38,25 @@ std::string Expected(const nex_Exception& e) {
 }  // namespace
 
 TEST(ExceptionText, WhatStaysPutOnTheOriginalAndItsCopies) {
-  const struct {
-    const char* how;
-    std::function<std::unique_ptr<nex_Exception>(const nex_TextException&)> copy;
-  } cases[] = {
-      {"copy constructor",
-       [](const nex_TextException& e) { return std::make_unique<nex_TextException>(e); }},
-      {"assignment",
-       [](const nex_TextException& e) {
-         auto to = std::make_unique<nex_TextException>("other");
-         *to = e;
-         return to;
-       }},
-      {"Copy()",
-       [](const nex_TextException& e) { return std::unique_ptr<nex_Exception>(e.Copy()); }},
-      {"Propagate()",
-       [](const nex_TextException& e) {
-         return Caught([&e] { static_cast<const nex_Exception&>(e).Propagate(); });
-       }},
-  };
   const nex_TextException original = Raised();
   const char* first = original.what();
   const std::string text = first;
   EXPECT_EQ(text, Expected(original));
   EXPECT_EQ(original.what(), first);
   EXPECT_EQ(first, text);  // still readable: the second call did not free it
-  for (const auto& c : cases) {
-    const auto copy = c.copy(original);
-    ASSERT_NE(copy, nullptr) << c.how;
+  auto assigned = std::make_unique<nex_TextException>("other");
+  *assigned = original;
+  const std::pair<const char*, std::unique_ptr<nex_Exception>> copies[] = {
+      {"copy constructor", std::make_unique<nex_TextException>(original)},
+      {"assignment", std::move(assigned)},
+      {"Copy()", std::unique_ptr<nex_Exception>(original.Copy())},
+      {"Propagate()", Caught([&] { static_cast<const nex_Exception&>(original).Propagate(); })},
+  };
+  for (const auto& [how, copy] : copies) {
+    ASSERT_NE(copy, nullptr) << how;
     const char* copied = copy->what();
-    EXPECT_EQ(std::string(copied), Expected(original)) << c.how;
-    EXPECT_EQ(copy->what(), copied) << c.how << ": the copy rebuilt its text";
+    EXPECT_EQ(std::string(copied), Expected(original)) << how;
+    EXPECT_EQ(copy->what(), copied) << how << ": the copy rebuilt its text";
   }
 }
 

@@ -20,11 +20,7 @@ TEST(ModelClasses, ExtensionsAndRepositoriesRoundTrip) {
 
 // Ragged and empty rows round trip in the model-wide identity test.
 TEST(ModelClasses, ARowOfTheWrongKindIsRefused) {
-  struct BadRows {
-    void DBWrite(const cls_WriteVisitor& w) const {
-      w.StartWrite(mdl_JaggedArray::TypeId(), cls_Uid());
-      w.Write("rows", cls_Value::List{cls_Value::List{1.0}, cow_String("x")});
-    }
-  };
-  EXPECT_THROW(RoundTrip<mdl_JaggedArray>(BadRows()), nex_TextException);
+  const ForgedRecord rows{mdl_JaggedArray::TypeId(),
+                          {{"rows", cls_Value::List{cls_Value::List{1.0}, cow_String("x")}}}};
+  EXPECT_THROW(RoundTrip<mdl_JaggedArray>(rows), nex_TextException);
 }

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
@@ -38,10 +37,7 @@ bool SameBits(const mdl_PropertyTable& a, const mdl_PropertyTable& b) {
 // The sort as the model describes it, row by row on a copy, without any shortcut.
 cow_2DArray<double> InsertionSorted(const cow_2DArray<double>& table, int keys) {
   if (keys == 0) return table;
-  cow_2DArray<double> rows(table.Rows(), table.Columns());
-  for (int r = 0; r < table.Rows(); ++r) {
-    for (int c = 0; c < table.Columns(); ++c) rows.Set(r, c, table(r, c));
-  }
+  cow_2DArray<double> rows = table;
   const int last = table.Columns() - 1;
   std::vector<double> scratch(static_cast<std::size_t>(table.Columns()));
   for (int i = 1; i < table.Rows(); ++i) {
@@ -164,24 +160,15 @@ TEST(PropertyTable, RoundTripsThroughAnArchiveFileBitForBit) {
   EXPECT_EQ(*RoundTrip<mdl_PropertyTable>(mdl_PropertyTable(), "emptytable"), mdl_PropertyTable());
 }
 
-namespace {
-struct ForgedTable {
-  cls_Matrix table;
-  void DBWrite(const cls_WriteVisitor& writer) const {
-    writer.StartWrite(mdl_PropertyTable::TypeId(), cls_Uid());
-    writer.Write("table", table);
-    writer.Write("allowEmptyFirstRow", false);
-  }
-};
-}  // namespace
-
 TEST(PropertyTable, AForeignTableIsRefusedAsATextFailure) {
-  const ForgedTable forged[] = {
-      {cls_Matrix{2, 2, {1.0, 2.0, 3.0}}},                    // fewer cells than its shape
-      {cls_Matrix{-1, 0, {}}},                                // negative shape
-      {cls_Matrix{1, 2, {1.0, cls_Value(std::int32_t{2})}}},  // a cell of another kind
+  const cls_Matrix forged[] = {
+      {2, 2, {1.0, 2.0, 3.0}},                    // fewer cells than its shape
+      {-1, 0, {}},                                // negative shape
+      {1, 2, {1.0, cls_Value(std::int32_t{2})}},  // a cell of another kind
   };
-  for (const ForgedTable& table : forged) {
-    EXPECT_THROW(RoundTrip<mdl_PropertyTable>(table, "forgedtable"), nex_TextException);
+  for (const cls_Matrix& table : forged) {
+    const ForgedRecord record{mdl_PropertyTable::TypeId(),
+                              {{"table", table}, {"allowEmptyFirstRow", false}}};
+    EXPECT_THROW(RoundTrip<mdl_PropertyTable>(record, "forgedtable"), nex_TextException);
   }
 }

@@ -8,6 +8,7 @@
 #include <omu_ReturnPrim.h>
 
 #include <algorithm>
+#include <type_traits>
 #include <variant>
 
 namespace {
@@ -45,19 +46,16 @@ struct Irregular {
   cow_2DArray<double> rows;
 };
 
+// Collections through omu_Get and omu_GetIrregular, single values through the arguments.
 template <class T>
 void Get(omu_Arguments& args, T& value, std::string_view keyword) {
-  args.Get(value, keyword);
-}
-template <class T>
-void Get(omu_Arguments& args, cow_List<T>& value, std::string_view keyword) {
-  omu_Get(args, value, cow_String(keyword));
-}
-void Get(omu_Arguments& args, cow_2DArray<double>& value, std::string_view keyword) {
-  omu_Get(args, value, cow_String(keyword));
-}
-void Get(omu_Arguments& args, Irregular& value, std::string_view keyword) {
-  omu_GetIrregular(args, value.rows, cow_String(keyword));
+  if constexpr (std::is_same_v<T, Irregular>) {
+    omu_GetIrregular(args, value.rows, cow_String(keyword));
+  } else if constexpr (requires { omu_Get(args, value, cow_String(keyword)); }) {
+    omu_Get(args, value, cow_String(keyword));
+  } else {
+    args.Get(value, keyword);
+  }
 }
 
 // A value read, in the library's text.

@@ -1,3 +1,5 @@
+#include "RaisedText.h"
+
 #include <omu_CharClass.h>
 #include <omu_CorNameErrorException.h>
 #include <omu_CorvexName.h>
@@ -8,15 +10,12 @@
 #include <string>
 
 namespace {
-// The message a name of a kind gets, or "ok".
+// The message a name of a kind gets, or "ok" (when the name is kept as given).
 std::string Verdict(const std::string& name, int kind) {
-  try {
-    omu_CorvexName checked(cow_String(name), static_cast<omu_CorvexNameEnum>(kind));
+  return Raised<omu_CorNameErrorException>([&] {
+    const omu_CorvexName checked(cow_String(name), static_cast<omu_CorvexNameEnum>(kind));
     EXPECT_EQ(checked.Name(), name);
-  } catch (const omu_CorNameErrorException& e) {
-    return e.JournalMessage().StdString();
-  }
-  return "ok";
+  });
 }
 
 constexpr const char* kInvalid = "invalid name";

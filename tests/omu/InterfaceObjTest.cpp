@@ -53,11 +53,10 @@ TEST(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {
 TEST(InterfaceObj, IllegalArithmeticKeepsItsTwoTexts) {
   TestPart a(NewPart());
   TestPart b(NewPart());
-  auto textOf = [](const std::function<void()>& f) { return Raised<nex_TextException>(f); };
-  EXPECT_EQ(textOf([&] { a.AddOperation(&b); }), "Error: Illegal operation for type");
-  EXPECT_EQ(textOf([&] { a.DivOperation(&b); }), "Error: Illegal operation for type");
-  EXPECT_EQ(textOf([&] { a.UnaryNegative(); }), "Error: Illegal operation for type.");
-  EXPECT_EQ(textOf([&] { a.Absolute(); }), "Error: Illegal operation for type.");
+  EXPECT_EQ(Raised([&] { a.AddOperation(&b); }), "Error: Illegal operation for type");
+  EXPECT_EQ(Raised([&] { a.DivOperation(&b); }), "Error: Illegal operation for type");
+  EXPECT_EQ(Raised([&] { a.UnaryNegative(); }), "Error: Illegal operation for type.");
+  EXPECT_EQ(Raised([&] { a.Absolute(); }), "Error: Illegal operation for type.");
   EXPECT_EQ(a.NonZero(), 1);
 }
 

@@ -2,10 +2,9 @@
 // What the value and argument tests share: the library started once, archive round trips,
 // the values most tests build, and the text of the failure an action raises.
 #include "LibraryEnvironment.h"
+#include "RaisedText.h"
 #include "TestArchive.h"
 
-#include <nex_CommandException.h>
-#include <nex_TextException.h>
 #include <omu_PrimBool.h>
 #include <omu_PrimBoolean.h>
 #include <omu_PrimDictionary.h>
@@ -24,26 +23,6 @@
 using StrDict = omu_PrimDictionary<cow_String>;
 using IntDict = omu_PrimDictionary<int>;
 
-inline std::string Message(const nex_TextException& e) { return e.Text().StdString(); }
-inline std::string Message(const nex_CommandException& e) {
-  return e.JournalMessage().StdString();
-}
-
-// The message of the E that action raises, or "no error"; given source, also checks that the
-// failure names it as where it was raised.
-template <class E>
-std::string Raised(const std::function<void()>& action, const char* source = nullptr) {
-  try {
-    action();
-  } catch (const E& e) {
-    if (source) {
-      EXPECT_STREQ(e.SourcePath(), source);
-    }
-    return Message(e);
-  }
-  return "no error";
-}
-
 // A tuple owning the values, ready to be read from the first.
 inline omu_PrimTuple TupleOf(std::initializer_list<omu_Primitive*> values) {
   omu_PrimTuple tuple(static_cast<int>(values.size()));
@@ -59,11 +38,3 @@ inline omu_PrimList ListOf(std::initializer_list<int> values) {
 inline omu_PrimString* StringOf(const char* text) { return new omu_PrimString(cow_String(text)); }
 
 inline std::string Text(const omu_Primitive& value) { return value.AsString(0).StdString(); }
-
-// The bytes of an archive holding the object alone: its fields, whatever its identities.
-template <class T>
-std::string SoloBytes(const T& object) {
-  cls_Archive archive;
-  archive.Add(object);
-  return archive.ToBytes();
-}

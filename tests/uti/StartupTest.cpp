@@ -13,9 +13,19 @@ const cls_ClassRegistrar& Registry() { return cls_MetadataRegistrar::Instance().
 bool Started() { return Registry().Find(omu_TypeId(17)) != nullptr; }
 }  // namespace
 
-TEST(Startup, TwoStartsThenTwoStopsWorkOnlyAtTheEnds) {
+// BasicUtils (31, 35) starts first, then g3d (36), omu (19), mdl (10); wip and idb register
+// nothing. Two starts then two stops work only at the ends.
+TEST(Startup, ModulesStartInOrderAndOnlyTheOutermostStartAndStopCount) {
   int count = 0;
   UTI_CaeUtils_initialize(count);
+  const std::map<unsigned int, int> rank = {{31, 0}, {35, 0}, {36, 1}, {19, 2}, {10, 3}};
+  int last = 0;
+  for (const auto& registration : cls_MetadataRegistrar::Instance().Registrations()) {
+    const int now = rank.at(cls_ModuleOf(registration.typeIds.front()));
+    EXPECT_GE(now, last);
+    last = now;
+  }
+  EXPECT_EQ(last, 3);
   const int started = count;
   const auto classes = Registry().Classes().size();
   UTI_CaeUtils_initialize(count);
@@ -28,6 +38,7 @@ TEST(Startup, TwoStartsThenTwoStopsWorkOnlyAtTheEnds) {
   UTI_CaeUtils_finalize(count);
   EXPECT_EQ(count, 0);
   EXPECT_FALSE(Started());
+  EXPECT_TRUE(cls_MetadataRegistrar::Instance().Registrations().empty());
   EXPECT_EQ(typ_ArchCompTable::Instance().Entry(19), nullptr);
 
   UTI_CaeUtils_initialize(count);  // and up again, cleanly
@@ -51,20 +62,4 @@ TEST(Startup, AStopBeforeAnyStartSwallowsTheNextStart) {
   g3d_finalize(count);  // balances the first call
   EXPECT_EQ(count, 0);
   EXPECT_EQ(typ_ArchCompTable::Instance().Entry(36), nullptr);
-}
-
-TEST(Startup, ModulesStartInOrderAndStopInReverse) {
-  int count = 0;
-  UTI_CaeUtils_initialize(count);
-  // BasicUtils (31, 35), then g3d (36), omu (19), mdl (10): wip and idb register nothing.
-  const std::map<unsigned int, int> rank = {{31, 0}, {35, 0}, {36, 1}, {19, 2}, {10, 3}};
-  int last = 0;
-  for (const auto& registration : cls_MetadataRegistrar::Instance().Registrations()) {
-    const int now = rank.at(cls_ModuleOf(registration.typeIds.front()));
-    EXPECT_GE(now, last);
-    last = now;
-  }
-  EXPECT_EQ(last, 3);
-  UTI_CaeUtils_finalize(count);
-  EXPECT_TRUE(cls_MetadataRegistrar::Instance().Registrations().empty());
 }

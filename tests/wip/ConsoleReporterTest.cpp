@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <sstream>
 #include <thread>
 
@@ -140,21 +141,32 @@ TEST(Progress, AnInterruptStopsTheTaskThroughTheThreadsReporter) {
   EXPECT_FALSE(progress.Interrupted());
 }
 
-// Each thread's text is what the same work writes on a thread alone.
+// Every thread installs its reporter before any reports and keeps it until all have reported,
+// so a front shared between threads would cross their texts: each thread's text must be what
+// the same work writes on a thread alone.
 TEST(ConsoleReporter, ReportersOnSeveralThreadsWriteOnlyTheirOwnStreams) {
   constexpr int kThreads = 4;
-  const auto work = [](int t) {
+  std::atomic<int> installed{0}, reported{0};
+  const auto waitForAll = [](std::atomic<int>& arrived, int threads) {
+    for (++arrived; arrived < threads;) std::this_thread::yield();
+  };
+  const auto work = [&](int t, int threads) {
     ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
     wip_WIP::Instance().SetWipReporter(&console);
+    waitForAll(installed, threads);
     wip_Progress progress("T" + std::to_string(t), 50);
     for (int i = 0; i < 50; ++i) progress.Advance();
     wip_WIP::Instance().Warning("w" + std::to_string(t));
+    waitForAll(reported, threads);
     return console.Text();
   };
   std::vector<std::string> alone(kThreads), together(kThreads);
-  for (int t = 0; t < kThreads; ++t) alone[t] = work(t);
+  for (int t = 0; t < kThreads; ++t) alone[t] = work(t, 1);
+  installed = reported = 0;
   std::vector<std::thread> threads;
-  for (int t = 0; t < kThreads; ++t) threads.emplace_back([&, t] { together[t] = work(t); });
+  for (int t = 0; t < kThreads; ++t) {
+    threads.emplace_back([&, t] { together[t] = work(t, kThreads); });
+  }
   for (std::thread& thread : threads) thread.join();
   EXPECT_EQ(together, alone);
   EXPECT_NE(alone[1].find("T1: 100%  50/50 items"), std::string::npos) << alone[1];

@@ -7,20 +7,17 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <latch>
 #include <memory>
 #include <set>
-#include <thread>
 
-namespace {
-struct Forwarding {
-  const char* name;
-  std::function<void(wip_WIPBase&)> call;
-  const char* recorded;
-};
-
-const std::vector<Forwarding>& Forwardings() {
-  static const std::vector<Forwarding> cases = {
+// Without a reporter each operation asserts, from a line of its own; with one, it reaches the
+// matching overload unchanged.
+TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
+  const struct {
+    const char* name;
+    std::function<void(wip_WIPBase&)> call;
+    const char* recorded;
+  } forwardings[] = {
       {"Error", [](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
       {"ErrorList",
        [](wip_WIPBase& f) {
@@ -48,25 +45,9 @@ const std::vector<Forwarding>& Forwardings() {
        "Warning(thin shell)"},
       {"InterruptedThrow", [](wip_WIPBase& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
   };
-  return cases;
-}
-}  // namespace
-
-TEST(WipFront, ForwardsEachOperationToTheMatchingOverloadUnchanged) {
-  for (const Forwarding& forwarding : Forwardings()) {
-    wip_WIPBase front;
-    RecordingReporter reporter;
-    reporter.interrupted = 7;  // and its answer comes back
-    front.SetWipReporter(&reporter);
-    forwarding.call(front);
-    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.name;
-  }
-}
-
-TEST(WipFront, EveryOperationAssertsThatAReporterIsInstalled) {
-  wip_WIPBase front;
   std::set<int> lines;
-  for (const Forwarding& forwarding : Forwardings()) {
+  for (const auto& forwarding : forwardings) {
+    wip_WIPBase front;
     try {
       forwarding.call(front);
       ADD_FAILURE() << forwarding.name << " did not raise";
@@ -75,9 +56,13 @@ TEST(WipFront, EveryOperationAssertsThatAReporterIsInstalled) {
       EXPECT_STREQ(e.SourcePath(), "wip/impl/wip_WIP") << forwarding.name;
       lines.insert(e.SourceLine());
     }
+    RecordingReporter reporter;
+    reporter.interrupted = 7;  // and its answer comes back
+    front.SetWipReporter(&reporter);
+    forwarding.call(front);
+    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.name;
   }
-  // Each operation reports from its own line.
-  EXPECT_EQ(lines.size(), Forwardings().size());
+  EXPECT_EQ(lines.size(), std::size(forwardings));
 }
 
 TEST(WipFront, DestroyingTheInstalledReporterClearsTheThreadsFront) {
@@ -107,39 +92,4 @@ TEST(WipFront, FacilityMessagesAreRoutedByKind) {
     const std::vector<std::string> none;
     EXPECT_EQ(reporter.calls, expected ? std::vector<std::string>{expected} : none) << kind;
   }
-}
-
-TEST(WipFront, EachThreadSeesOnlyItsOwnReporter) {
-#if defined(__MINGW32__)
-  GTEST_SKIP() << "std::latch of MinGW's GCC 12 runtime, which waits without futexes, "
-                  "now and then sleeps forever";
-#endif
-  constexpr int kThreads = 4;
-  constexpr int kMessages = 200;
-  std::vector<RecordingReporter> reporters(kThreads);
-  std::vector<std::thread> threads;
-  std::vector<wip_WIP*> fronts(kThreads);
-  // Every thread installs before any reports and stays alive until all have reported, so a
-  // shared front would show as crossed messages.
-  std::latch installed(kThreads);
-  std::latch reported(kThreads);
-  for (int t = 0; t < kThreads; ++t) {
-    threads.emplace_back([&, t] {
-      wip_WIP& front = wip_WIP::Instance();
-      fronts[t] = &front;
-      front.SetWipReporter(&reporters[t]);
-      installed.arrive_and_wait();
-      for (int i = 0; i < kMessages; ++i) front.Print(atr_StringBase(t));
-      reported.arrive_and_wait();
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  for (int t = 0; t < kThreads; ++t) {
-    EXPECT_EQ(reporters[t].calls,
-              std::vector<std::string>(kMessages, "Print(" + std::to_string(t) + ")"));
-  }
-  EXPECT_EQ(std::set<wip_WIP*>(fronts.begin(), fronts.end()).size(), std::size_t{kThreads})
-      << "threads shared a front";
-  // None of them installed anything on this thread's front.
-  EXPECT_NE(wip_WIP::Instance().GetWipReporter(), &reporters[0]);
 }
