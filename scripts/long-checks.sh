@@ -14,7 +14,7 @@ cmake --build --preset debug
 for test in build/debug/tests/test_*; do
   [ -x "$test" ] || continue
   echo "memcheck: $(basename "$test")"
-  if ! CVX_TEST_TMP=build/debug/tests valgrind --quiet --error-exitcode=1 --leak-check=full \
+  if ! CVX_TEST_TMP="$PWD/build/debug/tests" valgrind --quiet --error-exitcode=1 --leak-check=full \
         --errors-for-leak-kinds=definite,indirect "$test" --gtest_brief=1 \
         >"$test.memcheck.log" 2>&1; then
     echo "memcheck: $(basename "$test") FAILED"; tail -n 40 "$test.memcheck.log"; status=1
