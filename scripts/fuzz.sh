@@ -2,7 +2,8 @@
 # Runs every libFuzzer target of a build folder for a bounded time each.
 # CVX_FUZZ_JOBS runs that many targets at once (default 1).
 # CVX_FUZZ_MERGE=1 then merges what each run found into the committed seeds, keeping only the
-# inputs that add coverage (libFuzzer's -merge=1), so the seeds stay small.
+# inputs that reach code the seeds do not (a set cover over edges, not hit counts), so the seeds
+# stay small.
 set -euo pipefail
 build=${1:?build folder}
 seconds=${2:-20}
@@ -27,7 +28,8 @@ fuzz_one() {
     sed "s/^/fuzz: $name /"
   [ "${CVX_FUZZ_MERGE:-0}" = 1 ] || return 0
   mkdir -p "$seeds"
-  "$target" -merge=1 "$seeds" "$corpus" >"$build/fuzz/$name.merge.log" 2>&1
+  "$target" -set_cover_merge=1 -use_counters=0 "$seeds" "$corpus" \
+    >"$build/fuzz/$name.merge.log" 2>&1
   echo "fuzz: $name seeds now $(find "$seeds" -type f | wc -l) files, $(du -sk "$seeds" | cut -f1) KiB"
 }
 
