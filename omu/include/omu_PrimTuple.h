@@ -231,6 +231,8 @@ protected:
 
 private:
   void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
+  bool PlainDoubles(cow_2DArray<double>& block) const;
+  void ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray<double>& block);
 
   cow_List<omu_PrimHandle> m_PrimVector;
   cls_Uid m_TupleUid;

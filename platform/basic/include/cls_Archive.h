@@ -23,8 +23,9 @@
 /// number of threads may read it at once, since reading changes nothing.
 class BASIC_EXPORT cls_Archive {
 public:
-  /// The file format version this library writes and reads.
-  static constexpr std::uint32_t Version = 1;
+  /// The file format version this library writes; it reads this one and every earlier one.
+  /// Version 2 stores a block of doubles (cls_Value::Doubles) as one run of 8-byte numbers.
+  static constexpr std::uint32_t Version = 2;
   static constexpr int MaxDepth = 200;  ///< nesting of records and lists
 
   cls_Archive() = default;
