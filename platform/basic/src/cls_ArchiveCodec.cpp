@@ -67,6 +67,7 @@ private:
 class Encoder {
 public:
   std::string bytes;
+  bool blocks = false;  // a block of doubles was written: the file needs version 2
 
   template <class T>
   void Put(T value) {
@@ -122,6 +123,7 @@ private:
     for (const cls_Value& cell : matrix.cells) Value(cell);
   }
   void Data(const cls_Value::Doubles& block) {
+    blocks = true;
     Put<std::int32_t>(block.Rows());
     Put<std::int32_t>(block.Columns());
     const std::vector<double>& cells = block.Cells();
@@ -361,7 +363,7 @@ std::string cls_ArchiveCodec::Encode(const cls_Archive& archive) {
 
   Encoder header;
   header.bytes.append(Magic, sizeof Magic);
-  header.Put<std::uint32_t>(cls_Archive::Version);
+  header.Put<std::uint32_t>(file.blocks ? cls_Archive::Version : 1);
   header.Put<std::uint32_t>(cls_Crc32(payload));
   header.Put<std::uint64_t>(payload.size());
   file.bytes.replace(0, HeaderSize, header.bytes);
