@@ -5,8 +5,8 @@
 /// \class mdl_PropertyTable
 /// One block of tabular material or section data: a rows x columns table of doubles, one row
 /// per data point, and a flag that lets the first row be all zero. Persisted as "table" (a
-/// block of doubles, shared with the archive: writing copies no cell) and "allowEmptyFirstRow". Owners share one table through mdl_PropertyTableHld until one of them
-/// changes it.
+/// block of doubles, shared with the archive: writing copies no cell) and "allowEmptyFirstRow".
+/// Owners share one table through mdl_PropertyTableHld until one of them changes it.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>

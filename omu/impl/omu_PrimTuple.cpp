@@ -365,7 +365,9 @@ void omu_PrimTuple::ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray
   m_PrimVector = cow_List<omu_PrimHandle>(m_Size);
   std::vector<omu_PrimHandle>& slots = m_PrimVector.MutableVector();
   const std::vector<double>& cells = block.Cells();
-  for (std::size_t i = 0; i < cells.size(); ++i) slots[i] = omu_PrimHandle(new omu_PrimNumber(cells[i]));
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    slots[i] = omu_PrimHandle(new omu_PrimNumber(cells[i]));
+  }
 }
 
 void omu_PrimTuple::DBWrite(const cls_WriteVisitor& writer) const {
@@ -373,9 +375,10 @@ void omu_PrimTuple::DBWrite(const cls_WriteVisitor& writer) const {
   if (cow_2DArray<double> block; PlainDoubles(block)) {
     writer.Write("primVector", std::move(block));
   } else {
-    writer.WriteObject("primVector", cls_xcList(cls_Uid(), m_Size, [this](int i, const cls_WriteVisitor& item) {
-                         if (const omu_Primitive* element = Index(i)) element->DBWrite(item);
-                       }));
+    const auto writeItem = [this](int i, const cls_WriteVisitor& item) {
+      if (const omu_Primitive* element = Index(i)) element->DBWrite(item);
+    };
+    writer.WriteObject("primVector", cls_xcList(cls_Uid(), m_Size, writeItem));
   }
   writer.Write("size", m_Size);
   writer.Write("cursor", m_Cursor);

@@ -233,12 +233,15 @@ std::string FileOf(std::uint32_t version, std::string_view payload) {
 
 // Shapes on both sides of the checksum's 16- and 64-byte steps, special doubles among the cells.
 TEST(Archive, BlocksOfDoublesRoundTripBitForBitAtEightBytesEach) {
-  const std::uint64_t specials[] = {0x7ff8000000000abcull, 0x8000000000000000ull, 1, 0x3fb999999999999aull};
+  const std::uint64_t specials[] = {0x7ff8000000000abcull, 0x8000000000000000ull, 1,
+                                    0x3fb999999999999aull};
   const std::pair<int, int> shapes[] = {{0, 0}, {1, 0}, {1, 1}, {3, 2}, {1, 7}, {9, 13}, {1000, 3}};
   for (const auto& [rows, columns] : shapes) {
     cls_Value::Doubles block(rows, columns);
     std::vector<double>& cells = block.MutableCells();
-    for (std::size_t i = 0; i < cells.size(); ++i) cells[i] = std::bit_cast<double>(specials[i % 4] + i / 4);
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      cells[i] = std::bit_cast<double>(specials[i % 4] + i / 4);
+    }
     cls_Archive archive;
     archive.NewRoot().WriteValue(block);
     const std::string bytes = Bytes(archive);
@@ -262,10 +265,13 @@ TEST(ArchiveFile, AMalformedBlockOfDoublesIsRefusedWithWhatAndWhere) {
   } cases[] = {
       {2, one + kind + "\1\0\0\0\2\0\0\0"s + std::string(8, '\0'),
        "archive 'test': an array larger than the data left at byte 37"},
-      {2, one + kind + "\xff\xff\xff\xff\1\0\0\0"s, "archive 'test': an array of negative size at byte 37"},
+      {2, one + kind + "\xff\xff\xff\xff\1\0\0\0"s,
+       "archive 'test': an array of negative size at byte 37"},
       {2, one + kind + "\1\0\0\0"s, "archive 'test': the data ends early (truncated) at byte 33"},
       {1, one + kind + "\0\0\0\0\0\0\0\0"s, "archive 'test': an unknown value kind at byte 28"},
       {3, one + "\0"s, "archive 'test': an unsupported format version at byte 12"},
   };
-  for (const auto& c : cases) EXPECT_EQ(MessageOf(FileOf(c.version, c.payload)), c.message) << c.message;
+  for (const auto& c : cases) {
+    EXPECT_EQ(MessageOf(FileOf(c.version, c.payload)), c.message) << c.message;
+  }
 }

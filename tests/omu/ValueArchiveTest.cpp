@@ -92,7 +92,9 @@ bool WrittenAsBlock(const omu_Primitive& value) {
   cls_Archive archive;
   value.DBWrite(archive.NewRoot());
   cls_ReadVisitor level = archive.Root(0);
-  if (level.TypeId() != omu_PrimTuple::TypeId()) level = cls_ReadVisitor(level, omu_PrimTuple::TypeId());
+  if (level.TypeId() != omu_PrimTuple::TypeId()) {
+    level = cls_ReadVisitor(level, omu_PrimTuple::TypeId());
+  }
   return level.Field("primVector").As<cls_Value::Doubles>() != nullptr;
 }
 }  // namespace
@@ -105,15 +107,18 @@ TEST(ValueArchive, TuplesOfPlainDoublesAreOneBlockOfEightBytesAPerNumber) {
   list.Put(-0.0);
   omu_PrimTuple gap(2);
   gap.Put(1.0);
+  const auto pair = [](omu_Primitive* second) {
+    return std::make_unique<omu_PrimTuple>(TupleOf({new omu_PrimNumber(0.1), second}));
+  };
   const struct {
     const char* name;
     std::unique_ptr<omu_Primitive> value;
     bool block;
   } cases[] = {
-      {"doubles", std::make_unique<omu_PrimTuple>(TupleOf({new omu_PrimNumber(0.1), new omu_PrimNumber(1e300)})), true},
+      {"doubles", pair(new omu_PrimNumber(1e300)), true},
       {"a list of doubles", std::make_unique<omu_PrimList>(list), true},
-      {"a float among doubles", std::make_unique<omu_PrimTuple>(TupleOf({new omu_PrimNumber(0.1), new omu_PrimNumber(2.5f)})), false},
-      {"an int among doubles", std::make_unique<omu_PrimTuple>(TupleOf({new omu_PrimNumber(0.1), new omu_PrimNumber(2)})), false},
+      {"a float among doubles", pair(new omu_PrimNumber(2.5f)), false},
+      {"an int among doubles", pair(new omu_PrimNumber(2)), false},
       {"an empty slot", std::make_unique<omu_PrimTuple>(gap), false},
       {"no elements", std::make_unique<omu_PrimTuple>(0), false},
   };

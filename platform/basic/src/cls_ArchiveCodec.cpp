@@ -24,7 +24,9 @@ U LittleEndian(U bits) noexcept {
     return bits;
   } else {
     U swapped = 0;
-    for (std::size_t i = 0; i < sizeof(U); ++i) swapped = U(swapped << 8 | (bits >> (8 * i) & 0xFFu));
+    for (std::size_t i = 0; i < sizeof(U); ++i) {
+      swapped = U(swapped << 8 | (bits >> (8 * i) & 0xFFu));
+    }
     return swapped;
   }
 }
@@ -242,7 +244,9 @@ private:
     const auto columns = Get<std::int32_t>();
     if (rows < 0 || columns < 0) Fail("an array of negative size");
     const auto cells = static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(columns);
-    if (cells > (m_Bytes.size() - m_At) / sizeof(double)) Fail("an array larger than the data left");
+    if (cells > (m_Bytes.size() - m_At) / sizeof(double)) {
+      Fail("an array larger than the data left");
+    }
     cls_Value::Doubles block(rows, columns);
     std::vector<double>& values = block.MutableCells();
     if constexpr (std::endian::native == std::endian::little) {

@@ -20,7 +20,9 @@ const Tables& SliceTables() noexcept {
       t[0][i] = c;
     }
     for (std::size_t n = 1; n < 8; ++n) {
-      for (std::size_t i = 0; i < 256; ++i) t[n][i] = (t[n - 1][i] >> 8) ^ t[0][t[n - 1][i] & 0xFFu];
+      for (std::size_t i = 0; i < 256; ++i) {
+        t[n][i] = (t[n - 1][i] >> 8) ^ t[0][t[n - 1][i] & 0xFFu];
+      }
     }
     return t;
   }();
