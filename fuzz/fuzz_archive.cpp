@@ -16,9 +16,13 @@
 #include <string>
 
 namespace {
-// A file whose header fits the payload: the header of an empty archive, re-checksummed.
+// A file of the newest version whose header fits the payload: the header of an empty archive,
+// versioned and re-checksummed.
 std::string WithHeader(std::string_view payload) {
   std::string file = cls_Archive().ToBytes().substr(0, 24);
+  for (int i = 0; i < 4; ++i) {
+    file[8 + i] = static_cast<char>((cls_Archive::Version >> (8 * i)) & 0xFF);
+  }
   std::uint32_t crc = 0xFFFFFFFFu;
   for (unsigned char b : payload) {
     crc ^= b;

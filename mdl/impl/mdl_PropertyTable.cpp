@@ -95,7 +95,17 @@ private:
 
 mdl_PropertyTable::mdl_PropertyTable(const cls_ReadVisitor& reader)
     : m_AllowEmptyFirstRow(reader.Get<bool>("allowEmptyFirstRow")) {
-  const cls_Matrix* matrix = reader.Field("table").As<cls_Matrix>();
+  const cls_Value& table = reader.Field("table");
+  if (const auto* block = table.As<cls_Value::Doubles>()) {
+    m_Table = *block;  // shared, not copied
+  } else {
+    ReadCells(reader, table.As<cls_Matrix>());
+  }
+  m_Uid = reader.Uid();
+}
+
+// Tables as archives before format version 2 hold them: a value per cell.
+void mdl_PropertyTable::ReadCells(const cls_ReadVisitor& reader, const cls_Matrix* matrix) {
   if (!matrix) reader.Fail("field 'table' is not a two-dimensional array");
   const std::size_t cells = static_cast<std::size_t>(std::max(matrix->rows, 0)) *
                             static_cast<std::size_t>(std::max(matrix->columns, 0));
@@ -109,16 +119,13 @@ mdl_PropertyTable::mdl_PropertyTable(const cls_ReadVisitor& reader)
     if (!value) reader.Fail("field 'table' holds something other than doubles");
     values[i] = *value;
   }
-  m_Uid = reader.Uid();
 }
 
 mdl_PropertyTable::~mdl_PropertyTable() = default;
 
 void mdl_PropertyTable::DBWrite(const cls_WriteVisitor& writer) const {
   if (!writer.StartWrite(TypeId(), m_Uid)) return;
-  cls_Matrix matrix{Rows(), Columns(), {}};
-  matrix.cells.assign(m_Table.Cells().begin(), m_Table.Cells().end());
-  writer.Write("table", std::move(matrix));
+  writer.Write("table", m_Table);  // one block, shared with the archive until either changes
   writer.Write("allowEmptyFirstRow", m_AllowEmptyFirstRow);
 }
 

@@ -4,9 +4,9 @@
 
 /// \class mdl_PropertyTable
 /// One block of tabular material or section data: a rows x columns table of doubles, one row
-/// per data point, and a flag that lets the first row be all zero. Persisted as "table" and
-/// "allowEmptyFirstRow". Owners share one table through mdl_PropertyTableHld until one of them
-/// changes it.
+/// per data point, and a flag that lets the first row be all zero. Persisted as "table" (a
+/// block of doubles, shared with the archive: writing copies no cell) and "allowEmptyFirstRow".
+/// Owners share one table through mdl_PropertyTableHld until one of them changes it.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
@@ -14,6 +14,7 @@
 #include <cow_COW.h>
 
 class cls_ClassRegistrar;
+struct cls_Matrix;
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 
@@ -81,6 +82,8 @@ public:
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
 
 private:
+  void ReadCells(const cls_ReadVisitor& reader, const cls_Matrix* matrix);
+
   cow_2DArray<double> m_Table;
   bool m_AllowEmptyFirstRow = false;
   cls_Uid m_Uid = cls_Uid::AllocateUid();

@@ -63,9 +63,13 @@ omu_PrimTuple::omu_PrimTuple(const cls_ReadVisitor& reader)
   for (const int counter : {m_Cursor, m_ReqCount, m_ArgCount, m_ErrorArg, m_NumGets}) {
     if (counter < 0 || counter == INT_MAX) reader.Fail("a tuple counter is out of range");
   }
-  const omu_PrimTuple items(cls_xcList(reader.Nested("primVector")), '(');
-  if (items.Size() != m_Size) reader.Fail("the tuple's size differs from its element count");
-  m_PrimVector = items.m_PrimVector;
+  if (const auto* block = reader.Field("primVector").As<cls_Value::Doubles>()) {
+    ReadDoubles(reader, *block);
+  } else {
+    const omu_PrimTuple items(cls_xcList(reader.Nested("primVector")), '(');
+    if (items.Size() != m_Size) reader.Fail("the tuple's size differs from its element count");
+    m_PrimVector = items.m_PrimVector;
+  }
   m_TupleUid = reader.Uid();
 }
 
@@ -338,11 +342,44 @@ void omu_PrimTuple::Get(bool& out) { GetValue(out); }
 
 // --- Persistence --------------------------------------------------------------------------
 
+// A tuple of plain doubles is written as one block of them instead of a record per number:
+// 8 bytes a number in a file, and no object per number while writing.
+bool omu_PrimTuple::PlainDoubles(cow_2DArray<double>& block) const {
+  if (m_Size == 0) return false;
+  block.Resize(1, m_Size);
+  double* cells = block.MutableCells().data();
+  for (int i = 0; i < m_Size; ++i) {
+    const omu_Primitive* element = m_PrimVector[i].ConstGet();
+    if (!element || element->DynTypeId() != omu_PrimNumber::TypeId()) return false;
+    const auto& number = static_cast<const omu_PrimNumber&>(*element);
+    if (!number.IsPlainDouble()) return false;
+    cells[i] = number.Value();
+  }
+  return true;
+}
+
+void omu_PrimTuple::ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray<double>& block) {
+  if (block.Rows() != 1 || block.Columns() != m_Size) {
+    reader.Fail("the tuple's size differs from its element count");
+  }
+  m_PrimVector = cow_List<omu_PrimHandle>(m_Size);
+  std::vector<omu_PrimHandle>& slots = m_PrimVector.MutableVector();
+  const std::vector<double>& cells = block.Cells();
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    slots[i] = omu_PrimHandle(new omu_PrimNumber(cells[i]));
+  }
+}
+
 void omu_PrimTuple::DBWrite(const cls_WriteVisitor& writer) const {
   if (!writer.StartLevel<omu_PrimSequence>(TypeId(), m_TupleUid, *this)) return;
-  writer.WriteObject("primVector", cls_xcList(cls_Uid(), m_Size, [this](int i, const cls_WriteVisitor& item) {
-                       if (const omu_Primitive* element = Index(i)) element->DBWrite(item);
-                     }));
+  if (cow_2DArray<double> block; PlainDoubles(block)) {
+    writer.Write("primVector", std::move(block));
+  } else {
+    const auto writeItem = [this](int i, const cls_WriteVisitor& item) {
+      if (const omu_Primitive* element = Index(i)) element->DBWrite(item);
+    };
+    writer.WriteObject("primVector", cls_xcList(cls_Uid(), m_Size, writeItem));
+  }
   writer.Write("size", m_Size);
   writer.Write("cursor", m_Cursor);
   writer.Write("reqcount", m_ReqCount);

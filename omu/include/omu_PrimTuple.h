@@ -7,7 +7,9 @@
 /// then one typed Get per argument (Optional() marks where optional ones start), then End,
 /// which raises the first fault found. Get never raises: a missing or mistyped value leaves
 /// its output untouched and the fault is kept for End. Elements are copy-on-write handles,
-/// so copying a tuple is O(1) whatever its size.
+/// so copying a tuple is O(1) whatever its size. In an archive, "primVector" holds a record
+/// per element or, when every element is a plain double (omu_PrimNumber::IsPlainDouble), the
+/// numbers as one block of doubles: 8 bytes each, read back as plain doubles.
 #include <cow_COW.h>
 #include <omu_Binding.h>
 #include <omu_PrimLeaf.h>
@@ -231,6 +233,8 @@ protected:
 
 private:
   void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
+  bool PlainDoubles(cow_2DArray<double>& block) const;
+  void ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray<double>& block);
 
   cow_List<omu_PrimHandle> m_PrimVector;
   cls_Uid m_TupleUid;

@@ -61,6 +61,8 @@ protected:
   omu_Primitive(const omu_Primitive&) = default;
   omu_Primitive& operator=(const omu_Primitive&) = default;
   ///@}
+  /// True when this level has an identity to be written under (one read from an archive).
+  bool HasUid() const noexcept { return !m_Uid.IsNull(); }
 
 private:
   char m_Type;

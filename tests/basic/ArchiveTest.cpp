@@ -203,3 +203,75 @@ TEST(ArchiveFile, DumpNamesClassesAndFields) {
   EXPECT_NE(dump.str().find("nex_AssertException (0x1f0004)"), std::string::npos) << dump.str();
   EXPECT_NE(dump.str().find("condition = \"x != 0\""), std::string::npos) << dump.str();
 }
+
+namespace {
+std::uint32_t BitwiseCrc(std::string_view bytes) {
+  std::uint32_t crc = 0xFFFFFFFFu;
+  for (unsigned char b : bytes) {
+    crc ^= b;
+    for (int k = 0; k < 8; ++k) crc = (crc & 1) ? 0xEDB88320u ^ (crc >> 1) : crc >> 1;
+  }
+  return ~crc;
+}
+
+std::uint32_t U32At(std::string_view bytes, std::size_t at) {
+  std::uint32_t value = 0;
+  for (int i = 3; i >= 0; --i) value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+  return value;
+}
+
+// A file of the given version around payload, its header filled in as the writer would.
+std::string FileOf(std::uint32_t version, std::string_view payload) {
+  std::string file = cls_Archive().ToBytes().substr(0, 24);
+  const std::uint64_t fields[] = {version, BitwiseCrc(payload), payload.size()};
+  for (int i = 0; i < 4; ++i) file[8 + i] = static_cast<char>(fields[0] >> 8 * i);
+  for (int i = 0; i < 4; ++i) file[12 + i] = static_cast<char>(fields[1] >> 8 * i);
+  for (int i = 0; i < 8; ++i) file[16 + i] = static_cast<char>(fields[2] >> 8 * i);
+  return file.append(payload);
+}
+}  // namespace
+
+// Shapes on both sides of the checksum's 16- and 64-byte steps, special doubles among the cells.
+TEST(Archive, BlocksOfDoublesRoundTripBitForBitAtEightBytesEach) {
+  const std::uint64_t specials[] = {0x7ff8000000000abcull, 0x8000000000000000ull, 1,
+                                    0x3fb999999999999aull};
+  const std::pair<int, int> shapes[] = {{0, 0}, {1, 0}, {1, 1}, {3, 2}, {1, 7}, {9, 13}, {1000, 3}};
+  for (const auto& [rows, columns] : shapes) {
+    cls_Value::Doubles block(rows, columns);
+    std::vector<double>& cells = block.MutableCells();
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      cells[i] = std::bit_cast<double>(specials[i % 4] + i / 4);
+    }
+    cls_Archive archive;
+    archive.NewRoot().WriteValue(block);
+    const std::string bytes = Bytes(archive);
+    const std::string shape = std::to_string(rows) + " x " + std::to_string(columns);
+    EXPECT_EQ(bytes.size(), 24 + 4 + 1 + 8 + 8 * cells.size()) << shape;
+    EXPECT_EQ(U32At(bytes, 12), BitwiseCrc(std::string_view(bytes).substr(24))) << shape;
+    const cls_Archive loaded = SaveAndLoad(archive, "doubles");
+    EXPECT_TRUE(Identical(loaded.RootValue(0), block)) << shape;
+    EXPECT_EQ(Bytes(loaded), bytes) << shape;
+  }
+}
+
+TEST(ArchiveFile, AMalformedBlockOfDoublesIsRefusedWithWhatAndWhere) {
+  using namespace std::string_literals;
+  const std::string one = "\1\0\0\0"s;
+  const std::string kind = "\x0e"s;
+  const struct {
+    std::uint32_t version;
+    std::string payload;
+    const char* message;
+  } cases[] = {
+      {2, one + kind + "\1\0\0\0\2\0\0\0"s + std::string(8, '\0'),
+       "archive 'test': an array larger than the data left at byte 37"},
+      {2, one + kind + "\xff\xff\xff\xff\1\0\0\0"s,
+       "archive 'test': an array of negative size at byte 37"},
+      {2, one + kind + "\1\0\0\0"s, "archive 'test': the data ends early (truncated) at byte 33"},
+      {1, one + kind + "\0\0\0\0\0\0\0\0"s, "archive 'test': an unknown value kind at byte 28"},
+      {3, one + "\0"s, "archive 'test': an unsupported format version at byte 12"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(MessageOf(FileOf(c.version, c.payload)), c.message) << c.message;
+  }
+}

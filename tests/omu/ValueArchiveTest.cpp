@@ -5,6 +5,7 @@
 #include "OmuTestSupport.h"
 
 #include <mdl_Model.h>
+#include <mdl_PropertyTable.h>
 #include <omu_PrimArray.h>
 #include <omu_PrimComplex.h>
 #include <omu_PrimEnum.h>
@@ -14,6 +15,7 @@
 #include <omu_PrimTranslatedString.h>
 #include <omu_PrimType.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <vector>
@@ -82,4 +84,70 @@ TEST(ValueArchive, EveryKindReadsBackAsItWasWritten) {
     }
     std::ofstream(std::string(folder) + "/values-all", std::ios::binary) << archive.ToBytes();
   }
+}
+
+namespace {
+// Whether the tuple level of an archived sequence holds its elements as one block of doubles.
+bool WrittenAsBlock(const omu_Primitive& value) {
+  cls_Archive archive;
+  value.DBWrite(archive.NewRoot());
+  cls_ReadVisitor level = archive.Root(0);
+  if (level.TypeId() != omu_PrimTuple::TypeId()) {
+    level = cls_ReadVisitor(level, omu_PrimTuple::TypeId());
+  }
+  return level.Field("primVector").As<cls_Value::Doubles>() != nullptr;
+}
+}  // namespace
+
+// Only numbers that hold nothing but a double go into a block; any other element keeps the
+// tuple a record per element, and either form reads back equal, writing the same bytes.
+TEST(ValueArchive, TuplesOfPlainDoublesAreOneBlockOfEightBytesAPerNumber) {
+  omu_PrimList list(2, 3, '(');
+  list.Put(1.5);
+  list.Put(-0.0);
+  omu_PrimTuple gap(2);
+  gap.Put(1.0);
+  const auto pair = [](omu_Primitive* second) {
+    return std::make_unique<omu_PrimTuple>(TupleOf({new omu_PrimNumber(0.1), second}));
+  };
+  const struct {
+    const char* name;
+    std::unique_ptr<omu_Primitive> value;
+    bool block;
+  } cases[] = {
+      {"doubles", pair(new omu_PrimNumber(1e300)), true},
+      {"a list of doubles", std::make_unique<omu_PrimList>(list), true},
+      {"a float among doubles", pair(new omu_PrimNumber(2.5f)), false},
+      {"an int among doubles", pair(new omu_PrimNumber(2)), false},
+      {"an empty slot", std::make_unique<omu_PrimTuple>(gap), false},
+      {"no elements", std::make_unique<omu_PrimTuple>(0), false},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(WrittenAsBlock(*c.value), c.block) << c.name;
+    const auto back = RoundTrip<omu_Primitive>(*c.value, "tuples");
+    EXPECT_EQ(back->DynTypeId(), c.value->DynTypeId()) << c.name;
+    EXPECT_TRUE(*back == *c.value) << c.name;
+    EXPECT_EQ(SoloBytes(*back), SoloBytes(*c.value)) << c.name;
+  }
+  omu_PrimTuple large(1000);
+  for (int i = 0; i < 1000; ++i) large.Put(i * 0.5);
+  EXPECT_LT(SoloBytes(large).size(), 8 * 1000 + 400u);
+}
+
+// Written by format version 1, which stored a record per number: a table and a tuple.
+TEST(ValueArchive, ArchivesOfFormatVersionOneStillLoad) {
+  const cls_Archive loaded = cls_Archive::Load(CVX_TEST_FIXTURES "/table-and-tuple-v1.cvxarch");
+  ASSERT_EQ(loaded.RootCount(), 2);
+  const double values[] = {0.1, -2.5, 1e300, -0.0, 5e-324, 42};
+  cow_2DArray<double> cells(2, 3);
+  omu_PrimTuple tuple(6);
+  for (int i = 0; i < 6; ++i) {
+    cells.Set(i / 3, i % 3, values[i]);
+    tuple.Put(values[i]);
+  }
+  EXPECT_EQ(*loaded.Read<mdl_PropertyTable>(0), mdl_PropertyTable(cells));
+  const auto back = loaded.Read<omu_PrimTuple>(1);
+  EXPECT_TRUE(*back == tuple);
+  EXPECT_TRUE(std::signbit(dynamic_cast<const omu_PrimNumber&>(*back->Index(3)).Value()));
+  EXPECT_EQ(SoloBytes(*back), SoloBytes(tuple));
 }

@@ -4,9 +4,11 @@
 
 /// \class cls_Value
 /// One field value of a persisted record: a scalar, a text, an enumerator name, a list, a
-/// two-dimensional array, a nested record, or a reference (by uid) to a record written earlier.
+/// two-dimensional array, a nested record, a reference (by uid) to a record written earlier,
+/// or a block of doubles.
 #include <BASIC_Export.h>
 #include <cls_Uid.h>
+#include <cow_2DArray.h>
 #include <cow_String.h>
 
 #include <cstdint>
@@ -45,14 +47,19 @@ class cls_Value {
 public:
   /// The alternatives, in the order of Data's types (NONE is the empty value).
   enum Kind : std::uint8_t {
-    NONE, BOOL, CHAR, INT, UINT, DOUBLE, TEXT, ENUM, LIST, MATRIX, RECORD, REF, FLOAT, INT64
+    NONE, BOOL, CHAR, INT, UINT, DOUBLE, TEXT, ENUM, LIST, MATRIX, RECORD, REF, FLOAT, INT64,
+    DOUBLES
   };
   /// A list value.
   using List = std::vector<cls_Value>;
+  /// A block of doubles, rows x columns: numeric data kept as one run rather than a value per
+  /// number, so that a million of them cost one copy (none when shared, as it is copy-on-write)
+  /// and 8 bytes each in a file.
+  using Doubles = cow_2DArray<double>;
   /// The value, one alternative per Kind.
   using Data = std::variant<std::monostate, bool, char, std::int32_t, std::uint32_t, double,
                             cow_String, cls_EnumName, List, cls_Matrix,
-                            std::shared_ptr<cls_Record>, cls_Ref, float, std::int64_t>;
+                            std::shared_ptr<cls_Record>, cls_Ref, float, std::int64_t, Doubles>;
 
   cls_Value() noexcept = default;
   /// A value of any of Data's alternatives.

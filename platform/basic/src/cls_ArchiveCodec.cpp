@@ -1,9 +1,9 @@
 #include "cls_ArchiveCodec.h"
+#include "cls_Crc32.h"
 
 #include <cls_MetadataRegistrar.h>
 #include <nex_TextException.h>
 
-#include <array>
 #include <bit>
 #include <cstring>
 #include <ostream>
@@ -12,19 +12,23 @@
 namespace {
 constexpr const char* kSource = "cls/impl/cls_ArchiveCodec";
 
-std::uint32_t Crc32(std::string_view bytes) {
-  static const auto table = [] {
-    std::array<std::uint32_t, 256> t{};
-    for (std::uint32_t i = 0; i < 256; ++i) {
-      std::uint32_t c = i;
-      for (int k = 0; k < 8; ++k) c = (c & 1) ? 0xEDB88320u ^ (c >> 1) : c >> 1;
-      t[i] = c;
+// The unsigned integer of T's size, in which numbers are stored little-endian.
+template <class T>
+using Bits = std::make_unsigned_t<
+    std::conditional_t<std::is_floating_point_v<T>,
+                       std::conditional_t<sizeof(T) == 8, std::int64_t, std::int32_t>, T>>;
+
+template <class U>
+U LittleEndian(U bits) noexcept {
+  if constexpr (std::endian::native == std::endian::little || sizeof(U) == 1) {
+    return bits;
+  } else {
+    U swapped = 0;
+    for (std::size_t i = 0; i < sizeof(U); ++i) {
+      swapped = U(swapped << 8 | (bits >> (8 * i) & 0xFFu));
     }
-    return t;
-  }();
-  std::uint32_t crc = 0xFFFFFFFFu;
-  for (unsigned char b : bytes) crc = table[(crc ^ b) & 0xFFu] ^ (crc >> 8);
-  return crc ^ 0xFFFFFFFFu;
+    return swapped;
+  }
 }
 
 // Numbers the identities of one archive file 1, 2, ... in write order, so its bytes depend
@@ -65,19 +69,12 @@ private:
 class Encoder {
 public:
   std::string bytes;
+  bool blocks = false;  // a block of doubles was written: the file needs version 2
 
   template <class T>
   void Put(T value) {
-    using U = std::make_unsigned_t<std::conditional_t<std::is_floating_point_v<T>,
-                                                      std::conditional_t<sizeof(T) == 8,
-                                                                         std::int64_t,
-                                                                         std::int32_t>,
-                                                      T>>;
-    U bits;
-    std::memcpy(&bits, &value, sizeof bits);
-    for (std::size_t i = 0; i < sizeof bits; ++i) {
-      bytes.push_back(static_cast<char>((bits >> (8 * i)) & 0xFFu));
-    }
+    const auto bits = LittleEndian(std::bit_cast<Bits<T>>(value));
+    bytes.append(reinterpret_cast<const char*>(&bits), sizeof bits);
   }
   void Text(std::string_view text) {
     Put(static_cast<std::uint32_t>(text.size()));
@@ -127,6 +124,17 @@ private:
     Put<std::int32_t>(matrix.columns);
     for (const cls_Value& cell : matrix.cells) Value(cell);
   }
+  void Data(const cls_Value::Doubles& block) {
+    blocks = true;
+    Put<std::int32_t>(block.Rows());
+    Put<std::int32_t>(block.Columns());
+    const std::vector<double>& cells = block.Cells();
+    if constexpr (std::endian::native == std::endian::little) {
+      bytes.append(reinterpret_cast<const char*>(cells.data()), cells.size() * sizeof(double));
+    } else {
+      for (const double cell : cells) Put(cell);
+    }
+  }
   void Data(const std::shared_ptr<cls_Record>&) {}  // written by Record
   void Data(const cls_Ref& ref) { Put<std::uint64_t>(m_Ids.OfReference(ref.uid)); }
 
@@ -139,6 +147,9 @@ public:
           bool (*claim)(cls_Archive&, const cls_Uid&, cls_Record*))
       : m_Bytes(bytes), m_Origin(origin), m_Base(offset), m_Archive(archive), m_Claim(claim) {}
 
+  // The file's version: what it may hold.
+  std::uint32_t version = cls_Archive::Version;
+
   [[noreturn]] void Fail(const char* what) const {
     NEX_THROW(nex_TextException(atr_StringBase::Format(
                   "archive '%.*s': %s at byte %zu", static_cast<int>(m_Origin.size()),
@@ -149,19 +160,10 @@ public:
   template <class T>
   T Get() {
     Need(sizeof(T));
-    using U = std::make_unsigned_t<std::conditional_t<std::is_floating_point_v<T>,
-                                                      std::conditional_t<sizeof(T) == 8,
-                                                                         std::int64_t,
-                                                                         std::int32_t>,
-                                                      T>>;
-    U bits = 0;
-    for (std::size_t i = 0; i < sizeof bits; ++i) {
-      bits |= static_cast<U>(static_cast<unsigned char>(m_Bytes[m_At + i])) << (8 * i);
-    }
+    Bits<T> bits;
+    std::memcpy(&bits, m_Bytes.data() + m_At, sizeof bits);
     m_At += sizeof bits;
-    T value;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
+    return std::bit_cast<T>(LittleEndian(bits));
   }
   // A count of items that each take at least one byte: more than the bytes left is corrupt.
   std::size_t Count() {
@@ -194,6 +196,9 @@ public:
       case cls_Value::MATRIX: return Matrix(depth);
       case cls_Value::RECORD: return Record(depth);
       case cls_Value::REF: return cls_Ref{Fresh(Get<std::uint64_t>())};
+      case cls_Value::DOUBLES:
+        if (version >= 2) return Doubles();
+        break;
     }
     --m_At;
     Fail("an unknown value kind");
@@ -233,6 +238,24 @@ private:
     matrix.cells.resize(static_cast<std::size_t>(cells));
     for (cls_Value& cell : matrix.cells) cell = Value(depth + 1);
     return matrix;
+  }
+  cls_Value Doubles() {
+    const auto rows = Get<std::int32_t>();
+    const auto columns = Get<std::int32_t>();
+    if (rows < 0 || columns < 0) Fail("an array of negative size");
+    const auto cells = static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(columns);
+    if (cells > (m_Bytes.size() - m_At) / sizeof(double)) {
+      Fail("an array larger than the data left");
+    }
+    cls_Value::Doubles block(rows, columns);
+    std::vector<double>& values = block.MutableCells();
+    if constexpr (std::endian::native == std::endian::little) {
+      if (cells != 0) std::memcpy(values.data(), m_Bytes.data() + m_At, cells * sizeof(double));
+      m_At += cells * sizeof(double);
+    } else {
+      for (double& value : values) value = Get<double>();
+    }
+    return block;
   }
   cls_Value Record(int depth) {
     auto record = std::make_shared<cls_Record>();
@@ -308,6 +331,13 @@ struct DumpVisitor {
     out << "array " << matrix.rows << " x " << matrix.columns << '\n';
     Items(matrix.cells);
   }
+  void operator()(const cls_Value::Doubles& block) const {
+    out << "array " << block.Rows() << " x " << block.Columns() << " of doubles\n";
+    const std::string pad(static_cast<std::size_t>(indent + 2), ' ');
+    for (std::size_t i = 0; i < block.Cells().size(); ++i) {
+      out << pad << '[' << i << "] " << atr_StringBase(block.Cells()[i]).View() << '\n';
+    }
+  }
   void operator()(const std::shared_ptr<cls_Record>& record) const {
     DumpRecord(*record, out, indent);
   }
@@ -327,16 +357,21 @@ void DumpValue(const cls_Value& value, std::ostream& out, int indent) {
 }  // namespace
 
 std::string cls_ArchiveCodec::Encode(const cls_Archive& archive) {
-  Encoder payload;
-  payload.Put(static_cast<std::uint32_t>(archive.m_Roots.size()));
-  for (const auto& root : archive.m_Roots) payload.Value(*root);
-
+  // The header goes in front of the payload in the same buffer, filled in once the payload's
+  // size and checksum are known, so the payload is never copied.
   Encoder file;
-  file.bytes.append(Magic, sizeof Magic);
-  file.Put<std::uint32_t>(cls_Archive::Version);
-  file.Put<std::uint32_t>(Crc32(payload.bytes));
-  file.Put<std::uint64_t>(payload.bytes.size());
-  return file.bytes + payload.bytes;
+  file.bytes.resize(HeaderSize);
+  file.Put(static_cast<std::uint32_t>(archive.m_Roots.size()));
+  for (const auto& root : archive.m_Roots) file.Value(*root);
+  const std::string_view payload = std::string_view(file.bytes).substr(HeaderSize);
+
+  Encoder header;
+  header.bytes.append(Magic, sizeof Magic);
+  header.Put<std::uint32_t>(file.blocks ? cls_Archive::Version : 1);
+  header.Put<std::uint32_t>(cls_Crc32(payload));
+  header.Put<std::uint64_t>(payload.size());
+  file.bytes.replace(0, HeaderSize, header.bytes);
+  return std::move(file.bytes);
 }
 
 cls_Archive cls_ArchiveCodec::Decode(std::string_view bytes, std::string_view origin) {
@@ -350,7 +385,7 @@ cls_Archive cls_ArchiveCodec::Decode(std::string_view bytes, std::string_view or
   }
   (void)header.Get<std::uint64_t>();  // the magic
   const auto version = header.Get<std::uint32_t>();
-  if (version != cls_Archive::Version) header.Fail("an unsupported format version");
+  if (version < 1 || version > cls_Archive::Version) header.Fail("an unsupported format version");
   const auto checksum = header.Get<std::uint32_t>();
   const auto size = header.Get<std::uint64_t>();
   if (size != bytes.size() - HeaderSize) {
@@ -358,9 +393,10 @@ cls_Archive cls_ArchiveCodec::Decode(std::string_view bytes, std::string_view or
                                                  : "extra bytes after the data");
   }
   const std::string_view payload = bytes.substr(HeaderSize);
-  if (Crc32(payload) != checksum) header.Fail("the checksum does not match (corrupt file)");
+  if (cls_Crc32(payload) != checksum) header.Fail("the checksum does not match (corrupt file)");
 
   Decoder decoder(payload, origin, HeaderSize, archive, claim);
+  decoder.version = version;
   const std::size_t roots = decoder.Count();
   for (std::size_t i = 0; i < roots; ++i) {
     archive.m_Roots.push_back(std::make_unique<cls_Value>(decoder.Value(0)));

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 
 const char* cls_Value::KindName(Kind kind) noexcept {
   static constexpr const char* names[] = {"nothing", "a bool",   "a character", "an int",
                                           "an unsigned int", "a double", "a text",
                                           "an enumerator",   "a list",   "an array",
                                           "an object",       "a reference", "a float",
-                                          "a 64-bit int"};
+                                          "a 64-bit int",    "an array of doubles"};
   return kind < std::size(names) ? names[kind] : "an unknown value";
 }
 
@@ -23,6 +24,10 @@ bool SameData(const T& a, const T& b) noexcept {
                       [](const cls_Value& x, const cls_Value& y) { return Identical(x, y); });
   } else if constexpr (std::is_same_v<T, cls_Matrix>) {
     return a.rows == b.rows && a.columns == b.columns && SameData(a.cells, b.cells);
+  } else if constexpr (std::is_same_v<T, cls_Value::Doubles>) {
+    return a.Rows() == b.Rows() && a.Columns() == b.Columns() &&
+           (a.Cells().empty() || std::memcmp(a.Cells().data(), b.Cells().data(),
+                                             a.Cells().size() * sizeof(double)) == 0);
   } else if constexpr (std::is_same_v<T, std::shared_ptr<cls_Record>>) {
     return a == b || Identical(*a, *b);
   } else {
