@@ -4,10 +4,12 @@
 
 /// \class omu_Primitive
 /// The root of every value that crosses the scripting boundary. Each concrete kind stores a
-/// one-character type code, set by its constructor and never changed.
+/// one-character type code, set by its constructor and never changed. A value carries the share
+/// count of the copy-on-write handles on it (cow_Counted), so a held value is one allocation.
 #include <CVX_Export.h>
 #include <UTI_Modules.h>
 #include <cls_Uid.h>
+#include <cow_Counted.h>
 #include <cow_String.h>
 
 #include <concepts>
@@ -17,7 +19,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class omu_PrimVisitor;
 
-class CVX_EXPORT omu_Primitive {
+class CVX_EXPORT omu_Primitive : public cow_Counted {
 public:
   virtual ~omu_Primitive();
   /// The kind's name in messages ("primitive" here; "int", "string", ...).
