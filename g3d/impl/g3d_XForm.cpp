@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <initializer_list>
 #include <utility>
 
 #if defined(__SSE__) || defined(_M_X64)
@@ -17,12 +18,10 @@ constexpr double kDegreesToRadians = 0.017453292519943295;
 using Matrix = float[4][4];
 using WideMatrix = double[4][4];
 
-// Every element has a finite float form.
-bool FitsFloat(const WideMatrix& m) noexcept {
-  for (const auto& row : m) {
-    for (const double value : row) {
-      if (!(std::fabs(value) <= 3.4028234663852886e38)) return false;
-    }
+// Every value has a finite float form.
+bool FitsFloat(std::initializer_list<double> values) noexcept {
+  for (const double value : values) {
+    if (!(std::fabs(value) <= 3.4028234663852886e38)) return false;
   }
   return true;
 }
@@ -136,7 +135,11 @@ g3d_XForm& g3d_XForm::SetIdentity() noexcept {
 }
 
 g3d_XForm& g3d_XForm::SetM(const float m[4][4]) noexcept {
-  std::memcpy(m_M, m, sizeof m_M);
+  // Element by element: g++ 12 misreads a memcpy of the whole array, once inlined, as
+  // overflowing the first row.
+  for (int i = 0; i < 4; ++i) {
+    for (int j = 0; j < 4; ++j) m_M[i][j] = m[i][j];
+  }
   return *this;
 }
 
@@ -272,28 +275,30 @@ void g3d_XForm::XForm(g3d_Vector* vectors, int n) const noexcept {
   InFours(vectors, n, [this](g3d_Vector& v) { v = Linear(*this, v); });
 }
 
+// The projections compute their few variable entries in double, and write all sixteen once:
+// the camera rebuilds one after every change of its window.
 g3d_XForm& g3d_XForm::SetPerspectiveProjection(float left, float right, float top, float bottom,
                                                float near, float far) noexcept {
-  SetIdentity();
-  if (left == right || top == bottom || !(far > near && near > 0.0f)) return *this;
+  if (left == right || top == bottom || !(far > near && near > 0.0f)) return SetIdentity();
   const double l = left, r = right, t = top, b = bottom, n = near, f = far;
-  const double rows[4][4] = {{2 * n / (r - l), 0, (r + l) / (r - l), 0},
-                             {0, 2 * n / (t - b), (t + b) / (t - b), 0},
-                             {0, 0, -(f + n) / (f - n), -2 * f * n / (f - n)},
-                             {0, 0, -1, 0}};
-  return FitsFloat(rows) ? SetM(rows) : *this;
+  const double sx = 2 * n / (r - l), cx = (r + l) / (r - l), sy = 2 * n / (t - b),
+               cy = (t + b) / (t - b), sz = -(f + n) / (f - n), tz = -2 * f * n / (f - n);
+  if (!FitsFloat({sx, cx, sy, cy, sz, tz})) return SetIdentity();
+  const auto x = [](double value) { return static_cast<float>(value); };
+  const Matrix rows = {{x(sx), 0, x(cx), 0}, {0, x(sy), x(cy), 0}, {0, 0, x(sz), x(tz)}, {0, 0, -1, 0}};
+  return SetM(rows);
 }
 
 g3d_XForm& g3d_XForm::SetOrthographicProjection(float left, float right, float top, float bottom,
                                                 float near, float far) noexcept {
-  SetIdentity();
-  if (left == right || top == bottom || !(far > near)) return *this;
+  if (left == right || top == bottom || !(far > near)) return SetIdentity();
   const double l = left, r = right, t = top, b = bottom, n = near, f = far;
-  const double rows[4][4] = {{2 / (r - l), 0, 0, -(l + r) / (r - l)},
-                             {0, 2 / (t - b), 0, -(t + b) / (t - b)},
-                             {0, 0, -2 / (f - n), -(n + f) / (f - n)},
-                             {0, 0, 0, 1}};
-  return FitsFloat(rows) ? SetM(rows) : *this;
+  const double sx = 2 / (r - l), tx = -(l + r) / (r - l), sy = 2 / (t - b),
+               ty = -(t + b) / (t - b), sz = -2 / (f - n), tz = -(n + f) / (f - n);
+  if (!FitsFloat({sx, tx, sy, ty, sz, tz})) return SetIdentity();
+  const auto x = [](double value) { return static_cast<float>(value); };
+  const Matrix rows = {{x(sx), 0, 0, x(tx)}, {0, x(sy), 0, x(ty)}, {0, 0, x(sz), x(tz)}, {0, 0, 0, 1}};
+  return SetM(rows);
 }
 
 g3d_XForm& g3d_XForm::operator*=(const g3d_XForm& b) noexcept {
