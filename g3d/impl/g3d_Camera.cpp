@@ -34,16 +34,13 @@ g3d_Point Cartesian(const g3d_Point& p) noexcept { return g3d_Point() + (p - g3d
 
 g3d_Vector Unit(g3d_Vector v) noexcept { return v.Normalize(); }
 
-// The eye's axes in world space: back points from the target to the eye.
-struct EyeFrame {
-  g3d_Vector right, up, back;
-};
-
-// Always inlined: returned through memory, the axes cost a store-to-load stall each rebuild.
-[[gnu::always_inline]] inline EyeFrame FrameOf(const g3d_Point& eye, const g3d_Point& target, const g3d_Vector& up) noexcept {
-  const g3d_Vector back = Unit(eye - target);
-  const g3d_Vector right = Unit(g3d_Cross(up, back));
-  return {right, g3d_Cross(back, right), back};
+// The eye's axes in world space, back pointing from the target to the eye. Written through
+// references so that, inlined, the view matrix's rebuild keeps them in registers.
+inline void EyeAxes(const g3d_Point& eye, const g3d_Point& target, const g3d_Vector& upward,
+             g3d_Vector& right, g3d_Vector& up, g3d_Vector& back) noexcept {
+  back = Unit(eye - target);
+  right = Unit(g3d_Cross(upward, back));
+  up = g3d_Cross(back, right);
 }
 
 // Within the window's range, so that the view matrix's sums of products stay finite too.
@@ -276,10 +273,7 @@ g3d_Camera& g3d_Camera::Zoom(float x0, float y0, float x1, float y1, bool dolly)
 }
 
 void g3d_Camera::Axes(g3d_Vector& right, g3d_Vector& up, g3d_Vector& back) const noexcept {
-  const EyeFrame frame = FrameOf(m_Eye, m_Target, m_Up);
-  right = frame.right;
-  up = frame.up;
-  back = frame.back;
+  EyeAxes(m_Eye, m_Target, m_Up, right, up, back);
 }
 
 g3d_Vector g3d_Camera::ToWorld(const g3d_Vector& eyeDirection) const {
@@ -469,17 +463,18 @@ g3d_Camera& g3d_Camera::SetLayerXForm(bool on, g3d_XForm* layer) {
 void g3d_Camera::GenerateVOM() const {
   // Written element by element from values kept in registers: the rows are right, up and
   // back, and post-multiplying by T(-eye) only fills column 3 with the rotated, negated eye.
-  const EyeFrame frame = FrameOf(m_Eye, m_Target, m_Up);
+  g3d_Vector right, up, back;
+  EyeAxes(m_Eye, m_Target, m_Up, right, up, back);
   const g3d_Vector eye = m_Eye - g3d_Point();
-  const auto row = [this, &eye](int i, const g3d_Vector& axis) {
+  const auto row = [this, eye](int i, g3d_Vector axis) {
     m_VOM.M(i, 0) = axis.x;
     m_VOM.M(i, 1) = axis.y;
     m_VOM.M(i, 2) = axis.z;
     m_VOM.M(i, 3) = -axis.x * eye.x + -axis.y * eye.y + -axis.z * eye.z;
   };
-  row(0, frame.right);
-  row(1, frame.up);
-  row(2, frame.back);
+  row(0, right);
+  row(1, up);
+  row(2, back);
   for (int j = 0; j < 4; ++j) m_VOM.M(3, j) = j == 3 ? 1.0f : 0.0f;
   if (IsLayerMode()) m_VOM *= m_Layer;
   m_VOMStale = false;
