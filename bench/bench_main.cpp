@@ -1,7 +1,8 @@
 // Runs every benchmark, then prints, for each pair named "<case>/ours" and "<case>/peer...",
 // the time of ours divided by the time of each peer (below 1: ours is faster). The times are
 // CPU times, which other processes on a shared machine disturb far less than wall-clock
-// times; with --benchmark_repetitions, the medians.
+// times; with --benchmark_repetitions, the medians. A row that counts bytes per element
+// (bench_memory.cpp) compares those instead.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -20,12 +21,16 @@ public:
       const std::string name = run.run_name.str();
       const auto slash = name.find('/');
       if (slash == std::string::npos) continue;
-      m_Times[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedCPUTime();
+      const auto bytes = run.counters.find("bytes_per_element");
+      // The side ends at a further slash, as in "/iterations:1".
+      const std::string side = name.substr(slash + 1, name.find('/', slash + 1) - slash - 1);
+      m_Times[name.substr(0, slash)][side] =
+          bytes != run.counters.end() ? bytes->second.value : run.GetAdjustedCPUTime();
     }
   }
   void Finalize() override {
     ConsoleReporter::Finalize();
-    std::printf("\n%-44s %-22s %12s\n", "case", "peer", "ours/peer (CPU time)");
+    std::printf("\n%-44s %-22s %12s\n", "case", "peer", "ours/peer (CPU time, or bytes)");
     for (const auto& [name, sides] : m_Times) {
       const auto ours = sides.find("ours");
       if (ours == sides.end()) continue;

@@ -1,6 +1,6 @@
-// Primitive values beside their peers: number text beside snprintf, the script text of a
-// large tuple beside CPython's repr of an equal tuple, tuple copies, typed dictionary reads
-// beside std::map.
+// Primitive values beside their peers: number text beside snprintf, to_chars and a copy of
+// the finished text (its bytes per second are the floor), the script text of a large tuple
+// beside CPython's repr of an equal tuple, tuple copies, typed dictionary reads beside std::map.
 #include <Python.h>
 
 #include <omu_PrimDictionary.h>
@@ -9,6 +9,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -42,6 +43,31 @@ const std::vector<double>& Doubles() {
   return values;
 }
 
+// The texts of Doubles(), one after another, and where each ends: what a writer must produce.
+struct Texts {
+  std::string bytes;
+  std::vector<std::size_t> ends;
+};
+
+const Texts& DoubleTexts() {
+  static const Texts texts = [] {
+    Texts t;
+    char text[omu_PrimNumber::MaxDoubleText];
+    for (const double value : Doubles()) {
+      t.bytes.append(text, static_cast<std::size_t>(omu_PrimNumber::FormatDouble(value, text)));
+      t.ends.push_back(t.bytes.size());
+    }
+    return t;
+  }();
+  return texts;
+}
+
+// Every side reports the bytes of the library's text per number, so bytes per second compare.
+void CountTextBytes(benchmark::State& state) {
+  const double perNumber = double(DoubleTexts().bytes.size()) / double(Doubles().size());
+  state.SetBytesProcessed(static_cast<std::int64_t>(double(state.iterations()) * perNumber));
+}
+
 void NumberText_ours(benchmark::State& state) {
   char text[omu_PrimNumber::MaxDoubleText];
   std::size_t i = 0;
@@ -49,6 +75,7 @@ void NumberText_ours(benchmark::State& state) {
     benchmark::DoNotOptimize(omu_PrimNumber::FormatDouble(Doubles()[i++ & 4095], text));
     benchmark::ClobberMemory();
   }
+  CountTextBytes(state);
 }
 BENCHMARK(NumberText_ours)->Name("NumberText/ours");
 
@@ -59,8 +86,36 @@ void NumberText_snprintf(benchmark::State& state) {
     benchmark::DoNotOptimize(std::snprintf(text, sizeof text, "%.15lg", Doubles()[i++ & 4095]));
     benchmark::ClobberMemory();
   }
+  CountTextBytes(state);
 }
 BENCHMARK(NumberText_snprintf)->Name("NumberText/snprintf");
+
+void NumberText_to_chars(benchmark::State& state) {
+  char text[64];
+  std::size_t i = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(std::to_chars(text, text + sizeof text, Doubles()[i++ & 4095],
+                                           std::chars_format::general, 15));
+    benchmark::ClobberMemory();
+  }
+  CountTextBytes(state);
+}
+BENCHMARK(NumberText_to_chars)->Name("NumberText/to_chars");
+
+// The floor: copying the finished text of each number, as long as it is.
+void NumberText_memcpy(benchmark::State& state) {
+  const Texts& texts = DoubleTexts();
+  char text[omu_PrimNumber::MaxDoubleText];
+  std::size_t i = 0;
+  for (auto _ : state) {
+    const std::size_t at = i++ & 4095, from = at ? texts.ends[at - 1] : 0;
+    std::memcpy(text, texts.bytes.data() + from, texts.ends[at] - from);
+    benchmark::DoNotOptimize(text);
+    benchmark::ClobberMemory();
+  }
+  CountTextBytes(state);
+}
+BENCHMARK(NumberText_memcpy)->Name("NumberText/memcpy");
 
 constexpr int kReprElements = 100'000;
 

@@ -37,6 +37,11 @@ function(cvx_module name)
   target_link_libraries(cvx_${name} PUBLIC ${ARG_LINKS})
   # The objects are compiled for the shared library: its export macro exports.
   target_compile_definitions(cvx_${name} PRIVATE CVXUTI_CaeUtils_EXPORTS)
+  # Calls within the library bind to its own functions, as in a Windows DLL: no symbol
+  # interposition, so GCC may inline them and call them without the PLT.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(cvx_${name} PRIVATE -fno-semantic-interposition)
+  endif()
   cvx_warnings(cvx_${name})
   target_sources(CVXUTI_CaeUtils PRIVATE $<TARGET_OBJECTS:cvx_${name}>)
   set(cvx_modules ${cvx_modules} ${name} PARENT_SCOPE)

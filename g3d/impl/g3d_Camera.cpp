@@ -34,6 +34,15 @@ g3d_Point Cartesian(const g3d_Point& p) noexcept { return g3d_Point() + (p - g3d
 
 g3d_Vector Unit(g3d_Vector v) noexcept { return v.Normalize(); }
 
+// The eye's axes in world space, back pointing from the target to the eye. Written through
+// references so that, inlined, the view matrix's rebuild keeps them in registers.
+inline void EyeAxes(const g3d_Point& eye, const g3d_Point& target, const g3d_Vector& upward,
+             g3d_Vector& right, g3d_Vector& up, g3d_Vector& back) noexcept {
+  back = Unit(eye - target);
+  right = Unit(g3d_Cross(upward, back));
+  up = g3d_Cross(back, right);
+}
+
 // Within the window's range, so that the view matrix's sums of products stay finite too.
 bool InRange(const g3d_Point& p) noexcept {
   return std::fabs(p.x) <= kMaxWindow && std::fabs(p.y) <= kMaxWindow &&
@@ -99,8 +108,14 @@ g3d_Camera& g3d_Camera::SetLocation(const g3d_Point& eye, const g3d_Point& targe
 }
 
 float g3d_Camera::MinWindowSize() const noexcept {
-  const float distance = EyeDistance();
-  if (!IsPerspective() || !(distance > 0.0f)) return kMinWindow;
+  if (!IsPerspective()) return kMinWindow;
+  // Near clearly short of the target (the usual case): the scaled size is below the least
+  // one whatever the rounding, so the clamp below would give kMinWindow; no square root.
+  const g3d_Vector line = m_Target - m_Eye;
+  const double dx = line.x, dy = line.y, dz = line.z, near = m_Near;
+  if (near * near < (dx * dx + dy * dy + dz * dz) * (1 - 1e-6)) return kMinWindow;
+  const float distance = line.Length();
+  if (!(distance > 0.0f)) return kMinWindow;
   // A near plane far beyond a close target cannot ask for more than the largest window.
   return std::clamp(m_Near * kMinWindow / distance, kMinWindow, kMaxWindow);
 }
@@ -258,9 +273,7 @@ g3d_Camera& g3d_Camera::Zoom(float x0, float y0, float x1, float y1, bool dolly)
 }
 
 void g3d_Camera::Axes(g3d_Vector& right, g3d_Vector& up, g3d_Vector& back) const noexcept {
-  back = Unit(m_Eye - m_Target);
-  right = Unit(g3d_Cross(m_Up, back));
-  up = g3d_Cross(back, right);
+  EyeAxes(m_Eye, m_Target, m_Up, right, up, back);
 }
 
 g3d_Vector g3d_Camera::ToWorld(const g3d_Vector& eyeDirection) const {
@@ -448,16 +461,21 @@ g3d_Camera& g3d_Camera::SetLayerXForm(bool on, g3d_XForm* layer) {
 }
 
 void g3d_Camera::GenerateVOM() const {
+  // Written element by element from values kept in registers: the rows are right, up and
+  // back, and post-multiplying by T(-eye) only fills column 3 with the rotated, negated eye.
   g3d_Vector right, up, back;
-  Axes(right, up, back);
-  m_VOM.Set(right, up, back).Transpose();  // rows: right, up, back
-  // Post-multiplying by T(-eye) only fills column 3 with the rotated, negated eye: write it
-  // directly instead of multiplying whole matrices.
+  EyeAxes(m_Eye, m_Target, m_Up, right, up, back);
   const g3d_Vector eye = m_Eye - g3d_Point();
-  const g3d_Vector axes[3] = {right, up, back};
-  for (int i = 0; i < 3; ++i) {
-    m_VOM.M(i, 3) = -axes[i].x * eye.x + -axes[i].y * eye.y + -axes[i].z * eye.z;
-  }
+  const auto row = [this, eye](int i, g3d_Vector axis) {
+    m_VOM.M(i, 0) = axis.x;
+    m_VOM.M(i, 1) = axis.y;
+    m_VOM.M(i, 2) = axis.z;
+    m_VOM.M(i, 3) = -axis.x * eye.x + -axis.y * eye.y + -axis.z * eye.z;
+  };
+  row(0, right);
+  row(1, up);
+  row(2, back);
+  for (int j = 0; j < 4; ++j) m_VOM.M(3, j) = j == 3 ? 1.0f : 0.0f;
   if (IsLayerMode()) m_VOM *= m_Layer;
   m_VOMStale = false;
 }

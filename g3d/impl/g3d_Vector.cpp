@@ -19,21 +19,6 @@ constexpr double kTwoPi = 6.283185307179586;
 g3d_Vector::g3d_Vector(const cls_ReadVisitor& reader)
     : x(reader.Get<float>("x")), y(reader.Get<float>("y")), z(reader.Get<float>("z")) {}
 
-float g3d_Vector::Length() const noexcept {
-  const double dx = x, dy = y, dz = z;
-  return static_cast<float>(std::sqrt(dx * dx + dy * dy + dz * dz));
-}
-
-g3d_Vector& g3d_Vector::Normalize() noexcept {
-  const float length = Length();
-  if (length < FLT_MIN) {
-    *this = g3d_Vector();
-  } else if (length != 1.0f) {
-    *this = *this * (1.0f / length);
-  }
-  return *this;
-}
-
 float g3d_Vector::AngleWith(const g3d_Vector& other, bool normalized) const noexcept {
   float c = g3d_Dot(*this, other);
   if (!normalized) {

@@ -17,16 +17,6 @@ constexpr double kDegreesToRadians = 0.017453292519943295;
 using Matrix = float[4][4];
 using WideMatrix = double[4][4];
 
-// Every element has a finite float form.
-bool FitsFloat(const WideMatrix& m) noexcept {
-  for (const auto& row : m) {
-    for (const double value : row) {
-      if (!(std::fabs(value) <= 3.4028234663852886e38)) return false;
-    }
-  }
-  return true;
-}
-
 // The adjugate (transposed cofactor matrix), from the 2x2 minors of rows 0-1 and rows 2-3.
 void Adjugate(const Matrix& m, WideMatrix& adj) noexcept {
   const auto a = [&m](int r, int c) { return double(m[r][c]); };
@@ -136,7 +126,11 @@ g3d_XForm& g3d_XForm::SetIdentity() noexcept {
 }
 
 g3d_XForm& g3d_XForm::SetM(const float m[4][4]) noexcept {
-  std::memcpy(m_M, m, sizeof m_M);
+  // Element by element: g++ 12 misreads a memcpy of the whole array, once inlined, as
+  // overflowing the first row.
+  for (int i = 0; i < 4; ++i) {
+    for (int j = 0; j < 4; ++j) m_M[i][j] = m[i][j];
+  }
   return *this;
 }
 
@@ -272,28 +266,56 @@ void g3d_XForm::XForm(g3d_Vector* vectors, int n) const noexcept {
   InFours(vectors, n, [this](g3d_Vector& v) { v = Linear(*this, v); });
 }
 
+namespace {
+// The projections' six variable entries, numerators over denominators in double, two to a
+// vector: each lane rounds as a scalar division does, at half the divisions' cost. The camera
+// rebuilds a projection after every change of its window.
+typedef double Pair __attribute__((vector_size(16)));
+
+struct Entries {
+  Pair x, y, z;  // row 0's pair, row 1's, row 2's
+};
+
+// False unless every quotient has a finite float form.
+bool Fits(const Entries& q) noexcept {
+  constexpr double kFloatMax = 3.4028234663852886e38;
+  bool fits = true;
+  for (int i = 0; i < 2; ++i) {
+    fits &= std::fabs(q.x[i]) <= kFloatMax && std::fabs(q.y[i]) <= kFloatMax &&
+            std::fabs(q.z[i]) <= kFloatMax;
+  }
+  return fits;
+}
+
+float Narrow(double value) noexcept { return static_cast<float>(value); }
+}  // namespace
+
 g3d_XForm& g3d_XForm::SetPerspectiveProjection(float left, float right, float top, float bottom,
                                                float near, float far) noexcept {
-  SetIdentity();
-  if (left == right || top == bottom || !(far > near && near > 0.0f)) return *this;
+  if (left == right || top == bottom || !(far > near && near > 0.0f)) return SetIdentity();
   const double l = left, r = right, t = top, b = bottom, n = near, f = far;
-  const double rows[4][4] = {{2 * n / (r - l), 0, (r + l) / (r - l), 0},
-                             {0, 2 * n / (t - b), (t + b) / (t - b), 0},
-                             {0, 0, -(f + n) / (f - n), -2 * f * n / (f - n)},
-                             {0, 0, -1, 0}};
-  return FitsFloat(rows) ? SetM(rows) : *this;
+  const Entries q = {Pair{2 * n, r + l} / (r - l), Pair{2 * n, t + b} / (t - b),
+                     Pair{-(f + n), -2 * f * n} / (f - n)};
+  if (!Fits(q)) return SetIdentity();
+  const Matrix rows = {{Narrow(q.x[0]), 0, Narrow(q.x[1]), 0},
+                       {0, Narrow(q.y[0]), Narrow(q.y[1]), 0},
+                       {0, 0, Narrow(q.z[0]), Narrow(q.z[1])},
+                       {0, 0, -1, 0}};
+  return SetM(rows);
 }
 
 g3d_XForm& g3d_XForm::SetOrthographicProjection(float left, float right, float top, float bottom,
                                                 float near, float far) noexcept {
-  SetIdentity();
-  if (left == right || top == bottom || !(far > near)) return *this;
+  if (left == right || top == bottom || !(far > near)) return SetIdentity();
   const double l = left, r = right, t = top, b = bottom, n = near, f = far;
-  const double rows[4][4] = {{2 / (r - l), 0, 0, -(l + r) / (r - l)},
-                             {0, 2 / (t - b), 0, -(t + b) / (t - b)},
-                             {0, 0, -2 / (f - n), -(n + f) / (f - n)},
-                             {0, 0, 0, 1}};
-  return FitsFloat(rows) ? SetM(rows) : *this;
+  const Entries q = {Pair{2, -(l + r)} / (r - l), Pair{2, -(t + b)} / (t - b),
+                     Pair{-2, -(n + f)} / (f - n)};
+  if (!Fits(q)) return SetIdentity();
+  const Matrix rows = {{Narrow(q.x[0]), 0, 0, Narrow(q.x[1])},
+                       {0, Narrow(q.y[0]), 0, Narrow(q.y[1])},
+                       {0, 0, Narrow(q.z[0]), Narrow(q.z[1])},
+                       {0, 0, 0, 1}};
+  return SetM(rows);
 }
 
 g3d_XForm& g3d_XForm::operator*=(const g3d_XForm& b) noexcept {

@@ -7,6 +7,9 @@
 /// table), so arrays of vectors stay packed and can be transformed in place.
 #include <CVX_Export.h>
 
+#include <cfloat>
+#include <cmath>
+
 class aio_ostream;
 class cls_ClassRegistrar;
 class cls_ReadVisitor;
@@ -27,10 +30,22 @@ public:
   /// Reads the object back from the record reader is at.
   explicit g3d_Vector(const cls_ReadVisitor& reader);
 
-  /// Computed in double, narrowed once.
-  float Length() const noexcept;
+  /// Computed in double, narrowed once. Inline: the camera's matrices take three per rebuild.
+  float Length() const noexcept {
+    const double dx = x, dy = y, dz = z;
+    return static_cast<float>(std::sqrt(dx * dx + dy * dy + dz * dz));
+  }
   /// Below the smallest normal float the vector becomes zero; a unit vector is left bit for bit.
-  g3d_Vector& Normalize() noexcept;
+  g3d_Vector& Normalize() noexcept {
+    const float length = Length();
+    if (length < FLT_MIN) {
+      *this = g3d_Vector();
+    } else if (length != 1.0f) {
+      const float inverse = 1.0f / length;
+      *this = g3d_Vector(x * inverse, y * inverse, z * inverse);
+    }
+    return *this;
+  }
   /// Angle in [0, pi]. Cosines within 1e-5 of +-1 snap to exactly 0 or pi; a zero vector gives
   /// pi/2. With normalized set the lengths are taken as 1.
   float AngleWith(const g3d_Vector& other, bool normalized) const noexcept;

@@ -96,10 +96,18 @@ TEST(CameraTest, WindowLimits) {
     EXPECT_EQ(camera.GetWindowWidth(), c.expectedW) << c.w << " x " << c.h;
     EXPECT_EQ(camera.GetWindowHeight(), c.expectedH) << c.w << " x " << c.h;
   }
-  g3d_Camera perspective;
-  perspective.SetNearFar(10, 100);  // eye 2 from the target: least size 10 * 1e-4 / 2
-  perspective.SetWindow(0, 0);
-  EXPECT_FLOAT_EQ(perspective.GetWindowWidth(), 0.0005f);
+  // In perspective the least size is near * 1e-4 over the eye's distance (2 here), but never
+  // below 1e-4: either side of near = distance, where the square-root-free test hands over.
+  const struct {
+    float near, least;
+  } perspectiveCases[] = {{10, 10 * 0.0001f / 2}, {2.0000002f, 2.0000002f * 0.0001f / 2},
+                          {2, 0.0001f}, {1.9999999f, 0.0001f}, {1, 0.0001f}};
+  for (const auto& c : perspectiveCases) {
+    g3d_Camera perspective;
+    perspective.SetNearFar(c.near, 100);
+    perspective.SetWindow(0, 0);
+    EXPECT_EQ(perspective.GetWindowWidth(), c.least) << "near " << c.near;
+  }
 }
 
 TEST(CameraTest, ZoomPercentagesAndLimits) {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <random>
 #include <string>
 #include <vector>
@@ -68,6 +69,27 @@ TEST(NumberText, MatchesPrintfOverAMillionVariedDoubles) {
     }
   }
   EXPECT_EQ(mismatches, 0);
+}
+
+// Where the layout or the scaling changes: signed zeros, non-finite values, the ends of the
+// double range, and each power of ten with its two neighbours.
+TEST(NumberText, MatchesPrintfAtTheEdges) {
+  using limits = std::numeric_limits<double>;
+  std::vector<double> values = {0.0, limits::infinity(), limits::quiet_NaN(), limits::max(),
+                                limits::min(), limits::denorm_min(), 1e15 - 0.5, 1e15 + 2,
+                                999999999999999.4, 999999999999999.6, 0.0001, 1e-5};
+  for (int k = -323; k <= 308; ++k) {
+    const double power = std::pow(10.0, k);
+    values.insert(values.end(), {power, std::nextafter(power, 0.0), std::nextafter(power, 1e300)});
+  }
+  char text[omu_PrimNumber::MaxDoubleText];
+  for (const double value : values) {
+    for (const double signed_value : {value, -value}) {
+      const int length = omu_PrimNumber::FormatDouble(signed_value, text);
+      EXPECT_EQ(std::string(text, static_cast<std::size_t>(length)), Reference(signed_value))
+          << std::hexfloat << signed_value;
+    }
+  }
 }
 
 TEST(NumberText, NeverOverrunsItsBuffer) {
