@@ -56,32 +56,39 @@ void Report(benchmark::State& state, std::size_t bytes, int elements) {
   state.counters["bytes/elem"] = static_cast<double>(bytes) / elements;
 }
 
-void TableWrite(benchmark::State& state, int cells) {
-  Start();
-  const mdl_PropertyTable table = Table(cells);
+// An object to bytes and back, once per iteration; what is read back must equal it.
+template <class T>
+void Write(benchmark::State& state, const T& object, int elements) {
   std::size_t size = 0;
   for (auto _ : state) {
-    cls_Archive archive;
-    archive.Add(table);
-    const std::string bytes = archive.ToBytes();
+    const std::string bytes = Bytes(object);
     size = bytes.size();
     benchmark::DoNotOptimize(bytes.data());
   }
-  Report(state, size, cells);
+  Report(state, size, elements);
+}
+
+template <class T>
+void Read(benchmark::State& state, const T& object, int elements) {
+  const std::string bytes = Bytes(object);
+  for (auto _ : state) {
+    const auto back = cls_Archive::FromBytes(bytes).Read<T>(0);
+    benchmark::DoNotOptimize(back.get());
+  }
+  if (!(*cls_Archive::FromBytes(bytes).Read<T>(0) == object)) {
+    state.SkipWithError("what was read back differs");
+  }
+  Report(state, bytes.size(), elements);
+}
+
+void TableWrite(benchmark::State& state, int cells) {
+  Start();
+  Write(state, Table(cells), cells);
 }
 
 void TableRead(benchmark::State& state, int cells) {
   Start();
-  const mdl_PropertyTable table = Table(cells);
-  const std::string bytes = Bytes(table);
-  for (auto _ : state) {
-    const auto back = cls_Archive::FromBytes(bytes).Read<mdl_PropertyTable>(0);
-    benchmark::DoNotOptimize(back.get());
-  }
-  if (!(*cls_Archive::FromBytes(bytes).Read<mdl_PropertyTable>(0) == table)) {
-    state.SkipWithError("the table read back differs");
-  }
-  Report(state, bytes.size(), cells);
+  Read(state, Table(cells), cells);
 }
 
 // The floor of both table rows: copying the archive's bytes once.
@@ -98,30 +105,12 @@ void TableMemcpy(benchmark::State& state, int cells) {
 
 void TupleWrite(benchmark::State& state, int size) {
   Start();
-  const omu_PrimTuple tuple = Tuple(size);
-  std::size_t bytes = 0;
-  for (auto _ : state) {
-    cls_Archive archive;
-    archive.Add(tuple);
-    const std::string file = archive.ToBytes();
-    bytes = file.size();
-    benchmark::DoNotOptimize(file.data());
-  }
-  Report(state, bytes, size);
+  Write(state, Tuple(size), size);
 }
 
 void TupleRead(benchmark::State& state, int size) {
   Start();
-  const omu_PrimTuple tuple = Tuple(size);
-  const std::string bytes = Bytes(tuple);
-  for (auto _ : state) {
-    const auto back = cls_Archive::FromBytes(bytes).Read<omu_PrimTuple>(0);
-    benchmark::DoNotOptimize(back.get());
-  }
-  if (!(*cls_Archive::FromBytes(bytes).Read<omu_PrimTuple>(0) == tuple)) {
-    state.SkipWithError("the tuple read back differs");
-  }
-  Report(state, bytes.size(), size);
+  Read(state, Tuple(size), size);
 }
 
 // pickle.dumps and pickle.loads of a tuple of the same floats, default protocol.
