@@ -16,9 +16,14 @@ class cow_CountedPtr;
 
 class cow_Counted {
 protected:
+  /// Unshared: no handle holds the object yet.
   cow_Counted() noexcept = default;
+  /// A copy starts unshared; an assignment keeps the handles the object has.
+  ///@{
   cow_Counted(const cow_Counted&) noexcept {}
   cow_Counted& operator=(const cow_Counted&) noexcept { return *this; }
+  ///@}
+  /// Not virtual: the handle deletes through its own class, virtual there where it has subclasses.
   ~cow_Counted() = default;
 
 private:
