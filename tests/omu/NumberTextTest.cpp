@@ -14,6 +14,8 @@
 
 namespace {
 std::string Reference(double value) {
+  // The library keeps a NaN's sign, as glibc's printf does and MinGW's does not.
+  if (std::isnan(value)) return std::signbit(value) ? "-nan.0" : "nan.0";
   char text[64];
   const int length = std::snprintf(text, sizeof text, "%.15lg", value);
   std::string out(text, static_cast<std::size_t>(length));
