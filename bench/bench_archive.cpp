@@ -81,14 +81,16 @@ void Read(benchmark::State& state, const T& object, int elements) {
   Report(state, bytes.size(), elements);
 }
 
-void TableWrite(benchmark::State& state, int cells) {
+// Our side of a row: an object of the given size made, then written or read back.
+template <auto Make, bool kRead>
+void Ours(benchmark::State& state, int elements) {
   Start();
-  Write(state, Table(cells), cells);
-}
-
-void TableRead(benchmark::State& state, int cells) {
-  Start();
-  Read(state, Table(cells), cells);
+  const auto object = Make(elements);
+  if constexpr (kRead) {
+    Read(state, object, elements);
+  } else {
+    Write(state, object, elements);
+  }
 }
 
 // The floor of both table rows: copying the archive's bytes once.
@@ -101,16 +103,6 @@ void TableMemcpy(benchmark::State& state, int cells) {
     benchmark::DoNotOptimize(copy.data());
   }
   Report(state, bytes.size(), cells);
-}
-
-void TupleWrite(benchmark::State& state, int size) {
-  Start();
-  Write(state, Tuple(size), size);
-}
-
-void TupleRead(benchmark::State& state, int size) {
-  Start();
-  Read(state, Tuple(size), size);
 }
 
 // pickle.dumps and pickle.loads of a tuple of the same floats, default protocol.
@@ -174,10 +166,14 @@ struct Row {
   Case run;
 };
 constexpr Row kRows[] = {
-    {"ArchiveTableWrite", "ours", TableWrite},  {"ArchiveTableWrite", "memcpy", TableMemcpy},
-    {"ArchiveTableRead", "ours", TableRead},    {"ArchiveTableRead", "memcpy", TableMemcpy},
-    {"ArchiveTupleWrite", "ours", TupleWrite},  {"ArchiveTupleWrite", "pickle.dumps", PickleDumps},
-    {"ArchiveTupleRead", "ours", TupleRead},    {"ArchiveTupleRead", "pickle.loads", PickleLoads},
+    {"ArchiveTableWrite", "ours", Ours<Table, false>},
+    {"ArchiveTableWrite", "memcpy", TableMemcpy},
+    {"ArchiveTableRead", "ours", Ours<Table, true>},
+    {"ArchiveTableRead", "memcpy", TableMemcpy},
+    {"ArchiveTupleWrite", "ours", Ours<Tuple, false>},
+    {"ArchiveTupleWrite", "pickle.dumps", PickleDumps},
+    {"ArchiveTupleRead", "ours", Ours<Tuple, true>},
+    {"ArchiveTupleRead", "pickle.loads", PickleLoads},
 };
 
 const bool registered = [] {
