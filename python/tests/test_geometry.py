@@ -16,7 +16,9 @@ def components(value):
 
 
 # The library computes in IEEE single precision, as NumPy's float32 does: each row's expected
-# value takes the same steps, in the same order, through float32.
+# value takes the same steps, in the same order, through float32. The rows check what the
+# binding adds (Python and NumPy numbers narrowed to float, float results passed on exactly,
+# argument order); VectorTest.cpp checks the arithmetic itself.
 A, B, K = (f32(0.1), f32(-2.5), f32(3e7)), (f32(1 / 3), f32(4), f32(-0.7)), f32(1.1)
 VECTOR_RESULTS = [
     ("v + w", lambda v, w: v + w, [a + b for a, b in zip(A, B)]),
@@ -30,14 +32,8 @@ VECTOR_RESULTS = [
     ("cross", lambda v, w: v.cross(w), [A[1] * B[2] - A[2] * B[1], A[2] * B[0] - A[0] * B[2],
                                         A[0] * B[1] - A[1] * B[0]]),
     ("dot", lambda v, w: [v.dot(w)], [(A[0] * B[0] + A[1] * B[1]) + A[2] * B[2]]),
-    ("length in double", lambda v, w: [v.length()],
-     [f32(math.sqrt(sum(float(a) ** 2 for a in A)))]),
-    ("normalize by one reciprocal", lambda v, w: Vector(3, 4, 0).normalize(),
-     [f32(3) * (f32(1) / f32(5)), f32(4) * (f32(1) / f32(5)), 0]),
-    ("angle with zero", lambda v, w: [Vector(1, 0, 0).angle_with(Vector())], [f32(math.pi / 2)]),
     ("signed turn", lambda v, w: [Vector(1, 0, 0).angle_with(Vector(0, -1, 0), False, Vector(0, 0, 1))],
      [f32(2 * math.pi - float(f32(math.pi / 2)))]),
-    ("point - point", lambda v, w: Point(2, 4, 6, 2) - Point(1, 1, 1, 1), [0, 1, 2]),
     ("point + vector keeps w", lambda v, w: Point(1, 2, 3, 2) + Vector(1, 1, 1), [2, 3, 4, 2]),
     ("point - vector", lambda v, w: Point(1, 2, 3) - Vector(1, 1, 1), [0, 1, 2, 1]),
 ]
@@ -82,16 +78,14 @@ def test_equality_is_exact():
 
 Z = Vector(0, 0, 1)
 IDENTITY = np.eye(4, dtype=f32)
-# One row per native edge case: the transform and the matrix it must hold.
+# One row per factory or conversion: the transform and the matrix it must hold. The edge cases
+# of the setters behind them are XFormTest.cpp's.
 XFORMS = [
     ("identity", XForm(), IDENTITY),
-    ("zero axis", XForm.rotation(30, Vector()), IDENTITY),
-    ("rotate by zero axis unchanged", XForm.scaling(2, 3, 4).rotate(30, Vector()), np.diag(f32([2, 3, 4, 1]))),
     ("translation of a point divides by w", XForm.translation(Point(2, 4, 6, 2)),
      [[1, 0, 0, 1], [0, 1, 0, 2], [0, 0, 1, 3], [0, 0, 0, 1]]),
-    ("translate in the scaled frame", XForm.scaling(2, 2, 2).translate(1, 0, 0),
-     [[2, 0, 0, 2], [0, 2, 0, 0], [0, 0, 2, 0], [0, 0, 0, 1]]),
-    ("perspective with near 0", XForm.perspective(-1, 1, 1, -1, 0, 10), IDENTITY),
+    ("translate in the scaled frame", XForm.scaling(2, 3, 4).translate(1, 1, 1),
+     [[2, 0, 0, 2], [0, 3, 0, 3], [0, 0, 4, 4], [0, 0, 0, 1]]),
     ("orthographic with near 0", XForm.orthographic(-1, 1, 1, -1, 0, 10),
      [[1, 0, 0, 0], [0, 1, 0, 0], [0, 0, f32(-2 / 10), f32(-1)], [0, 0, 0, 1]]),
     ("columns", XForm.columns(Vector(1, 2, 3), Vector(4, 5, 6), Vector(7, 8, 9)),
@@ -115,10 +109,9 @@ def test_rotation_maps_x_onto_y():
     assert components(XForm.rotation(90, Z).apply(Point(1, 0, 0))) == pytest.approx([0, 1, 0, 1], abs=1e-7)
 
 
-def test_compose_and_invert_agree_with_float64_matrices():
+def test_matmul_composes_in_order_and_determinant_is_passed_on():
     other = XForm(RNG.random((4, 4)))
     assert np.allclose((FORM @ other).matrix, FORM.matrix.astype(float) @ other.matrix, rtol=1e-6)
-    assert np.allclose((FORM @ XForm(FORM).invert()).matrix, IDENTITY, atol=1e-5)
     assert FORM.determinant() == pytest.approx(1.5 * 0.5 * 2, rel=1e-6)
 
 
@@ -128,12 +121,6 @@ def test_modifiers_return_the_transform_itself():
     alias = form
     form @= XForm.scaling(2, 2, 2)
     assert form is alias and form[0, 0] == 2
-
-
-def test_nan_is_unequal_except_to_itself():
-    form = XForm()
-    form[1, 2] = math.nan
-    assert form == form and form != XForm(form)
 
 
 def test_apply_takes_all_four_point_components_and_the_vector_3x3():
