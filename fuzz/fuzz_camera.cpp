@@ -1,42 +1,25 @@
 // Random sequences of camera operations with everyday finite values: after every step the
 // camera's state and its view and projection matrices stay finite, and nothing crashes.
 // Each step is one byte choosing the operation and a handful of bounded numbers.
+#include "FuzzInput.h"
+
 #include <g3d_Camera.h>
 
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <initializer_list>
+#include <iterator>
 
 namespace {
-class Reader {
- public:
-  Reader(const std::uint8_t* data, std::size_t size) : m_Data(data), m_Size(size) {}
-  bool More() const { return m_At < m_Size; }
-  std::uint8_t Byte() { return m_At < m_Size ? m_Data[m_At++] : 0; }
-  // A value in [-limit, limit] in steps of limit / 32767: finite and never extreme.
-  float Number(float limit) {
-    std::int16_t raw = 0;
-    if (m_At + sizeof raw <= m_Size) std::memcpy(&raw, m_Data + m_At, sizeof raw);
-    m_At += sizeof raw;
-    return raw / 32767.0f * limit;
-  }
-  g3d_Point Point() {
-    const float x = Number(100), y = Number(100), z = Number(100);
-    return {x, y, z};
-  }
-  g3d_Vector Vector() {
-    const float x = Number(1), y = Number(1), z = Number(1);
-    return {x, y, z};
-  }
+// A value in [-limit, limit] in steps of limit / 32767: finite and never extreme.
+float Number(FuzzInput& in, float limit) { return in.Raw<std::int16_t>() / 32767.0f * limit; }
 
- private:
-  const std::uint8_t* m_Data;
-  std::size_t m_Size;
-  std::size_t m_At = 0;
-};
+// Braced lists evaluate in order, so the components are read x, y, z.
+g3d_Point Point(FuzzInput& in) { return {Number(in, 100), Number(in, 100), Number(in, 100)}; }
+g3d_Vector Vector(FuzzInput& in) { return {Number(in, 1), Number(in, 1), Number(in, 1)}; }
+bool Flag(FuzzInput& in) { return in.Byte() % 2 != 0; }
 
 bool Finite(std::initializer_list<float> values) {
   for (const float value : values) {
@@ -69,100 +52,87 @@ void Check(const g3d_Camera& camera, int step) {
   }
 }
 
-void Step(g3d_Camera& camera, Reader& in) {
-  switch (in.Byte() % 17) {
-    case 0: {
-      const g3d_Point eye = in.Point(), target = in.Point();
-      camera.SetLocation(eye, target, in.Vector());
-      break;
-    }
-    case 1: {
-      const float w = in.Number(100);
-      camera.SetWindow(w, in.Number(100));
-      break;
-    }
-    case 2: {
-      const float x = in.Number(10);
-      camera.SetViewOffset(x, in.Number(10));
-      break;
-    }
-    case 3: {
-      const float near = in.Number(100);
-      camera.SetNearFar(near, in.Number(1000));
-      break;
-    }
-    case 4:
-      camera.SetProjection(in.Byte() % 2 ? PERSPECTIVE_PROJECTION : PARALLEL_PROJECTION);
-      break;
-    case 5:
-      camera.MakePerspective();
-      break;
-    case 6:
-      camera.MakeParallel();
-      break;
-    case 7: {
-      const float degrees = in.Number(179);
-      camera.SetFieldOfView(degrees, in.Byte() % 2);
-      break;
-    }
-    case 8: {
-      const float percent = in.Number(150);
-      camera.Zoom(percent, in.Byte() % 2);
-      break;
-    }
-    case 9: {
-      const float x = in.Number(20), y = in.Number(20), percent = in.Number(150);
+// The operations, chosen by a step's first byte; the seeds rely on their order. Arguments are
+// read into locals first, as a call's arguments have no order of evaluation.
+using Step = void (*)(g3d_Camera&, FuzzInput&);
+constexpr Step kSteps[] = {
+    [](g3d_Camera& c, FuzzInput& in) {
+      const g3d_Point eye = Point(in), target = Point(in);
+      c.SetLocation(eye, target, Vector(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float w = Number(in, 100);
+      c.SetWindow(w, Number(in, 100));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float x = Number(in, 10);
+      c.SetViewOffset(x, Number(in, 10));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float near = Number(in, 100);
+      c.SetNearFar(near, Number(in, 1000));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      c.SetProjection(Flag(in) ? PERSPECTIVE_PROJECTION : PARALLEL_PROJECTION);
+    },
+    [](g3d_Camera& c, FuzzInput&) { c.MakePerspective(); },
+    [](g3d_Camera& c, FuzzInput&) { c.MakeParallel(); },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float degrees = Number(in, 179);
+      c.SetFieldOfView(degrees, Flag(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float percent = Number(in, 150);
+      c.Zoom(percent, Flag(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float x = Number(in, 20), y = Number(in, 20), percent = Number(in, 150);
       const std::uint8_t flags = in.Byte();
-      camera.ZoomTo(x, y, percent, flags & 1, flags & 2);
-      break;
-    }
-    case 10: {
-      const float x0 = in.Number(20), y0 = in.Number(20), x1 = in.Number(20);
-      camera.Zoom(x0, y0, x1, in.Number(20), in.Byte() % 2);
-      break;
-    }
-    case 11: {
-      const float dx = in.Number(20), dy = in.Number(20), dz = in.Number(20);
-      camera.Pan(dx, dy, dz, in.Byte() % 2);
-      break;
-    }
-    case 12: {
-      const float degrees = in.Number(360);
-      camera.Rotate(degrees, in.Vector(), in.Byte() % 2 != 0);
-      break;
-    }
-    case 13: {
-      const g3d_Vector from = in.Vector();
-      camera.Rotate(from, in.Vector(), in.Point());
-      break;
-    }
-    case 14: {
-      const g3d_Point center = in.Point();
-      camera.Fit(g3d_Sphere(center, in.Number(100)));
-      break;
-    }
-    case 15: {
+      c.ZoomTo(x, y, percent, flags & 1, flags & 2);
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float x0 = Number(in, 20), y0 = Number(in, 20), x1 = Number(in, 20);
+      const float y1 = Number(in, 20);
+      c.Zoom(x0, y0, x1, y1, Flag(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float dx = Number(in, 20), dy = Number(in, 20), dz = Number(in, 20);
+      c.Pan(dx, dy, dz, Flag(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const float degrees = Number(in, 360);
+      const g3d_Vector axis = Vector(in);
+      c.Rotate(degrees, axis, Flag(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const g3d_Vector from = Vector(in), to = Vector(in);
+      c.Rotate(from, to, Point(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const g3d_Point center = Point(in);
+      c.Fit(g3d_Sphere(center, Number(in, 100)));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
       g3d_BoundingVolume model;
-      const g3d_Point min = in.Point();
-      model.SetToRectangleBox(min, in.Point());
-      camera.SetModelBoundingVolume(model, in.Number(3));
-      const float w = in.Number(2000), h = in.Number(2000);
-      camera.FitCenterVP(w, h, in.Number(1), in.Byte() % 2);
-      break;
-    }
-    default:
-      camera.Canned(g3d_Sphere(in.Point(), in.Number(100)),
-                    static_cast<g3d_SavedViewIdEnum>(in.Byte() % 7));
-      break;
-  }
-}
+      const g3d_Point min = Point(in), max = Point(in);
+      model.SetToRectangleBox(min, max);
+      c.SetModelBoundingVolume(model, Number(in, 3));
+      const float w = Number(in, 2000), h = Number(in, 2000), fraction = Number(in, 1);
+      c.FitCenterVP(w, h, fraction, Flag(in));
+    },
+    [](g3d_Camera& c, FuzzInput& in) {
+      const g3d_Point center = Point(in);
+      const float radius = Number(in, 100);
+      c.Canned(g3d_Sphere(center, radius), static_cast<g3d_SavedViewIdEnum>(in.Byte() % 7));
+    },
+};
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Reader in(data, size);
+  FuzzInput in(data, size);
   g3d_Camera camera;
-  for (int step = 0; in.More() && step < 64; ++step) {
-    Step(camera, in);
+  for (int step = 0; !in.Empty() && step < 64; ++step) {
+    kSteps[in.Byte() % std::size(kSteps)](camera, in);
     Check(camera, step);
   }
   return 0;
