@@ -36,21 +36,19 @@ TEST(ColorTest, PackingTruncatesAndPresetsTakeTheAlpha) {
 }
 
 TEST(ColorTest, HexText) {
-  struct Case {
+  const g3d_Color untouched(0.25f, 0.25f, 0.25f, 0.25f);
+  const struct {
     const char* text;
     g3d_Color expected;
-  };
-  const g3d_Color untouched(0.25f, 0.25f, 0.25f, 0.25f);
-  const Case cases[] = {
+  } cases[] = {
       {"#FF8000", {1, 128 * kByte, 0, 1}},
-      {"#ff", {1, 0, 0, 1}},          // the rest stays 0
-      {"#zz1122", {0, 0, 0, 1}},      // nothing scanned
-      {"Red", untouched},             // not a hex text: unchanged, no error
+      {"#ff", {1, 0, 0, 1}},      // the rest stays 0
+      {"#zz1122", {0, 0, 0, 1}},  // nothing scanned
+      {"Red", untouched},         // not a hex text: unchanged, no error
       {"", untouched},
   };
-  for (const Case& c : cases) {
-    g3d_Color color = untouched;
-    EXPECT_EQ(color.Set(cow_String(c.text), 1.0f), c.expected) << c.text;
+  for (const auto& c : cases) {
+    EXPECT_EQ(g3d_Color(untouched).Set(cow_String(c.text), 1.0f), c.expected) << c.text;
   }
 }
 
@@ -101,9 +99,7 @@ TEST(ColorTest, HsvBothWays) {
   }
   for (const g3d_Color c : {g3d_Color(0.2f, 0.7f, 0.1f), g3d_Color(0.9f, 0.3f, 0.5f),
                             g3d_Color(0.1f, 0.4f, 0.8f), g3d_Color(1, 1, 0)}) {
-    g3d_Color back;
-    back.SetHSV(c.GetHSV());
-    ExpectColor(back, c.r, c.g, c.b, 1, 1e-6f);
+    ExpectColor(g3d_Color().SetHSV(c.GetHSV()), c.r, c.g, c.b, 1, 1e-6f);
   }
 }
 
@@ -130,12 +126,11 @@ TEST(ColorTest, PctToHsvAndSixteenBitChannels) {
 TEST(ColorTest, ContrastAgainstBackgrounds) {
   EXPECT_EQ(g3d_Color::GetContrastingColor({1, 1, 1}), g3d_Color(0, 0, 0));
   EXPECT_EQ(g3d_Color::GetContrastingColor({0, 0, 0.5f}), g3d_Color(1, 1, 1));
-  g3d_Color white(1, 1, 1, 0.5f);
-  EXPECT_EQ(white.Invert({1, 1, 1}, 0.25f), g3d_Color(0, 0, 0, 0.5f));  // complement
-  g3d_Color grey(0.5f, 0.5f, 0.5f);
-  EXPECT_EQ(grey.Invert({0.5f, 0.5f, 0.5f}, 0.25f), g3d_Color(0, 0, 0));  // complement too close
-  g3d_Color red(1, 0, 0);
-  EXPECT_EQ(red.Invert({0, 0, 0}, 0.25f), g3d_Color(1, 0, 0));  // already apart
+  const g3d_Color grey(0.5f, 0.5f, 0.5f);
+  // The complement, keeping the alpha.
+  EXPECT_EQ(g3d_Color(1, 1, 1, 0.5f).Invert({1, 1, 1}, 0.25f), g3d_Color(0, 0, 0, 0.5f));
+  EXPECT_EQ(g3d_Color(grey).Invert(grey, 0.25f), g3d_Color(0, 0, 0));  // complement too close
+  EXPECT_EQ(g3d_Color(1, 0, 0).Invert({0, 0, 0}, 0.25f), g3d_Color(1, 0, 0));  // already apart
 }
 
 TEST(ColorArrayTest, PaletteStoresClampedPackedColors) {

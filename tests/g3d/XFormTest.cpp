@@ -54,12 +54,9 @@ TEST(XFormTest, DegenerateInputsLeaveTheMatrixAsItWas) {
 }
 
 TEST(XFormTest, FactorsApplyRightToLeft) {
-  g3d_XForm m;
-  m.SetScale(2, 2, 2).Translate(1, 0, 0);
-  EXPECT_EQ(Apply(m, {0, 0, 0}), g3d_Point(2, 0, 0));  // translated in the scaled frame
-  g3d_XForm n;
-  n.Translate(5, 0, 0).Rotate(90, {0, 0, 1});  // rotate first, then translate
-  ExpectNear(Apply(n, {1, 0, 0}), {5, 1, 0, 1});
+  // Translated in the scaled frame; rotated first, then translated.
+  EXPECT_EQ(Apply(g3d_XForm().SetScale(2, 2, 2).Translate(1, 0, 0), {0, 0, 0}), g3d_Point(2, 0, 0));
+  ExpectNear(Apply(g3d_XForm().Translate(5, 0, 0).Rotate(90, {0, 0, 1}), {1, 0, 0}), {5, 1, 0, 1});
   const g3d_XForm product =
       g3d_XForm().SetTranslate(g3d_Vector(5, 0, 0)) * g3d_XForm().SetRotate(90, {0, 0, 1});
   ExpectNear(Apply(product, {1, 0, 0}), {5, 1, 0, 1});
@@ -90,8 +87,7 @@ TEST(XFormTest, InverseTimesMatrixIsIdentity) {
 }
 
 TEST(XFormTest, ProjectionsMapKnownPoints) {
-  g3d_XForm p;
-  p.SetPerspectiveProjection(-1, 1, 1, -1, 1, 10);
+  const g3d_XForm p = g3d_XForm().SetPerspectiveProjection(-1, 1, 1, -1, 1, 10);
   const auto ndc = [&p](g3d_Point q) {
     q = Apply(p, q);
     return g3d_Point(q.x / q.w, q.y / q.w, q.z / q.w);
