@@ -92,13 +92,6 @@ omu_PrimDictionary<cow_String> RandomDictionary(Rng& rng) {
   return dictionary;
 }
 
-template <class V>
-mdl_PropAttr<V> Attribute(V value) {
-  mdl_PropAttr<V> attribute;
-  attribute = std::move(value);
-  return attribute;
-}
-
 using Maker = std::function<std::unique_ptr<Item>(Rng&)>;
 template <class T>
 Maker Kind(const char* name, T (*make)(Rng&), void (*change)(T&, Rng&) = Unchanging<T>) {
@@ -116,7 +109,7 @@ const std::vector<Maker>& Kinds() {
         t.Set(Pick(r, t.Rows()), Pick(r, t.Columns()), Number(r));
       }),
       Kind<mdl_PropAttr<double>>(
-          "attribute", [](Rng& r) { return Attribute(Number(r)); },
+          "attribute", [](Rng& r) { return mdl_PropAttr<double>(Number(r)); },
           [](mdl_PropAttr<double>& a, Rng& r) {
             if (Pick(r, 3) == 0) return a.NewUid();
             a = Number(r);

@@ -26,8 +26,7 @@ PropString Holder(mdl_PropAttributeStateEnm state, const char* value = "abc") {
 
 TEST(PropAttr, AValueGivenAtConstructionIsNoSetAndCopiesKeepTheUid) {
   const PropString given(cow_String("steel"));
-  EXPECT_EQ(given.State(), UNSET);
-  EXPECT_TRUE(given == cow_String("steel"));
+  EXPECT_EQ(given, Holder(UNSET, "steel"));
   EXPECT_NE(given.Uid(), PropString().Uid());
   EXPECT_EQ(PropString(given).Uid(), given.Uid());
 }

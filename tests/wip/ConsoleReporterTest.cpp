@@ -119,7 +119,7 @@ TEST(Progress, AnInterruptStopsTheTaskOnceAndCommandDoneForgetsIt) {
   try {
     for (int i = 0; i < 10; ++i) {
       if (i == 4) {
-        console.RequestInterrupt();  // as a user interface thread would
+        console.RequestInterrupt();           // as a user interface thread would
         EXPECT_TRUE(progress.Interrupted());  // asking leaves the request for the check
       }
       progress.CheckInterrupt();

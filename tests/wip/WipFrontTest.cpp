@@ -19,7 +19,10 @@ TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
     const char* recorded;
   } forwardings[] = {
       {"Error", [](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
-      {"ErrorList", [](wip_WIPBase& f) { f.ErrorList({"a", "b"}, wip_errorLevelEnm(42)); },
+      {"ErrorList",
+       [](wip_WIPBase& f) {
+         f.ErrorList({"a", "b"}, static_cast<wip_errorLevelEnm>(42));
+       },
        "ErrorList(a;b|42)"},
       {"Verbose", [](wip_WIPBase& f) { f.Verbose("detail"); }, "Verbose(detail)"},
       {"Warning", [](wip_WIPBase& f) { f.Warning("thin"); }, "Warning(thin)"},
@@ -36,7 +39,6 @@ TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
       {"FacilityMessage",
        [](wip_WIPBase& f) {
          omu_PrimTuple arguments(1);
-         arguments.Put(3);
          f.FacilityMessage("thin shell", 3, 1, 2, arguments);
        },
        "Warning(thin shell)"},
