@@ -157,6 +157,31 @@ TEST(Archive, AnObjectThatWritesItselfIsRefusedBeforeItCannotBeReadBack) {
   EXPECT_EQ(archive.RootCount(), 0);
 }
 
+TEST(Archive, AnArrayItsCellsDoNotFillIsRefusedBeforeItIsWritten) {
+  struct Row {
+    cls_Matrix matrix;
+    const char* message;
+  };
+  const Row rows[] = {
+      {{2, 2, {1.0, 2.0, 3.0}}, "archive: an array of 2 x 2 cannot hold 3 cells"},
+      {{1, 1, {1.0, 2.0}}, "archive: an array of 1 x 1 cannot hold 2 cells"},
+      {{-1, 0, {}}, "archive: an array of -1 x 0 cannot hold 0 cells"},
+  };
+  for (const Row& row : rows) {
+    struct Holder {
+      const cls_Matrix& matrix;
+      static unsigned int TypeId() { return 0x7fff0001u; }
+      void DBWrite(const cls_WriteVisitor& w) const {
+        if (w.StartWrite(TypeId(), cls_Uid(43))) w.Write("matrix", matrix);
+      }
+    };
+    cls_Archive archive;
+    archive.Add(Holder{row.matrix});
+    // Save encodes before it touches the file, so the refusal leaves any old file as it was.
+    EXPECT_EQ(RaisedText([&] { archive.ToBytes(); }), row.message);
+  }
+}
+
 TEST(Archive, OneArchiveIsReadFromSeveralThreadsAtOnce) {
   cls_Archive archive;
   archive.Add(AllKinds());

@@ -151,7 +151,6 @@ TEST(PropertyTable, RoundTripsThroughAnArchiveFileBitForBit) {
 
 TEST(PropertyTable, AForeignTableIsRefusedAsATextFailure) {
   const cls_Matrix forged[] = {
-      {2, 2, {1.0, 2.0, 3.0}},                    // fewer cells than its shape
       {-1, 0, {}},                                // negative shape
       {1, 2, {1.0, cls_Value(std::int32_t{2})}},  // a cell of another kind
   };
