@@ -21,7 +21,6 @@ def test_good_calls_bind(args, kwargs):
 # One row per wrong call: what the library's binder raises, in its order of faults.
 @pytest.mark.parametrize("args, kwargs, message", [
     ((1, 2.5), {}, "probe; not all required arguments specified; expected 3, got 2"),
-    ((), {}, "probe; not all required arguments specified; expected 3, got 0"),
     ((1, 2.5, "abc", True, "x", 6), {}, "probe; too many arguments; expected 5, got 6"),
     ((1, 2.5, "abc"), {"colour": "red"}, "probekeyword error on colour"),
     ((1, 2.5, "abc"), {"".join(["col", "our"]): "red"}, "probekeyword error on colour"),
