@@ -169,8 +169,8 @@ TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNone) {
   EXPECT_GT(walked, 30);  // the list was walked
 }
 
-// The names built from other bindings' names or shared with them; every number kind's is "int"
-// or "float" by one test of its kind.
+// The names built from other bindings' names or shared with them. A number's is "int" or "float"
+// by one test of its kind, which the reads above and ArgumentsTest show.
 TEST(Binding, ComposedExpectedNames) {
   const std::pair<std::string, const char*> cases[] = {
       {NameOf<cow_List<bool>>(), "sequence of Boolean"},
