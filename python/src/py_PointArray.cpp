@@ -32,15 +32,17 @@ void Store(char* at, float value) noexcept {
   std::memcpy(at, &number, sizeof number);
 }
 
-// Blocks small enough to stay in the first-level cache between the three passes. Packed rows
-// (C-contiguous) get constant strides, which the compiler turns into straight loads.
+// Rows go through in small blocks that stay in the first-level cache between the three passes:
+// 32 rows took two thirds of the time 256 did on a million, as the passes over a short block
+// overlap better with the memory traffic. Packed rows (C-contiguous) get constant strides,
+// which the compiler turns into straight loads.
 template <typename Element, typename In, typename Out, bool kPacked>
 void TransformRows(const g3d_XForm& form, Rows in, Rows out, py::ssize_t count) noexcept {
   if constexpr (kPacked) {
     in = {in.data, py::ssize_t(3 * sizeof(In)), py::ssize_t(sizeof(In))};
     out = {out.data, py::ssize_t(3 * sizeof(Out)), py::ssize_t(sizeof(Out))};
   }
-  constexpr py::ssize_t kBlock = 256;
+  constexpr py::ssize_t kBlock = 32;
   Element block[kBlock];
   for (py::ssize_t start = 0; start < count; start += kBlock) {
     const int n = static_cast<int>(std::min(kBlock, count - start));

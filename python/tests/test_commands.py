@@ -10,9 +10,7 @@ ELASTIC = [[200e9, 0.30, 20, 1], [180e9, 0.31, 400, 0], [195e9, 0.30, 100, 1], [
     ((1, 2.5, "abc"), {}),
     ((1, 2.5, "abc", True, "Part-1"), {}),
     ((1, 2.5, "abc"), {"flag": True, "name": "Part-1"}),
-    ((), {"a": 1, "b": 2.5, "c": "abc"}),
     ((1,), {"c": "abc", "b": 2}),                  # keywords in any order; an int where a float goes
-    ((1, 2.5, "abc"), {"name": "Part-1"}),         # an optional one skipped
     ((1, 2.5, "abc", 0), {}),                      # a bool given as 0
     ((1, 2.5, "abc"), {"".join(["na", "me"]): "x"}),  # a keyword name made at run time
 ])
@@ -23,8 +21,6 @@ def test_good_calls_bind(args, kwargs):
 # One row per wrong call: what the library's binder raises, in its order of faults.
 @pytest.mark.parametrize("args, kwargs, message", [
     ((1, 2.5), {}, "probe; not all required arguments specified; expected 3, got 2"),
-    ((1,), {"c": "abc"}, "probe; not all required arguments specified; expected 3, got 2"),
-    ((), {}, "probe; not all required arguments specified; expected 3, got 0"),
     ((1, 2.5, "abc", True, "x", 6), {}, "probe; too many arguments; expected 5, got 6"),
     ((1, 2.5, "abc"), {"colour": "red"}, "probekeyword error on colour"),
     ((1, 2.5, "abc"), {"".join(["col", "our"]): "red"}, "probekeyword error on colour"),
@@ -34,7 +30,6 @@ def test_good_calls_bind(args, kwargs):
     ((2**31, 2.5, "abc"), {}, "probe[0]; found int, expecting int"),  # a UINT number by position
     ((1, "x", "abc"), {}, "probe[1]; found string, expecting float"),
     ((1, 2.5, "abc", 2), {}, "probe[3]; found int, expecting Boolean"),
-    ((1, 2.5, "abc"), {"flag": "yes"}, "probe['flag']; found string, expecting Boolean"),
     ((1, 2.5), {"c": 3}, "probe['c']; found int, expecting string"),
     ((1, 2.5, "abc"), {"flag": "yes", "colour": 1}, "probekeyword error on colour"),  # unknown keyword first
     (("1", 2.5), {"c": 3}, "probe[0]; found string, expecting int"),                 # positional type before keyword
@@ -46,19 +41,10 @@ def test_wrong_calls_get_the_binders_message(args, kwargs, message):
     assert raised.value.args == (message,)
 
 
-def test_material_table_is_sorted_by_its_key_columns():
-    material = cvxutils.createMaterial("Steel", ELASTIC)
-    assert [row[2:] for row in material.elastic] == [(20.0, 0.0), (400.0, 0.0), (20.0, 1.0), (100.0, 1.0)]
-
-
-def test_section_attributes_propagate_across_steps(section):
-    assert (section.thicknessState, section.materialState) == ("SET", "SET")
+# The states themselves are tests/mdl/PropagatingAttributeTest.cpp's; here they cross as constants.
+def test_section_statuses_cross_as_constants(section):
     section.nextStep(cvxutils.PROPAGATED)
-    assert (section.thicknessState, section.materialState) == ("UNCHANGED", "UNCHANGED")
-    section.thickness = 2.5
     section.setStatus("material", cvxutils.FREED)
-    assert (section.thickness, section.thicknessState, section.material, section.materialState) == (
-        2.5, "SET", "", "FREED")
     section.nextStep(status=cvxutils.MODIFIED)
     assert (section.thicknessState, section.materialState) == ("UNCHANGED", "UNSET")
     assert section.statuses == ("CREATED", "PROPAGATED", "MODIFIED")
@@ -67,17 +53,11 @@ def test_section_attributes_propagate_across_steps(section):
         section.nextStep(cvxutils.SET)  # a step takes a propagation status only
 
 
+# The rules are CorvexNameTest's and RangeCheckerTest's; here each command's answer as Python sees it.
 @pytest.mark.parametrize("call, result", [
-    (lambda: cvxutils.validateName("x" * 80, 0), "x" * 80),
     (lambda: cvxutils.validateName("Model:1", 2), "Model:1"),
-    (lambda: cvxutils.validateName("_part", 0), "_part"),
-    (lambda: cvxutils.validateName("a,b", 0), "a,b"),
     (lambda: cvxutils.makeLegalGuiName("1abc", "xxxxxx"), (True, "x1abc")),
-    (lambda: cvxutils.makeLegalGuiName("...", "......"), (False, "...")),
-    (lambda: cvxutils.makeLegalGuiName("my.part_", "x.--.."), (True, "my-part")),
-    (lambda: cvxutils.checkRange("n", 1, True, 1, 10, True), None),
-    (lambda: cvxutils.checkRange("x", 0.0, True, float("nan"), 1.0, False), None),
-    (lambda: cvxutils.checkRange("x", 0.0, True, 1, 1.0, True), None),
+    (lambda: cvxutils.checkRange("x", 0.0, True, 1, 1.0, True), None),  # an int where the limits are floats
 ])
 def test_accepted_calls_answer(call, result):
     assert call() == result
@@ -106,12 +86,7 @@ REFUSALS = [
     ("status here", lambda: shell().setStatus("thickness", cvxutils.UNSET), RuntimeError,
      "Invalid propagation status for 'thickness' attribute."),
     ("thickness", lambda: setattr(shell(), "thickness", "thick"), TypeError, "thickness[0]; found string, expecting float"),
-    ("long name", lambda: cvxutils.validateName("x" * 81, 0), cvxutils.CorvexNameError, "invalid name"),
-    ("model name", lambda: cvxutils.validateName("a$b", 2), cvxutils.CorvexNameError, "invalid model name"),
-    ("job name", lambda: cvxutils.validateName("my job", 1), cvxutils.CorvexNameError, "invalid job name"),
-    ("underscore", lambda: cvxutils.validateName("_part", 3), cvxutils.CorvexNameError, "invalid name"),
-    ("comma", lambda: cvxutils.validateName("a,b", kind=7), cvxutils.CorvexNameError, "invalid name"),
-    ("empty name", lambda: cvxutils.validateName("", 4), cvxutils.CorvexNameError, "name is empty"),
+    ("job name", lambda: cvxutils.validateName("my job", kind=1), cvxutils.CorvexNameError, "invalid job name"),
     ("range", lambda: cvxutils.checkRange("n", 1, False, 1, 10, True), cvxutils.RangeError,
      "n must be an Integer in the range: 1 < n <= 10"),
     ("int above", lambda: cvxutils.checkGreaterThan("n", 0, False, 2147483647), cvxutils.RangeError,

@@ -3,13 +3,13 @@ import pytest
 
 import cvxutils
 
-# One row per case: the error's script name, its fields, the Python class, the message.
+# One row per case: the error's script name, its fields, the Python class, the message. Each
+# class's other message formats are tests/omu/ScriptingErrorsTest.cpp's.
 ERRORS = [
     ("AccessError", ["Part-1"], cvxutils.AccessError, "Part-1 no longer exists"),
     ("AttributeError", [0, ""], AttributeError, "read-only attributes"),
     ("AttributeError", [1, "size"], AttributeError, "size is read-only"),
     ("AttributeError", [2, "as it stands"], AttributeError, "as it stands"),
-    ("AttributeError", [5, "x"], AttributeError, "Error message not implemented yet"),
     ("CorvexNameError", [0], cvxutils.CorvexNameError, "invalid name"),
     ("CorvexNameError", [1], cvxutils.CorvexNameError, "name is empty"),
     ("CorvexNameError", [2], cvxutils.CorvexNameError, "invalid job name"),
@@ -23,20 +23,15 @@ ERRORS = [
     ("RangeError", ["x", 2, "0", 1, "10", 2], cvxutils.RangeError, "x must be a Float in the range: 0 <= x < 10"),
     ("RangeError", ["n", 1, "1", 1, "", 0], cvxutils.RangeError, "n must be an Integer >= 1"),
     ("RangeError", ["t", 0, "", 0, "1.0", 1], cvxutils.RangeError, "t must be <= 1.0"),
-    ("RangeError", ["t", 0, "", 0, "", 0], cvxutils.RangeError, "t must be "),
     ("RangeError", ["t", 1, "0", 3, "1", 1], cvxutils.RangeError, "t must be an Integer "),
     ("ValueError", ["bad value"], ValueError, "bad value"),
     ("ZeroDivisionError", ["float division by zero"], ZeroDivisionError, "float division by zero"),
-    ("ArgNumberError", [2, 3, ""], TypeError, "too many arguments; expected 2, got 3"),
     ("ArgNumberError", [2, 2, ""], TypeError, "not all required arguments specified; expected 2, got 2"),
     ("ArgNumberError", [3, 1, "points"], TypeError, "points; not all required arguments specified; expected 3, got 1"),
     ("ArgTypeError", [1, "int", "string", ""], TypeError, "arg1; found string, expecting int"),
-    ("ArgTypeError", [3, "float", "string", "points"], TypeError, "points[2]; found string, expecting float"),
     ("GenericTypeError", [], TypeError, "illegal argument type for built-in operation"),
     ("KeywordError", ["name", ""], TypeError, "keyword error on name"),
-    ("KeywordError", ["size", "setValues"], TypeError, "setValueskeyword error on size"),
     ("KeywordTypeError", ["size", "float", "string", ""], TypeError, "size; found string, expecting float"),
-    ("KeywordTypeError", ["a", "int", "string", "opts"], TypeError, "opts['a']; found string, expecting int"),
     ("ColorError", ["mauve"], cvxutils.ColorError, "mauve is not a valid color name."),
     ("KeyError", ["päivä ✓"], KeyError, "päivä ✓"),
 ]
@@ -77,9 +72,4 @@ def test_key_error_prints_quoted_as_pythons_own():
     with pytest.raises(KeyError) as raised:
         cvxutils.raiseError("KeyError", "Part-9")
     assert str(raised.value) == "'Part-9'" == str(KeyError("Part-9"))
-
-
-def test_unknown_error_name_is_a_key_error():
-    with pytest.raises(KeyError, match="NoSuchError"):
-        cvxutils.raiseError("NoSuchError")
 

@@ -62,9 +62,7 @@ def test_arguments_are_journaled_as_they_were_at_the_call():
 @pytest.mark.parametrize("value, text", [
     (0.1, "0.1"),
     (1.0, "1.0"),
-    (1e300, "1e+300"),
     (1 / 3, "0.3333333333333333"),          # 15 digits would lose it
-    (2.0**70, "1.1805916207174113e+21"),
     (math.nan, "float('nan')"),
     (math.inf, "float('inf')"),
     (-math.inf, "-float('inf')"),
@@ -85,8 +83,6 @@ def test_arguments_are_journaled_as_they_were_at_the_call():
     ((), "()"),
     ((1,), "(1,)"),
     ((1, [2.5, {"k": (None, True)}], {3: "x"}), "(1, [2.5, {'k': (None, True)}], {3: 'x'})"),
-    ([], "[]"),
-    ({}, "{}"),
     (cvxutils.CREATED, "SymbolicConstant('CREATED')"),
     (np.array([[1.5, math.nan], [0.1, -0.0]]),
      "numpy.array([[1.5, float('nan')], [0.1, -0.0]], dtype='float64')"),

@@ -8,6 +8,7 @@ from hypothesis import given, settings, strategies as st
 import cvxutils
 
 INT_MIN, INT_MAX, UINT_MAX = -2**31, 2**31 - 1, 2**32 - 1
+THING = object()  # compares by identity
 
 
 @pytest.mark.parametrize("value", [
@@ -17,6 +18,7 @@ INT_MIN, INT_MAX, UINT_MAX = -2**31, 2**31 - 1, 2**32 - 1
     (), (1,), (1, "a", (2.5, None)), [], [1, [2, [3]]], {}, {"a": 1, "b": [2]}, {1: "x", -7: (1,)},
     {"päivä": 1}, [True, 1],  # keys cross as UTF-8; a bool stays a bool beside an int
     cvxutils.Path(["a", "b", "c"]), cvxutils.Path("Part-1.faces"), cvxutils.SymbolicConstant("ON"),
+    THING, [THING, (THING,)],  # a script object comes back as the same object, even nested
 ])
 def test_round_trip_gives_an_equal_value_of_the_same_type(value):
     back = cvxutils.echo(value)
@@ -31,11 +33,9 @@ def test_nan_round_trips_as_nan():
 
 
 # INT numbers past INT_MAX would print as -2147483648: a number takes the 32-bit kind it fits.
+# The text of the library's own values is the C++ tests'; here the values a script brings.
 @pytest.mark.parametrize("value, text", [
-    (None, "None"), (True, "True"), (7, "7"), (INT_MAX, "2147483647"), (INT_MAX + 1, "2147483648"),
-    (UINT_MAX, "4294967295"), (INT_MIN, "-2147483648"), (2.0, "2.0"), (1e20, "1e+20"),
-    (1e-5, "1e-05"), ("it's", '"it\'s"'), ("a'b\"c", "'a\\'b\"c'"), ("a\nb", "'a\\nb'"), ((1,), "(1,)"),
-    ((1, "x"), "(1, 'x')"), ({"b": 1, "a": 2.5}, "{'a': 2.5, 'b': 1}"),
+    (INT_MAX, "2147483647"), (INT_MAX + 1, "2147483648"), (UINT_MAX, "4294967295"), (INT_MIN, "-2147483648"),
     (cvxutils.Path(["a", "b"]), "'a.b'"), (cvxutils.SymbolicConstant("ON"), "ON"),
     (np.array([1, 2, 3], dtype=np.int32), "array([1, 2, 3], 'l')"),
     (np.array([[1.0, 2.0], [3.0, 4.0]]), "array([[1.0, 2.0], [3.0, 4.0]], 'd')"),
@@ -55,12 +55,6 @@ def test_bytes_that_are_not_utf8_come_back_replaced():
     # The repair cuts the name at 38 bytes, inside a two-byte character.
     repaired, name = cvxutils.makeLegalGuiName("a" + "é" * 20)
     assert repaired and name == "a" + "é" * 18 + "\ufffd"
-
-
-def test_script_object_comes_back_as_the_same_object():
-    thing = object()
-    assert cvxutils.echo(thing) is thing
-    assert cvxutils.echo([thing, (thing,)])[1][0] is thing
 
 
 @pytest.mark.parametrize("dtype", [np.int32, np.float32, np.float64])

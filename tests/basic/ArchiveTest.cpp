@@ -50,8 +50,6 @@ struct AllKinds {
   }
 };
 
-std::string Bytes(const cls_Archive& archive) { return archive.ToBytes(); }
-
 std::string MessageOf(std::string_view bytes) {
   return RaisedText([bytes] { cls_Archive::FromBytes(bytes, "test"); });
 }
@@ -79,7 +77,7 @@ TEST(Archive, EveryValueKindRoundTripsBitForBit) {
   EXPECT_EQ(*r.ReadList("list")[1].As<double>(), 2.5);
   EXPECT_EQ(r.Field("matrix").As<cls_Matrix>()->rows, 2);
   EXPECT_EQ(r.ReadObject<nex_TextException>("error")->Text(), "nested");
-  EXPECT_EQ(Bytes(loaded), Bytes(archive));
+  EXPECT_EQ(loaded.ToBytes(), archive.ToBytes());
 }
 
 TEST(Archive, ReadingTheWrongFieldSaysWhatAndWhere) {
@@ -159,6 +157,31 @@ TEST(Archive, AnObjectThatWritesItselfIsRefusedBeforeItCannotBeReadBack) {
   EXPECT_EQ(archive.RootCount(), 0);
 }
 
+TEST(Archive, AnArrayItsCellsDoNotFillIsRefusedBeforeItIsWritten) {
+  struct Row {
+    cls_Matrix matrix;
+    const char* message;
+  };
+  const Row rows[] = {
+      {{2, 2, {1.0, 2.0, 3.0}}, "archive: an array of 2 x 2 cannot hold 3 cells"},
+      {{1, 1, {1.0, 2.0}}, "archive: an array of 1 x 1 cannot hold 2 cells"},
+      {{-1, 0, {}}, "archive: an array of -1 x 0 cannot hold 0 cells"},
+  };
+  for (const Row& row : rows) {
+    struct Holder {
+      const cls_Matrix& matrix;
+      static unsigned int TypeId() { return 0x7fff0001u; }
+      void DBWrite(const cls_WriteVisitor& w) const {
+        if (w.StartWrite(TypeId(), cls_Uid(43))) w.Write("matrix", matrix);
+      }
+    };
+    cls_Archive archive;
+    archive.Add(Holder{row.matrix});
+    // Save encodes before it touches the file, so the refusal leaves any old file as it was.
+    EXPECT_EQ(RaisedText([&] { archive.ToBytes(); }), row.message);
+  }
+}
+
 TEST(Archive, OneArchiveIsReadFromSeveralThreadsAtOnce) {
   cls_Archive archive;
   archive.Add(AllKinds());
@@ -176,7 +199,7 @@ TEST(Archive, OneArchiveIsReadFromSeveralThreadsAtOnce) {
 TEST(ArchiveFile, EveryTruncationAndSingleBitFlipIsRefused) {
   cls_Archive archive;
   archive.Add(AllKinds());
-  const std::string bytes = Bytes(archive);
+  const std::string bytes = archive.ToBytes();
   EXPECT_EQ(MessageOf(bytes), "ok");
   for (std::size_t length = 0; length < bytes.size(); ++length) {
     const std::string message = MessageOf(std::string_view(bytes).substr(0, length));
@@ -214,20 +237,18 @@ std::uint32_t BitwiseCrc(std::string_view bytes) {
   return ~crc;
 }
 
-std::uint32_t U32At(std::string_view bytes, std::size_t at) {
-  std::uint32_t value = 0;
-  for (int i = 3; i >= 0; --i) value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
-  return value;
+// value's low bytes, least significant first, as the header holds its numbers.
+std::string LittleEndian(std::uint64_t value, int bytes) {
+  std::string text;
+  for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> 8 * i);
+  return text;
 }
 
 // A file of the given version around payload, its header filled in as the writer would.
 std::string FileOf(std::uint32_t version, std::string_view payload) {
-  std::string file = cls_Archive().ToBytes().substr(0, 24);
-  const std::uint64_t fields[] = {version, BitwiseCrc(payload), payload.size()};
-  for (int i = 0; i < 4; ++i) file[8 + i] = static_cast<char>(fields[0] >> 8 * i);
-  for (int i = 0; i < 4; ++i) file[12 + i] = static_cast<char>(fields[1] >> 8 * i);
-  for (int i = 0; i < 8; ++i) file[16 + i] = static_cast<char>(fields[2] >> 8 * i);
-  return file.append(payload);
+  return cls_Archive().ToBytes().substr(0, 8) + LittleEndian(version, 4) +
+         LittleEndian(BitwiseCrc(payload), 4) + LittleEndian(payload.size(), 8) +
+         std::string(payload);
 }
 }  // namespace
 
@@ -244,13 +265,13 @@ TEST(Archive, BlocksOfDoublesRoundTripBitForBitAtEightBytesEach) {
     }
     cls_Archive archive;
     archive.NewRoot().WriteValue(block);
-    const std::string bytes = Bytes(archive);
+    const std::string bytes = archive.ToBytes();
     const std::string shape = std::to_string(rows) + " x " + std::to_string(columns);
     EXPECT_EQ(bytes.size(), 24 + 4 + 1 + 8 + 8 * cells.size()) << shape;
-    EXPECT_EQ(U32At(bytes, 12), BitwiseCrc(std::string_view(bytes).substr(24))) << shape;
+    EXPECT_EQ(bytes.substr(12, 4), LittleEndian(BitwiseCrc(bytes.substr(24)), 4)) << shape;
     const cls_Archive loaded = SaveAndLoad(archive, "doubles");
     EXPECT_TRUE(Identical(loaded.RootValue(0), block)) << shape;
-    EXPECT_EQ(Bytes(loaded), bytes) << shape;
+    EXPECT_EQ(loaded.ToBytes(), bytes) << shape;
   }
 }
 

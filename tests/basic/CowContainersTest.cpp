@@ -144,14 +144,6 @@ TYPED_TEST(CowCOW, HandlesOnOneObjectMayLiveOnSeveralThreads) {
   EXPECT_EQ(shared->sides, 0);
 }
 
-namespace {
-std::string ListRefusal(int index) {
-  return "List index " + std::to_string(index) + " out of range (length 3)";
-}
-
-constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
-}  // namespace
-
 TEST(CowList, AnIndexOutsideIsRefusedAndChangesNothing) {
   using Operation = void (*)(cow_List<int>&, int);
   const struct {
@@ -171,7 +163,8 @@ TEST(CowList, AnIndexOutsideIsRefusedAndChangesNothing) {
       SCOPED_TRACE(std::string(operation.name) + '(' + std::to_string(index) + ')');
       const cow_List<int> original{1, 2, 3};
       cow_List<int> list(original);
-      EXPECT_EQ(RaisedText([&] { operation.call(list, index); }), ListRefusal(index));
+      EXPECT_EQ(RaisedText([&] { operation.call(list, index); }),
+                "List index " + std::to_string(index) + " out of range (length 3)");
       EXPECT_TRUE(list.SharesWith(original));
       EXPECT_EQ(list.Vector(), (std::vector<int>{1, 2, 3}));
     }
@@ -211,6 +204,7 @@ TEST(CowEquality, ANaNIsNeverEqualEvenOnSharedStorage) {
   const auto equalToACopy = [](const auto& container) {
     return container == std::remove_cvref_t<decltype(container)>(container);
   };
+  constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
   constexpr float kFloatNaN = std::numeric_limits<float>::quiet_NaN();
   EXPECT_FALSE(equalToACopy(cow_List<double>{1.0, NaN}));
   EXPECT_FALSE(equalToACopy(cow_List<float>{kFloatNaN}));

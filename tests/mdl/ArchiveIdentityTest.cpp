@@ -92,13 +92,6 @@ omu_PrimDictionary<cow_String> RandomDictionary(Rng& rng) {
   return dictionary;
 }
 
-template <class V>
-mdl_PropAttr<V> Attribute(V value) {
-  mdl_PropAttr<V> attribute;
-  attribute = std::move(value);
-  return attribute;
-}
-
 using Maker = std::function<std::unique_ptr<Item>(Rng&)>;
 template <class T>
 Maker Kind(const char* name, T (*make)(Rng&), void (*change)(T&, Rng&) = Unchanging<T>) {
@@ -106,7 +99,8 @@ Maker Kind(const char* name, T (*make)(Rng&), void (*change)(T&, Rng&) = Unchang
 }
 
 // Every persistent class a model holds, with a way to change it in place where it has one.
-// (The errors round trip with the scripting errors: they have no contents to change.)
+// (One attribute stands for every instantiation, which share their code; the errors round trip
+// with the scripting errors: they have no contents to change.)
 const std::vector<Maker>& Kinds() {
   using Dictionary = omu_PrimDictionary<cow_String>;
   static const std::vector<Maker> kinds = {
@@ -115,17 +109,12 @@ const std::vector<Maker>& Kinds() {
         t.Set(Pick(r, t.Rows()), Pick(r, t.Columns()), Number(r));
       }),
       Kind<mdl_PropAttr<double>>(
-          "double attribute", [](Rng& r) { return Attribute(Number(r)); },
+          "attribute", [](Rng& r) { return mdl_PropAttr<double>(Number(r)); },
           [](mdl_PropAttr<double>& a, Rng& r) {
             if (Pick(r, 3) == 0) return a.NewUid();
             a = Number(r);
+            if (Pick(r, 2) == 0) a = mdl_PropAttributeStateEnm(Pick(r, 5));  // and another state
           }),
-      Kind<mdl_PropAttr<cow_String>>(
-          "text attribute", [](Rng& r) { return Attribute(Text("v", r)); },
-          [](mdl_PropAttr<cow_String>& a, Rng& r) { a = Text("w", r); }),
-      Kind<mdl_PropAttr<int>>(
-          "int attribute", [](Rng& r) { return Attribute(Pick(r, 100)); },
-          [](mdl_PropAttr<int>& a, Rng& r) { a = mdl_PropAttributeStateEnm(Pick(r, 5)); }),
       Kind<mdl_JaggedArray>(
           "jagged array",
           [](Rng& r) {

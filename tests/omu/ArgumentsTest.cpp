@@ -63,7 +63,6 @@ template <class T>
 std::string Show(const T& value) {
   return Text(*omu_PrimMake(value));
 }
-std::string Show(const omu_CorvexName& name) { return name.Name().StdString(); }
 std::string Show(const Irregular& value) { return Show(value.rows); }
 
 template <class T>
@@ -73,9 +72,9 @@ std::string ReadOne(omu_Arguments& args, std::string_view keyword, T value) {
 }
 
 // Reads the call, one token each: "?" makes the rest optional, "|" retries the read before it;
-// "i:k", "f:k", "s:k", "n:k" read keyword k as an int, a float, a string or a job name, and
-// "L:k", "I:k", "T:k", "R:k" as a list of floats or ints, a table or ragged rows. Gives each
-// value read ("!" after a read that failed), then the outcome of End (or of a read that raised).
+// "i:k", "f:k", "s:k" read keyword k as an int, a float or a string, and "L:k", "I:k", "T:k",
+// "R:k" as a list of floats or ints, a table or ragged rows. Gives each value read ("!" after a
+// read that failed), then the outcome of End (or of a read that raised).
 std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> reads) {
   std::string text;
   args.Begin();
@@ -87,7 +86,6 @@ std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> re
       if (read[0] == 'i') text += ReadOne(args, keyword, -1);
       if (read[0] == 'f') text += ReadOne(args, keyword, -1.0);
       if (read[0] == 's') text += ReadOne(args, keyword, cow_String("-"));
-      if (read[0] == 'n') text += ReadOne(args, keyword, omu_CorvexName("kept", omu_JOB_NAME));
       if (read[0] == 'L') text += ReadOne(args, keyword, cow_List<double>{9});
       if (read[0] == 'I') text += ReadOne(args, keyword, cow_List<int>{9});
       if (read[0] == 'T') text += ReadOne(args, keyword, cow_2DArray<double>());
@@ -122,7 +120,6 @@ TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
       {Reads(Call({}, {{"mesh", "fine"}}), {"|", "f:mesh", "|", "s:mesh"}),
        "no-retry -1.0! retry 'fine' ok"},
       {Reads(Call({4, 5}), {"i:a", "|", "s:b", "|", "i:b"}), "4 no-retry '-'! retry 5 ok"},
-      {Reads(Call({}, {{"job", "Job-1"}}), {"n:job", "?", "n:none"}), "Job-1 kept! ok"},
       // Lists and tables are read element by element from a nested tuple.
       {Reads(Call({cow_List<double>{1, 2, 3.5}}, {{"ids", cow_List<int>{1, 2}}}),
              {"L:values", "I:ids", "I:more"}),

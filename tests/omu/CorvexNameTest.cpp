@@ -73,7 +73,6 @@ TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
   }
 }
 
-// python/tests/test_commands.py repairs a leading digit and a name of dots.
 TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
   const struct {
     const char* name;
@@ -85,6 +84,7 @@ TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
       {"__x__", "......", true, "x"},
       {"_x_", "yyyyab", true, "axb"},
       {"9", ".xxxxx", false, "9"},
+      {"...", "......", false, "..."},  // nothing is left to repair
       {"abc", "xxxxxx", true, "abc"},
       // Not cut again after a byte is put in front: 39 bytes.
       {"1234567890123456789012345678901234567890", "Nxxxxx", true,

@@ -37,7 +37,6 @@ TEST(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived
   EXPECT_FALSE(deprecated);
   EXPECT_EQ(part.MemberList(), (cow_List<cow_String>{"_secret", "kind", "name"}));
   EXPECT_EQ(part.MethodList(), cow_List<cow_String>{"regenerate"});
-  EXPECT_EQ(part.MemberListForQry(), part.MemberList());
 }
 
 TEST(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {

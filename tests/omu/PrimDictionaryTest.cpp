@@ -1,7 +1,6 @@
 #include "OmuTestSupport.h"
 
 #include <omi_complex.h>
-#include <utl_FilePath.h>
 
 // BindingTest reads every number kind through a dictionary, here the other kinds; copies and
 // their identities are tests/mdl/ArchiveIdentityTest.cpp's.
@@ -21,8 +20,6 @@ TEST(PrimDictionary, TypedReadsTakeOnlyTheirKinds) {
   const char* chars = nullptr;
   EXPECT_EQ(dict.Get(chars, "text"), 1);
   EXPECT_STREQ(chars, "it's");
-  utl_FilePath path;
-  EXPECT_EQ(dict.Get(path, "text"), 1);
   cow_List<double> numbers;
   EXPECT_EQ(dict.Get(numbers, "ints"), 1);
   EXPECT_EQ(numbers, (cow_List<double>{1.0, 2.0}));

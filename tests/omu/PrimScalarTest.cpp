@@ -2,7 +2,6 @@
 
 #include <omu_PrimComplex.h>
 #include <omu_PrimException.h>
-#include <omu_PrimExpr.h>
 #include <omu_PrimPath.h>
 #include <omu_PrimTranslatedString.h>
 
@@ -56,11 +55,6 @@ TEST(PrimString, ConstructorsFromNumbersAndConstants) {
   EXPECT_EQ(omu_PrimString(4000000000u).Text(), "4000000000");
   EXPECT_EQ(omu_PrimString(2.0).Text(), "2.0");
   EXPECT_EQ(omu_PrimString(omu_OnOffConst(true)).Text(), "ON");
-  omu_PrimString text(cow_String("ab"));
-  text.Concat(omu_PrimString(cow_String("c")));
-  EXPECT_EQ(text.Length(), 3);
-  EXPECT_EQ(text[2], 'c');
-  EXPECT_STREQ(text.AsCharPtr(), "abc");
 }
 
 TEST(PrimComplex, PlusOnlyBeforeAZeroOrPositiveImaginaryPart) {
@@ -75,12 +69,10 @@ TEST(PrimComplex, PlusOnlyBeforeAZeroOrPositiveImaginaryPart) {
   for (const auto& [value, text] : cases) EXPECT_EQ(omu_PrimComplex(value).AsString(0), text) << text;
 }
 
-TEST(PrimScalars, TextOfPathExpressionAndBoolean) {
+TEST(PrimPath, TextDropsEmptyPiecesAndTrailingDots) {
   EXPECT_EQ(omu_PrimPath({"a", "b.."}).AsString(0), "'a.b'");
   EXPECT_EQ(omu_PrimPath().AsString(0), "''");
   EXPECT_EQ(omu_PrimPath({"", ""}).AsString(0), "''");
-  EXPECT_EQ(omu_PrimExpr("x + 1").AsString(0), "x + 1");
-  EXPECT_EQ(omu_PrimBoolean(false).TypeString(), "Boolean");
 }
 
 TEST(PrimException, CopiesTheCapturedErrorAndArchivesOnlyTheTraceback) {

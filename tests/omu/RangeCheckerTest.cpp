@@ -65,6 +65,7 @@ TEST(RangeChecker, FloatingLimitsSentinelsAndNaN) {
   EXPECT_EQ(Outcome([] { R::CheckInRange("x", -kNoUpper, true, 3.0, 2.5, true); }),
             "x must be a Float in the range: -1.7976931348623157e+308 <= x <= 2.5");
   EXPECT_EQ(Outcome([&] { R::CheckInRange("x", nan, false, 0.5, nan, true); }), "ok");
+  EXPECT_EQ(Outcome([&] { R::CheckInRange("x", 0.0, true, nan, 1.0, false); }), "ok");
   EXPECT_EQ(Outcome([&] { R::CheckGreaterThan("x", 0.0, false, inf); }), "x must be a Float > 0");
   EXPECT_EQ(Outcome([&] { R::CheckGreaterThan("x", 0.0, false, kNoUpper); }), "x must be a Float > 0");
 }

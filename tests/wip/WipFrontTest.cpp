@@ -39,7 +39,6 @@ TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
       {"FacilityMessage",
        [](wip_WIPBase& f) {
          omu_PrimTuple arguments(1);
-         arguments.Put(3);
          f.FacilityMessage("thin shell", 3, 1, 2, arguments);
        },
        "Warning(thin shell)"},

@@ -120,6 +120,16 @@ private:
     for (const cls_Value& item : items) Value(item);
   }
   void Data(const cls_Matrix& matrix) {
+    // A shape its cells do not fill would be written and then refused on reading: the save
+    // fails instead, so no file is replaced by one that cannot be read back.
+    if (matrix.rows < 0 || matrix.columns < 0 ||
+        matrix.cells.size() != static_cast<std::uint64_t>(matrix.rows) *
+                                   static_cast<std::uint64_t>(matrix.columns)) {
+      NEX_THROW(nex_TextException(atr_StringBase::Format(
+                    "archive: an array of %d x %d cannot hold %zu cells", matrix.rows,
+                    matrix.columns, matrix.cells.size())),
+                kSource);
+    }
     Put<std::int32_t>(matrix.rows);
     Put<std::int32_t>(matrix.columns);
     for (const cls_Value& cell : matrix.cells) Value(cell);
