@@ -28,7 +28,7 @@ bool SameBits(const mdl_PropertyTable& a, const mdl_PropertyTable& b) {
   const auto& x = a.Table().Cells();
   const auto& y = b.Table().Cells();
   return a.Rows() == b.Rows() && a.Columns() == b.Columns() && x.size() == y.size() &&
-         std::memcmp(x.data(), y.data(), x.size() * sizeof(double)) == 0;
+         (x.empty() || std::memcmp(x.data(), y.data(), x.size() * sizeof(double)) == 0);
 }
 
 // The sort as the model describes it: an insertion sort on whole rows, where a row goes below one
