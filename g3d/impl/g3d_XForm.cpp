@@ -286,8 +286,8 @@ void g3d_XForm::XForm(g3d_Point* points, int n) const noexcept {
   const ColumnForm form(*this);
   int done = 0;
 #ifdef G3D_XFORM_AVX
-  static const bool kPairs = __builtin_cpu_supports("avx");
-  if (kPairs) done = form.ApplyPairs(points, n);
+  static const bool pairs = __builtin_cpu_supports("avx");  // asked once per process
+  if (pairs) done = form.ApplyPairs(points, n);
 #endif
   InFours(points + done, n - done, [&form](g3d_Point& p) { form.Apply(p); });
 }

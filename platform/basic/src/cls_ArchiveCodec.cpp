@@ -66,6 +66,11 @@ private:
   std::uint64_t m_Last = 0;
 };
 
+// The cells a shape of non-negative sides holds, without overflow.
+std::uint64_t CellCount(int rows, int columns) noexcept {
+  return static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(columns);
+}
+
 class Encoder {
 public:
   std::string bytes;
@@ -123,8 +128,7 @@ private:
     // A shape its cells do not fill would be written and then refused on reading: the save
     // fails instead, so no file is replaced by one that cannot be read back.
     if (matrix.rows < 0 || matrix.columns < 0 ||
-        matrix.cells.size() != static_cast<std::uint64_t>(matrix.rows) *
-                                   static_cast<std::uint64_t>(matrix.columns)) {
+        matrix.cells.size() != CellCount(matrix.rows, matrix.columns)) {
       NEX_THROW(nex_TextException(atr_StringBase::Format(
                     "archive: an array of %d x %d cannot hold %zu cells", matrix.rows,
                     matrix.columns, matrix.cells.size())),
@@ -242,8 +246,7 @@ private:
     matrix.rows = Get<std::int32_t>();
     matrix.columns = Get<std::int32_t>();
     if (matrix.rows < 0 || matrix.columns < 0) Fail("an array of negative size");
-    const auto cells = static_cast<std::uint64_t>(matrix.rows) *
-                       static_cast<std::uint64_t>(matrix.columns);
+    const std::uint64_t cells = CellCount(matrix.rows, matrix.columns);
     if (cells > m_Bytes.size() - m_At) Fail("an array larger than the data left");
     matrix.cells.resize(static_cast<std::size_t>(cells));
     for (cls_Value& cell : matrix.cells) cell = Value(depth + 1);
@@ -253,7 +256,7 @@ private:
     const auto rows = Get<std::int32_t>();
     const auto columns = Get<std::int32_t>();
     if (rows < 0 || columns < 0) Fail("an array of negative size");
-    const auto cells = static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(columns);
+    const std::uint64_t cells = CellCount(rows, columns);
     if (cells > (m_Bytes.size() - m_At) / sizeof(double)) {
       Fail("an array larger than the data left");
     }
