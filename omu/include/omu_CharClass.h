@@ -4,8 +4,10 @@
 
 /// \class omu_CharClass
 /// A set of bytes compiled once from a regular-expression character class ("[^0-9]",
-/// "[\$\\&]"), optionally anchored with a leading "^". It answers with one table lookup per
-/// byte, and no branch, what a regular-expression search of that pattern would answer.
+/// "[\$\\&]"), optionally anchored with a leading "^". It answers, without a branch per byte,
+/// what a regular-expression search of that pattern would answer: sixteen bytes a step where
+/// the processor has SSSE3 (a bitmap row looked up per byte by shuffles), a byte a step
+/// elsewhere.
 #include <CVX_Export.h>
 
 #include <array>
@@ -13,7 +15,7 @@
 #include <string_view>
 
 class CVX_EXPORT omu_CharClass {
-public:
+ public:
   /// pattern: an optional "^", then one bracket expression: an optional "^" negation, bytes,
   /// ranges "a-z" and backslash escapes, then "]". Anything else raises nex_TextException.
   explicit omu_CharClass(std::string_view pattern);
@@ -21,7 +23,7 @@ public:
   static omu_CharClass Of(std::string_view bytes);
 
   /// True when byte is in the set.
-  bool Has(unsigned char byte) const noexcept { return m_Member[byte] != 0; }
+  bool Has(unsigned char byte) const noexcept { return (m_Rows[Row(byte)] >> (byte & 7u)) & 1u; }
   /// What searching the pattern in text answers.
   bool Matches(std::string_view text) const noexcept;
   /// True when the pattern began with "^" before its bracket.
@@ -33,11 +35,15 @@ public:
   /// The bytes below 32.
   static omu_CharClass Controls() noexcept;
 
-private:
+ private:
   omu_CharClass() = default;
-  void Add(unsigned char byte) noexcept { m_Member[byte] = 1; }
+  void Add(unsigned char byte) noexcept {
+    m_Rows[Row(byte)] |= static_cast<std::uint8_t>(1u << (byte & 7u));
+  }
+  // The bitmap's row of a byte: its high nibble, in the second half for low nibbles 8-15.
+  static unsigned Row(unsigned char byte) noexcept { return ((byte & 8u) << 1) | (byte >> 4); }
 
-  std::array<std::uint8_t, 256> m_Member{};
+  std::array<std::uint8_t, 32> m_Rows{};
   bool m_Anchored = false;
 };
 

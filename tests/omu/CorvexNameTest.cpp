@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 namespace {
@@ -70,6 +71,21 @@ TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
       EXPECT_EQ(compiled.Matches(text), rgx_match(pattern.CStr(), text).Matched())
           << view << " byte " << byte;
     }
+  }
+}
+
+// Texts of every length around the sixteen-byte steps, each searched byte by byte beside.
+TEST(CharClass, MatchesAsAByteByByteSearchAtEveryLength) {
+  const std::string members = "\x01\"./\\~\x7f\x80\xa0\xff";
+  const omu_CharClass compiled = omu_CharClass::Of(members);
+  std::mt19937 random(7);
+  for (int round = 0; round < 4000; ++round) {
+    std::string text(random() % 70, 'a');
+    for (char& c : text) c = static_cast<char>(random() % 4 ? 'a' + random() % 26 : random());
+    const bool slow = text.find_first_of(members) != std::string::npos;
+    ASSERT_EQ(compiled.Matches(text), slow) << "length " << text.size() << ": " << text;
+    ASSERT_EQ((~compiled).Matches(text), text.find_first_not_of(members) != std::string::npos)
+        << "complement, length " << text.size();
   }
 }
 
