@@ -1,3 +1,4 @@
+#include "OnThreads.h"
 #include "RaisedText.h"
 #include "TestArchive.h"
 
@@ -14,7 +15,6 @@
 #include <cmath>
 #include <limits>
 #include <sstream>
-#include <thread>
 #include <vector>
 
 namespace {
@@ -185,15 +185,11 @@ TEST(Archive, AnArrayItsCellsDoNotFillIsRefusedBeforeItIsWritten) {
 TEST(Archive, OneArchiveIsReadFromSeveralThreadsAtOnce) {
   cls_Archive archive;
   archive.Add(AllKinds());
-  std::vector<std::thread> readers;
-  for (int t = 0; t < 4; ++t) {
-    readers.emplace_back([&archive] {
-      for (int i = 0; i < 200; ++i) {
-        EXPECT_EQ(archive.Root(0).ReadObject<nex_TextException>("error")->Text(), "nested");
-      }
-    });
-  }
-  for (std::thread& reader : readers) reader.join();
+  OnThreads(4, [&archive](int) {
+    for (int i = 0; i < 200; ++i) {
+      EXPECT_EQ(archive.Root(0).ReadObject<nex_TextException>("error")->Text(), "nested");
+    }
+  });
 }
 
 TEST(ArchiveFile, EveryTruncationAndSingleBitFlipIsRefused) {
