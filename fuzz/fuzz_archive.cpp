@@ -4,6 +4,8 @@
 // from records are exercised deeply; what is accepted is dumped and built into objects.
 // What could be read is saved again: the records' bytes decode to the same bytes, and the
 // objects built, written and read back write the same bytes again.
+#include "../tests/ArchiveBytes.h"
+
 #include <UTI_CaeUtils.h>
 #include <cls_Archive.h>
 #include <cls_MetadataRegistrar.h>
@@ -16,25 +18,6 @@
 #include <string>
 
 namespace {
-// A file of the newest version whose header fits the payload: the header of an empty archive,
-// versioned and re-checksummed.
-std::string WithHeader(std::string_view payload) {
-  std::string file = cls_Archive().ToBytes().substr(0, 24);
-  for (int i = 0; i < 4; ++i) {
-    file[8 + i] = static_cast<char>((cls_Archive::Version >> (8 * i)) & 0xFF);
-  }
-  std::uint32_t crc = 0xFFFFFFFFu;
-  for (unsigned char b : payload) {
-    crc ^= b;
-    for (int k = 0; k < 8; ++k) crc = (crc & 1) ? 0xEDB88320u ^ (crc >> 1) : crc >> 1;
-  }
-  crc ^= 0xFFFFFFFFu;
-  const std::uint64_t size = payload.size();
-  for (int i = 0; i < 4; ++i) file[12 + i] = static_cast<char>((crc >> (8 * i)) & 0xFF);
-  for (int i = 0; i < 8; ++i) file[16 + i] = static_cast<char>((size >> (8 * i)) & 0xFF);
-  return file.append(payload);
-}
-
 const cls_ClassRegistrar& Registry() { return cls_MetadataRegistrar::Instance().Registrar(); }
 
 // Builds every object the archive's records allow and writes it into a new archive.
@@ -71,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   (void)started;
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   const bool payloadOnly = size > 0 && (data[0] & 1) != 0;
-  const std::string bytes = payloadOnly ? WithHeader(input.substr(1)) : std::string(input);
+  const std::string bytes = payloadOnly ? FileOf(cls_Archive::Version, input.substr(1)) : std::string(input);
   try {
     const cls_Archive archive = cls_Archive::FromBytes(bytes);
     std::ostringstream dump;

@@ -17,7 +17,6 @@ ERRORS = [
     ("FontError", ["Arial"], cvxutils.FontError, "Arial is not a valid font."),
     ("GuiAccessError", ["no display"], cvxutils.GuiAccessError, "no display"),
     ("IndexError", [7], IndexError, "7"),
-    ("KeyError", ["Part-9"], KeyError, "Part-9"),
     ("NameError", ["x is not defined"], NameError, "x is not defined"),
     ("OverflowError", ["too large"], OverflowError, "too large"),
     ("RangeError", ["x", 2, "0", 1, "10", 2], cvxutils.RangeError, "x must be a Float in the range: 0 <= x < 10"),

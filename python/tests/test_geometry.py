@@ -51,7 +51,6 @@ def test_operators_keep_the_class_and_normalize_returns_itself():
 
 
 @pytest.mark.parametrize("value, text", [
-    (Vector(1, 2, 3), "Vector(1.0, 2.0, 3.0)"),
     (Vector(0.1, -0.0, 1e20), "Vector(0.1, -0.0, 1e+20)"),
     (Vector(math.inf, -math.inf, 1 / 3), "Vector(inf, -inf, 0.33333334)"),
     (Point(1, 2, 3), "Point(1.0, 2.0, 3.0, 1.0)"),

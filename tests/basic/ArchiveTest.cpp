@@ -1,3 +1,5 @@
+#include "ArchiveBytes.h"
+#include "OnThreads.h"
 #include "RaisedText.h"
 #include "TestArchive.h"
 
@@ -14,7 +16,6 @@
 #include <cmath>
 #include <limits>
 #include <sstream>
-#include <thread>
 #include <vector>
 
 namespace {
@@ -185,15 +186,11 @@ TEST(Archive, AnArrayItsCellsDoNotFillIsRefusedBeforeItIsWritten) {
 TEST(Archive, OneArchiveIsReadFromSeveralThreadsAtOnce) {
   cls_Archive archive;
   archive.Add(AllKinds());
-  std::vector<std::thread> readers;
-  for (int t = 0; t < 4; ++t) {
-    readers.emplace_back([&archive] {
-      for (int i = 0; i < 200; ++i) {
-        EXPECT_EQ(archive.Root(0).ReadObject<nex_TextException>("error")->Text(), "nested");
-      }
-    });
-  }
-  for (std::thread& reader : readers) reader.join();
+  OnThreads(4, [&archive](int) {
+    for (int i = 0; i < 200; ++i) {
+      EXPECT_EQ(archive.Root(0).ReadObject<nex_TextException>("error")->Text(), "nested");
+    }
+  });
 }
 
 TEST(ArchiveFile, EveryTruncationAndSingleBitFlipIsRefused) {
@@ -226,31 +223,6 @@ TEST(ArchiveFile, DumpNamesClassesAndFields) {
   EXPECT_NE(dump.str().find("nex_AssertException (0x1f0004)"), std::string::npos) << dump.str();
   EXPECT_NE(dump.str().find("condition = \"x != 0\""), std::string::npos) << dump.str();
 }
-
-namespace {
-std::uint32_t BitwiseCrc(std::string_view bytes) {
-  std::uint32_t crc = 0xFFFFFFFFu;
-  for (unsigned char b : bytes) {
-    crc ^= b;
-    for (int k = 0; k < 8; ++k) crc = (crc & 1) ? 0xEDB88320u ^ (crc >> 1) : crc >> 1;
-  }
-  return ~crc;
-}
-
-// value's low bytes, least significant first, as the header holds its numbers.
-std::string LittleEndian(std::uint64_t value, int bytes) {
-  std::string text;
-  for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> 8 * i);
-  return text;
-}
-
-// A file of the given version around payload, its header filled in as the writer would.
-std::string FileOf(std::uint32_t version, std::string_view payload) {
-  return cls_Archive().ToBytes().substr(0, 8) + LittleEndian(version, 4) +
-         LittleEndian(BitwiseCrc(payload), 4) + LittleEndian(payload.size(), 8) +
-         std::string(payload);
-}
-}  // namespace
 
 // Shapes on both sides of the checksum's 16- and 64-byte steps, special doubles among the cells.
 TEST(Archive, BlocksOfDoublesRoundTripBitForBitAtEightBytesEach) {

@@ -1,3 +1,4 @@
+#include "OnThreads.h"
 #include "RaisedText.h"
 
 #include <cow_2DArray.h>
@@ -11,7 +12,6 @@
 
 #include <limits>
 #include <string>
-#include <thread>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -43,17 +43,13 @@ TEST(CowList, EditingOperationsAndLookup) {
 
 TEST(CowList, ConcurrentCopiesOfOneListStayConsistent) {
   const cow_List<int> shared(std::vector<int>(1000, 1));
-  std::vector<std::thread> threads;
-  for (int t = 0; t < 4; ++t) {
-    threads.emplace_back([&shared, t] {
-      for (int i = 0; i < 2000; ++i) {
-        cow_List<int> mine(shared);
-        mine.Get(i % 1000) = t;
-        ASSERT_EQ(mine[i % 1000], t);
-      }
-    });
-  }
-  for (auto& thread : threads) thread.join();
+  OnThreads(4, [&shared](int t) {
+    for (int i = 0; i < 2000; ++i) {
+      cow_List<int> mine(shared);
+      mine.Get(i % 1000) = t;
+      ASSERT_EQ(mine[i % 1000], t);
+    }
+  });
   EXPECT_EQ(shared, cow_List<int>(std::vector<int>(1000, 1)));
 }
 
@@ -130,16 +126,12 @@ TYPED_TEST(CowCOW, ClonesThroughTheVirtualCopyOnlyWhenShared) {
 TYPED_TEST(CowCOW, HandlesOnOneObjectMayLiveOnSeveralThreads) {
   using Handle = cow_COW<Shape<TypeParam>, cow_Virtual<Shape<TypeParam>>>;
   const Handle shared(new Square<TypeParam>);
-  std::vector<std::thread> threads;
-  for (int t = 0; t < 4; ++t) {
-    threads.emplace_back([&shared, t] {
-      for (int i = 0; i < 2000; ++i) {
-        Handle own(shared);
-        if (i % 2) own.Get()->sides = t;
-      }
-    });
-  }
-  for (auto& thread : threads) thread.join();
+  OnThreads(4, [&shared](int t) {
+    for (int i = 0; i < 2000; ++i) {
+      Handle own(shared);
+      if (i % 2) own.Get()->sides = t;
+    }
+  });
   EXPECT_FALSE(shared.IsShared());
   EXPECT_EQ(shared->sides, 0);
 }

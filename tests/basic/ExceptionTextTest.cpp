@@ -1,3 +1,5 @@
+#include "OnThreads.h"
+
 #include <nex_TextException.h>
 
 #include <gtest/gtest.h>
@@ -5,9 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <thread>
 #include <utility>
-#include <vector>
 
 namespace {
 // Longer than any in-place string buffer, so a rebuilt text would move to new storage.
@@ -64,11 +64,7 @@ TEST(ExceptionText, WhatStaysPutOnTheOriginalAndItsCopies) {
 TEST(ExceptionText, ReadFromSeveralThreadsAtOnce) {
   const nex_TextException e = Raised();
   const std::string expected = Expected(e);
-  std::vector<std::thread> readers;
-  for (int t = 0; t < 4; ++t) {
-    readers.emplace_back([&e, &expected] {
-      for (int i = 0; i < 200; ++i) ASSERT_EQ(e.what(), expected);
-    });
-  }
-  for (auto& reader : readers) reader.join();
+  OnThreads(4, [&e, &expected](int) {
+    for (int i = 0; i < 200; ++i) ASSERT_EQ(e.what(), expected);
+  });
 }

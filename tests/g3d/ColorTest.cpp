@@ -1,4 +1,6 @@
 // Colours: packing, text, HSV, names, palettes and ramps.
+#include "OnThreads.h"
+
 #include <g3d_ColorArray.h>
 #include <g3d_ColorErrorException.h>
 #include <g3d_ColorMap.h>
@@ -9,9 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <thread>
 #include <tuple>
-#include <vector>
 
 namespace {
 constexpr float kByte = 0.003921568859368563f;
@@ -67,12 +67,8 @@ TEST(ColorTest, NamesResolveOrRaiseColorError) {
 // Run alone, as ctest runs each test, the threads are the map's first users; under
 // ThreadSanitizer this fails if they race to make it.
 TEST(ColorTest, NamesResolveOnSeveralThreadsAtOnce) {
-  std::vector<std::thread> threads;
-  for (int t = 0; t < 2; ++t) {
-    threads.emplace_back(
-        [] { ExpectColor(g3d_ColorMap::Instance().Lookup("Sky blue"), 0, 0.8f, 1, 1); });
-  }
-  for (std::thread& thread : threads) thread.join();
+  OnThreads(2,
+            [](int) { ExpectColor(g3d_ColorMap::Instance().Lookup("Sky blue"), 0, 0.8f, 1, 1); });
 }
 
 TEST(ColorTest, HsvBothWays) {

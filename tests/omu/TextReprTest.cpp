@@ -1,13 +1,11 @@
 #include "CapturedErrors.h"
 #include "OmuTestSupport.h"
+#include "OnThreads.h"
 #include "TestRepository.h"
 
 #include <omu_GetBracketKeyPos.h>
 #include <omu_StringFromQString.h>
 #include <omu_TextRepr.h>
-
-#include <thread>
-#include <vector>
 
 TEST(TextRepr, OmuFinalizeReleasesTheSettings) {
   omu_TextRepr::Instance().SetMaxRecursion(7);
@@ -22,12 +20,8 @@ TEST(TextRepr, OmuFinalizeReleasesTheSettings) {
 // ThreadSanitizer this fails if they race to make them.
 TEST(TextReprThreads, ValuesPrintOnSeveralThreadsAtOnce) {
   const omu_PrimTuple tuple = TupleOf({new TestPart(std::make_shared<TestPartData>())});
-  std::vector<std::thread> printers;
-  for (int t = 0; t < 2; ++t) {
-    // The part's nested text: the exposed type name, none here.
-    printers.emplace_back([&] { EXPECT_EQ(Text(tuple), "(' object',)"); });
-  }
-  for (std::thread& printer : printers) printer.join();
+  // The part's nested text: the exposed type name, none here.
+  OnThreads(2, [&](int) { EXPECT_EQ(Text(tuple), "(' object',)"); });
 }
 
 TEST(StringFromQString, UnquotesOnlyTheMatchingQuote) {

@@ -1,3 +1,4 @@
+#include "OnThreads.h"
 #include "RecordingReporter.h"
 
 #include <wip_ConsoleReporter.h>
@@ -9,7 +10,6 @@
 
 #include <atomic>
 #include <sstream>
-#include <thread>
 
 namespace {
 // The stream is built before the reporter that writes to it.
@@ -158,11 +158,7 @@ TEST(ConsoleReporter, ReportersOnSeveralThreadsWriteOnlyTheirOwnStreams) {
   std::vector<std::string> alone(kThreads), together(kThreads);
   for (int t = 0; t < kThreads; ++t) alone[t] = work(t, 1);
   installed = reported = 0;
-  std::vector<std::thread> threads;
-  for (int t = 0; t < kThreads; ++t) {
-    threads.emplace_back([&, t] { together[t] = work(t, kThreads); });
-  }
-  for (std::thread& thread : threads) thread.join();
+  OnThreads(kThreads, [&](int t) { together[t] = work(t, kThreads); });
   EXPECT_EQ(together, alone);
   EXPECT_NE(alone[1].find("T1: 100%  50/50 items"), std::string::npos) << alone[1];
 }
