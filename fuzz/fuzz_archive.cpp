@@ -54,7 +54,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   (void)started;
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   const bool payloadOnly = size > 0 && (data[0] & 1) != 0;
-  const std::string bytes = payloadOnly ? FileOf(cls_Archive::Version, input.substr(1)) : std::string(input);
+  const std::string bytes =
+      payloadOnly ? FileOf(cls_Archive::Version, input.substr(1)) : std::string(input);
   try {
     const cls_Archive archive = cls_Archive::FromBytes(bytes);
     std::ostringstream dump;
