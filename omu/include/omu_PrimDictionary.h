@@ -5,15 +5,17 @@
 /// \class omu_PrimDictionary
 /// A script dictionary with integer keys (omu_PrimDictionary<int>, "omu_PrimIntDictionary")
 /// or text keys (omu_PrimDictionary<cow_String>, "omu_PrimStrDictionary"). Entries are kept
-/// in key order in a copy-on-write tree, so copies are O(1); typed reads and writes by key
-/// spare command code the primitives inside (through the value type's binding, omu_Binding,
-/// whose reads convert as keyword reads do).
+/// in key order in a copy-on-write tree, so copies are O(1); text keys are also hashed beside
+/// it (cow_TextMap), so a lookup compares one key rather than one a level. Typed reads and
+/// writes by key spare command code the primitives inside (through the value type's binding,
+/// omu_Binding, whose reads convert as keyword reads do).
 ///
 /// The entries carry a persistence identity of their own, allocated by the constructor and
 /// kept by copies; a write to entries that a copy still shares allocates a new one, so that
 /// two dictionaries with one identity always hold the same entries.
 #include <cow_Btree.h>
 #include <cow_COW.h>
+#include <cow_TextMap.h>
 #include <omu_Binding.h>
 #include <omu_PrimDictionaryBase.h>
 #include <omu_PrimLeaf.h>
@@ -26,8 +28,9 @@ class CVX_EXPORT omu_PrimDictionary : public omu_PrimLeaf<omu_PrimDictionary<K>,
 public:
   /// A value slot, shared with copies until written.
   using Handle = cow_COW<omu_Primitive, cow_Virtual<omu_Primitive>>;
-  /// The entries in key order.
-  using Entries = cow_Btree<K, Handle>;
+  /// The entries in key order (text keys with their hash index).
+  using Entries =
+      std::conditional_t<std::is_same_v<K, cow_String>, cow_TextMap<Handle>, cow_Btree<K, Handle>>;
 
   /// An empty dictionary with a new entries identity.
   explicit omu_PrimDictionary(char typeCode = '{', char represents = 0);

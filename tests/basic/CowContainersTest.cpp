@@ -7,10 +7,12 @@
 #include <cow_List.h>
 #include <cow_Map.h>
 #include <cow_String.h>
+#include <cow_TextMap.h>
 
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <map>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -68,6 +70,53 @@ TEST(CowMap, KeepsKeysInByteOrderAndUnsharesOnWrite) {
   EXPECT_TRUE(copy.Remove("OFF"));
   EXPECT_FALSE(copy.Remove("OFF"));
   EXPECT_EQ(map.Length(), 3);
+}
+
+// The hash index must find exactly what the order holds through growth, removals that close up
+// probe runs, re-insertion and the re-indexing copy made by an un-sharing write.
+TEST(CowTextMap, FindsWhatAnOrderedMapHolds) {
+  const struct {
+    const char* name;
+    const char* prefix;
+    int keys;
+    int removeEvery;  // removes keys i with i % removeEvery == 0, then puts back every third
+  } cases[] = {{"one key", "", 1, 1},
+               {"until the first growth", "", 6, 2},
+               {"across growths", "", 100, 3},
+               {"every key out and partly back", "k", 500, 1},
+               {"every seventh", "", 2000, 7},
+               {"one long prefix", "argument", 1000, 2}};
+  for (const auto& c : cases) {
+    const auto key = [&c](int i) { return c.prefix + std::to_string(i); };
+    cow_TextMap<int> map;
+    std::map<std::string, int> expected;
+    const auto put = [&](int i) {
+      map.Insert(cow_String(key(i)), i);
+      expected[key(i)] = i;
+    };
+    for (int i = 0; i < c.keys; ++i) put(i);
+    const cow_TextMap<int> before(map);
+    for (int i = 0; i < c.keys; i += c.removeEvery) {
+      EXPECT_TRUE(map.Remove(cow_String(key(i)))) << c.name << ' ' << i;
+      expected.erase(key(i));
+    }
+    for (int i = 0; i < c.keys; i += 3 * c.removeEvery) put(i);
+    ASSERT_EQ(map.Length(), static_cast<int>(expected.size())) << c.name;
+    for (int i = 0; i < c.keys; ++i) {
+      const int* found = map.FindKey(std::string_view(key(i)));
+      const auto at = expected.find(key(i));
+      ASSERT_EQ(found != nullptr, at != expected.end()) << c.name << ' ' << key(i);
+      if (found) {
+        EXPECT_EQ(*found, at->second) << c.name << ' ' << key(i);
+      }
+      ASSERT_NE(before.Find(cow_String(key(i))), nullptr) << c.name << ' ' << key(i);
+    }
+    EXPECT_EQ(map.Find("missing"), nullptr) << c.name;
+    EXPECT_FALSE(map.Remove("missing")) << c.name;
+    EXPECT_EQ(before.Length(), c.keys) << c.name;
+    auto order = expected.begin();
+    for (const auto& [k, v] : map) EXPECT_EQ(k, (order++)->first) << c.name;
+  }
 }
 
 TEST(Cow2DArray, IsRowMajorAndResizesToFill) {
@@ -203,6 +252,7 @@ TEST(CowEquality, ANaNIsNeverEqualEvenOnSharedStorage) {
   EXPECT_FALSE(equalToACopy(cow_List<std::pair<int, double>>{{1, NaN}}));
   EXPECT_FALSE(equalToACopy(cow_Map<cow_String, double>{{"a", NaN}}));
   EXPECT_FALSE(equalToACopy(cow_Map<double, int>{{NaN, 1}}));
+  EXPECT_FALSE(equalToACopy(cow_TextMap<double>{{"a", NaN}}));
   EXPECT_FALSE(equalToACopy(cow_2DArray<double>(1, 2, NaN)));
   EXPECT_TRUE(equalToACopy(cow_List<cow_String>{"a", "b"}));
 }
