@@ -61,12 +61,18 @@ private:
     const omu_Primitive* value;
   };
 
-  // Lengths, then addresses, then first characters, before the characters are compared.
+  // Lengths, then addresses, before the characters. Keywords are short names, which a loop
+  // compares faster than a call to memcmp.
   static bool Same(std::string_view indexed, std::string_view keyword) noexcept {
     if (indexed.size() != keyword.size()) return false;
-    if (indexed.data() == keyword.data() || indexed.empty()) return true;
-    return indexed.front() == keyword.front() && indexed == keyword;
+    if (indexed.data() == keyword.data()) return true;
+    if (indexed.size() > ShortName) return indexed == keyword;
+    for (std::size_t at = 0; at < indexed.size(); ++at) {
+      if (indexed[at] != keyword[at]) return false;
+    }
+    return true;
   }
+  static constexpr std::size_t ShortName = 16;
   bool IsInline() const noexcept { return static_cast<std::size_t>(m_Size) <= Inline; }
   const Entry* Entries() const noexcept { return IsInline() ? m_Inline.data() : m_Entries.data(); }
   int FindHashed(std::string_view keyword) const noexcept;
