@@ -20,7 +20,7 @@ void omu_Arguments::Begin() {
   m_Claimed.assign(static_cast<std::size_t>(m_Keywords.Length()), '\0');
   m_Unclaimed = m_Keywords.Length();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
-  m_KeywordInError = cow_String();
+  Forget(m_KeywordInError);
   omu_PrimTuple::Begin();
 }
 
@@ -33,6 +33,13 @@ int omu_Arguments::KeywordSlot(std::string_view keyword) {
 bool omu_Arguments::IsUnclaimed(int slot) const noexcept {
   return slot >= 0 && static_cast<std::size_t>(slot) < m_Claimed.size() &&
          !m_Claimed[static_cast<std::size_t>(slot)];
+}
+
+const omu_Primitive* omu_Arguments::TakeKeyword(std::string_view keyword) {
+  const int slot = KeywordSlot(keyword);
+  const omu_Primitive* value = m_ErrorArg == 0 ? Claim(keyword, slot) : nullptr;
+  CountKeywordRead(slot);
+  return value;
 }
 
 const omu_Primitive* omu_Arguments::Claim(std::string_view keyword, int slot) {
@@ -50,7 +57,7 @@ const omu_Primitive* omu_Arguments::Claim(std::string_view keyword, int slot) {
 
 void omu_Arguments::KeywordTypeError(std::string_view keyword, const cow_String& expected,
                                      const omu_Primitive& found) {
-  m_ErrorArg = m_KeywordErrorAt = m_NumGets + 1;
+  m_ErrorArg = m_KeywordErrorAt = m_NumGets;  // TakeKeyword counted the read
   m_TypeExpected = expected;
   m_TypeFound = found.IsType('c') ? found.AsString(0) : found.TypeString();
   m_KeywordInError = keyword;
@@ -79,16 +86,11 @@ const omu_InterfaceObj* omu_Arguments::Get(const char* typeName, const omu_Inter
                                            std::string_view keyword) {
   if (m_ErrorArg == 0 && m_Cursor < m_Size) return omu_PrimTuple::Get(typeName, none);
   const omu_InterfaceObj* object = nullptr;
-  const int slot = KeywordSlot(keyword);
-  if (m_ErrorArg == 0) {
-    if (const omu_Primitive* value = Claim(keyword, slot)) {
-      if (!omu_PrimConvert(value, object) || (typeName && !object->IsA(typeName))) {
-        object = nullptr;
-        KeywordTypeError(keyword, typeName ? typeName : omu_PythonType::Generic, *value);
-      }
-    }
+  const omu_Primitive* value = TakeKeyword(keyword);
+  if (value && (!omu_PrimConvert(value, object) || (typeName && !object->IsA(typeName)))) {
+    object = nullptr;
+    KeywordTypeError(keyword, typeName ? typeName : omu_PythonType::Generic, *value);
   }
-  CountKeywordRead(slot);
   return object;
 }
 

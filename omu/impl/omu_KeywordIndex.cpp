@@ -30,18 +30,9 @@ void omu_KeywordIndex::Build(const omu_PrimDictionary<cow_String>& keywords) {
   }
 }
 
-int omu_KeywordIndex::Find(std::string_view keyword) const noexcept {
-  if (m_Size < 0) return -1;
-  if (!IsInline()) return FindHashed(keyword);
-  for (int slot = 0; slot < m_Size; ++slot) {
-    if (m_Inline[static_cast<std::size_t>(slot)].keyword == keyword) return slot;
-  }
-  return -1;
-}
-
 int omu_KeywordIndex::FindHashed(std::string_view keyword) const noexcept {
   for (std::size_t at = Hash(keyword) & m_Mask;; at = (at + 1) & m_Mask) {
     const int slot = m_Table[at];
-    if (slot < 0 || m_Entries[static_cast<std::size_t>(slot)].keyword == keyword) return slot;
+    if (slot < 0 || Same(m_Entries[static_cast<std::size_t>(slot)].keyword, keyword)) return slot;
   }
 }

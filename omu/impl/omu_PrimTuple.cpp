@@ -243,13 +243,6 @@ void omu_PrimTuple::Put(signed char value) { PutValue(value); }
 
 // --- Get --------------------------------------------------------------------------------
 
-void omu_PrimTuple::Advance() noexcept {
-  ++m_Cursor;
-  ++m_NumGets;
-  ++m_ArgCount;
-  if (!m_IsOptional) ++m_ReqCount;
-}
-
 void omu_PrimTuple::SetTypeError(int index, const cow_String& expected) {
   const omu_Primitive* element = Index(index);
   m_ErrorArg = index + 1;
@@ -276,8 +269,8 @@ bool omu_PrimTuple::Alternative() noexcept {
 void omu_PrimTuple::Begin() {
   m_Cursor = m_ArgCount = m_ReqCount = m_ErrorArg = m_NumGets = 0;
   m_IsOptional = false;
-  m_TypeFound = cow_String();
-  m_TypeExpected = cow_String();
+  Forget(m_TypeFound);
+  Forget(m_TypeExpected);
 }
 
 void omu_PrimTuple::End(cow_String context) {

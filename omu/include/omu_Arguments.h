@@ -108,19 +108,18 @@ private:
   template <class T, class ByPosition>
   void Read(T& out, std::string_view keyword, ByPosition&& byPosition) {
     if (m_ErrorArg == 0 && m_Cursor < m_Size) return byPosition(out);
-    const int slot = KeywordSlot(keyword);
-    if (m_ErrorArg == 0) {
-      if (const omu_Primitive* value = Claim(keyword, slot)) {
-        if (!omu_PrimConvert(value, out)) {
-          KeywordTypeError(keyword, omu_Binding<T>::Expected(out), *value);
-        }
-      }
+    const omu_Primitive* value = TakeKeyword(keyword);
+    if (value && !omu_PrimConvert(value, out)) {
+      KeywordTypeError(keyword, omu_Binding<T>::Expected(out), *value);
     }
-    CountKeywordRead(slot);
   }
+  /// Counts a read by keyword and claims the keyword's slot; answers its value while no error
+  /// is recorded and no Get took it before, else null (recording a missing keyword).
+  const omu_Primitive* TakeKeyword(std::string_view keyword);
   /// The keyword's value when the call gives it (at slot) and no Get has taken it; else records
   /// the missing keyword and answers null.
   const omu_Primitive* Claim(std::string_view keyword, int slot);
+  /// Records that the value TakeKeyword answered last is not of the type expected.
   void KeywordTypeError(std::string_view keyword, const cow_String& expected,
                         const omu_Primitive& found);
   void CountKeywordRead(int slot);

@@ -223,7 +223,9 @@ struct omu_TextBinding {
     if constexpr (std::is_same_v<T, utl_FilePath>) {
       out = utl_FilePath(cow_String(*text));
     } else {
-      out = T(*text);
+      // Shares the text's buffer: no temporary handle, and nothing counted when out already
+      // shares it.
+      static_cast<atr_StringBase&>(out) = *text;
     }
     if constexpr (std::is_same_v<T, atr_String>) out.SetTranslatable(value.IsType('l'));
     return true;

@@ -40,8 +40,16 @@ public:
   void Build(const omu_PrimDictionary<cow_String>& keywords);
   /// Forgets the index, keeping its storage for the next build.
   void Clear() noexcept { m_Size = -1; }
-  /// The keyword's slot, or -1 when the call does not give it (or nothing is built).
-  int Find(std::string_view keyword) const noexcept;
+  /// The keyword's slot, or -1 when the call does not give it (or nothing is built). A keyword
+  /// given as the very text indexed is matched by its address, without comparing characters.
+  int Find(std::string_view keyword) const noexcept {
+    if (m_Size < 0) return -1;
+    if (!IsInline()) return FindHashed(keyword);
+    for (int slot = 0; slot < m_Size; ++slot) {
+      if (Same(m_Inline[static_cast<std::size_t>(slot)].keyword, keyword)) return slot;
+    }
+    return -1;
+  }
   /// The value in a slot that Find answered.
   const omu_Primitive* Value(int slot) const noexcept {
     return Entries()[static_cast<std::size_t>(slot)].value;
@@ -53,6 +61,18 @@ private:
     const omu_Primitive* value;
   };
 
+  // Lengths, then addresses, before the characters. Keywords are short names, which a loop
+  // compares faster than a call to memcmp.
+  static bool Same(std::string_view indexed, std::string_view keyword) noexcept {
+    if (indexed.size() != keyword.size()) return false;
+    if (indexed.data() == keyword.data()) return true;
+    if (indexed.size() > ShortName) return indexed == keyword;
+    for (std::size_t at = 0; at < indexed.size(); ++at) {
+      if (indexed[at] != keyword[at]) return false;
+    }
+    return true;
+  }
+  static constexpr std::size_t ShortName = 16;
   bool IsInline() const noexcept { return static_cast<std::size_t>(m_Size) <= Inline; }
   const Entry* Entries() const noexcept { return IsInline() ? m_Inline.data() : m_Entries.data(); }
   int FindHashed(std::string_view keyword) const noexcept;

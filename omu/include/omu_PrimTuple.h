@@ -156,7 +156,7 @@ public:
   }
   template <omu_Gettable T>
   void GetValue(T& out) {
-    if (Readable() && !omu_PrimConvert(Index(m_Cursor), out, omu_BINDING_EXACT)) {
+    if (Readable() && !omu_PrimConvert(Element(m_Cursor), out, omu_BINDING_EXACT)) {
       SetTypeError(m_Cursor, omu_Binding<T>::Expected(out));
     }
     Advance();
@@ -215,7 +215,22 @@ protected:
   ///@{
   bool Readable() const noexcept { return m_Cursor < m_Size && m_ErrorArg == 0; }
   /// Moves the cursor on, counting the value read (as required unless Optional()).
-  void Advance() noexcept;
+  void Advance() noexcept {
+    ++m_Cursor;
+    ++m_NumGets;
+    ++m_ArgCount;
+    if (!m_IsOptional) ++m_ReqCount;
+  }
+  /// The element at index, which must be below Size(): Index without its virtual call and
+  /// bounds checks, for reading at the cursor.
+  const omu_Primitive* Element(int index) const noexcept {
+    return m_PrimVector.Vector()[static_cast<std::size_t>(index)].ConstGet();
+  }
+  /// Empties text; after a call bound without error it is empty already, and this costs no
+  /// call and no atomic operation.
+  static void Forget(cow_String& text) noexcept {
+    if (!text.IsEmpty()) text = cow_String();
+  }
   /// Records a type error at index (0-based) for ErrorArg, TypeFound and TypeExpected.
   void SetTypeError(int index, const cow_String& expected);
 

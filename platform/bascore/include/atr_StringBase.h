@@ -35,6 +35,7 @@ public:
   ///@}
 
   /// Copies share the buffer (a counted reference, no allocation); a move leaves the source empty.
+  /// Assigning a text that already shares this one's buffer changes and counts nothing.
   ///@{
   atr_StringBase(const atr_StringBase& other) noexcept;
   atr_StringBase(atr_StringBase&& other) noexcept : m_Rep(other.m_Rep) { other.m_Rep = nullptr; }

@@ -58,6 +58,9 @@ atr_StringBase::atr_StringBase(const atr_StringBase& other) noexcept : m_Rep(oth
 }
 
 atr_StringBase& atr_StringBase::operator=(const atr_StringBase& other) noexcept {
+  // Already sharing the buffer (a value read again into the same variable): counting a
+  // reference up and down would only cost two atomic operations.
+  if (m_Rep == other.m_Rep) return *this;
   if (other.m_Rep) other.m_Rep->refs.fetch_add(1, std::memory_order_relaxed);
   Release();
   m_Rep = other.m_Rep;
