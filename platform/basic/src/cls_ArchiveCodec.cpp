@@ -4,6 +4,7 @@
 #include <cls_MetadataRegistrar.h>
 #include <nex_TextException.h>
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <ostream>
@@ -81,6 +82,12 @@ public:
     const auto bits = LittleEndian(std::bit_cast<Bits<T>>(value));
     bytes.append(reinterpret_cast<const char*>(&bits), sizeof bits);
   }
+  // Room for a block and the few fields after it, so that a large block is not copied again
+  // into a buffer of twice its size; the capacity still at least doubles, as appends grow it.
+  void Reserve(std::size_t blockBytes) {
+    const std::size_t needed = bytes.size() + blockBytes + 4096;
+    if (needed > bytes.capacity()) bytes.reserve(std::max(needed, 2 * bytes.capacity()));
+  }
   void Text(std::string_view text) {
     Put(static_cast<std::uint32_t>(text.size()));
     bytes.append(text);
@@ -143,6 +150,7 @@ private:
     Put<std::int32_t>(block.Rows());
     Put<std::int32_t>(block.Columns());
     const std::vector<double>& cells = block.Cells();
+    Reserve(cells.size() * sizeof(double));
     if constexpr (std::endian::native == std::endian::little) {
       bytes.append(reinterpret_cast<const char*>(cells.data()), cells.size() * sizeof(double));
     } else {
