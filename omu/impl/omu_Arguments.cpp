@@ -20,7 +20,7 @@ void omu_Arguments::Begin() {
   m_Claimed.assign(static_cast<std::size_t>(m_Keywords.Length()), '\0');
   m_Unclaimed = m_Keywords.Length();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
-  Forget(m_KeywordInError);
+  m_KeywordInError = cow_String();
   omu_PrimTuple::Begin();
 }
 

@@ -269,8 +269,8 @@ bool omu_PrimTuple::Alternative() noexcept {
 void omu_PrimTuple::Begin() {
   m_Cursor = m_ArgCount = m_ReqCount = m_ErrorArg = m_NumGets = 0;
   m_IsOptional = false;
-  Forget(m_TypeFound);
-  Forget(m_TypeExpected);
+  m_TypeFound = cow_String();
+  m_TypeExpected = cow_String();
 }
 
 void omu_PrimTuple::End(cow_String context) {

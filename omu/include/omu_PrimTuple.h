@@ -226,11 +226,6 @@ protected:
   const omu_Primitive* Element(int index) const noexcept {
     return m_PrimVector.Vector()[static_cast<std::size_t>(index)].ConstGet();
   }
-  /// Empties text; after a call bound without error it is empty already, and this costs no
-  /// call and no atomic operation.
-  static void Forget(cow_String& text) noexcept {
-    if (!text.IsEmpty()) text = cow_String();
-  }
   /// Records a type error at index (0-based) for ErrorArg, TypeFound and TypeExpected.
   void SetTypeError(int index, const cow_String& expected);
 

@@ -40,10 +40,19 @@ public:
   atr_StringBase(const atr_StringBase& other) noexcept;
   atr_StringBase(atr_StringBase&& other) noexcept : m_Rep(other.m_Rep) { other.m_Rep = nullptr; }
   atr_StringBase& operator=(const atr_StringBase& other) noexcept;
-  atr_StringBase& operator=(atr_StringBase&& other) noexcept;
+  atr_StringBase& operator=(atr_StringBase&& other) noexcept {
+    if (this != &other) {
+      if (m_Rep) Release();
+      m_Rep = other.m_Rep;
+      other.m_Rep = nullptr;
+    }
+    return *this;
+  }
   ///@}
-  /// Drops the reference; the last one frees the buffer.
-  ~atr_StringBase();
+  /// Drops the reference; the last one frees the buffer. Inline: an empty text ends at no cost.
+  ~atr_StringBase() {
+    if (m_Rep) Release();
+  }
 
   /// printf-style formatting into a new text, with the C99 conversions (`%zu`, `%lld`) on every
   /// platform: MinGW's C++ runtime formats through its own conforming printf, not msvcrt's.

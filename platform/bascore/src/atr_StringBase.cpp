@@ -67,17 +67,6 @@ atr_StringBase& atr_StringBase::operator=(const atr_StringBase& other) noexcept 
   return *this;
 }
 
-atr_StringBase& atr_StringBase::operator=(atr_StringBase&& other) noexcept {
-  if (this != &other) {
-    Release();
-    m_Rep = other.m_Rep;
-    other.m_Rep = nullptr;
-  }
-  return *this;
-}
-
-atr_StringBase::~atr_StringBase() { Release(); }
-
 void atr_StringBase::Release() noexcept {
   if (m_Rep && m_Rep->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) delete m_Rep;
   m_Rep = nullptr;
