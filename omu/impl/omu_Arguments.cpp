@@ -9,6 +9,8 @@
 #include <omu_NameString.h>
 #include <utl_Catenator.h>
 
+#include <optional>
+
 namespace {
 constexpr const char* kSource = "omu/impl/omu_Arguments";
 constexpr const char* kUndetermined = "Undetermined";
@@ -16,16 +18,38 @@ constexpr const char* kUndetermined = "Undetermined";
 
 omu_Arguments::omu_Arguments(int size) : omu_PrimLeaf(size, '(') {}
 
+void omu_Arguments::Store(const cow_String& keyword, omu_PrimOwner value) {
+  m_Index.Clear();
+  m_Keywords.reset();
+  m_Stored.emplace_back(keyword, omu_KeywordIndex::Stored::second_type(std::move(value)));
+}
+
+const omu_PrimDictionary<cow_String>& omu_Arguments::Keywords() const {
+  if (!m_Keywords) {
+    auto keywords = std::make_shared<omu_PrimDictionary<cow_String>>();
+    for (const auto& [keyword, value] : m_Stored) keywords->Put(*value.ConstGet(), keyword);
+    m_Keywords = std::move(keywords);
+  }
+  return *m_Keywords;
+}
+
+cow_List<cow_String> omu_Arguments::StoredKeywords() const {
+  cow_List<cow_String> keywords;
+  for (const auto& stored : m_Stored) keywords.Append(stored.first);
+  return keywords;
+}
+
 void omu_Arguments::Begin() {
-  m_Claimed.assign(static_cast<std::size_t>(m_Keywords.Length()), '\0');
-  m_Unclaimed = m_Keywords.Length();
+  if (!m_Index.Built()) m_Index.Build(m_Stored);
+  m_Claimed.assign(static_cast<std::size_t>(m_Index.Size()), '\0');
+  m_Unclaimed = m_Index.Size();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
   m_KeywordInError = cow_String();
   omu_PrimTuple::Begin();
 }
 
 int omu_Arguments::KeywordSlot(std::string_view keyword) {
-  if (!m_Index.Built()) m_Index.Build(m_Keywords);
+  if (!m_Index.Built()) m_Index.Build(m_Stored);
   return m_Index.Find(keyword);
 }
 
@@ -127,12 +151,19 @@ bool omu_Arguments::Alternative() {
   return true;
 }
 
+// The first in the keyword dictionary's key order.
 cow_String omu_Arguments::FirstUnclaimed() const {
-  std::size_t slot = 0;
-  for (const auto& entry : m_Keywords.GetEntries()) {
-    if (IsUnclaimed(static_cast<int>(slot++))) return entry.first;
+  std::optional<std::string_view> first;
+  for (int slot = 0; slot < m_Index.Size(); ++slot) {
+    if (IsUnclaimed(slot) && (!first || m_Index.Keyword(slot) < *first)) {
+      first = m_Index.Keyword(slot);
+    }
   }
-  return cow_String();
+  return first ? cow_String(*first) : cow_String();
+}
+
+int omu_Arguments::KeywordCount() const {
+  return m_Index.Built() ? m_Index.Size() : Keywords().Length();
 }
 
 bool omu_Arguments::ErrorOnPrevious() const {
@@ -142,7 +173,7 @@ bool omu_Arguments::ErrorOnPrevious() const {
 }
 
 bool omu_Arguments::Error() const {
-  const int given = m_Keywords.Length();
+  const int given = KeywordCount();
   return m_Unclaimed > 0 || m_ErrorArg != 0 || m_Size + m_KeywordsTaken < m_ReqCount ||
          m_Size + given > m_ArgCount;
 }
@@ -174,7 +205,7 @@ void omu_Arguments::EndWith(Context&& context) {
     NEX_THROW(omu_ArgNumberErrorException(m_ReqCount, m_Size + m_KeywordsTaken, context()),
               kSource);
   }
-  const int given = m_Keywords.Length();
+  const int given = KeywordCount();
   if (m_Size + given > m_ArgCount) {
     NEX_THROW(omu_ArgNumberErrorException(m_ArgCount, m_Size + given, context()), kSource);
   }
@@ -190,7 +221,7 @@ cow_String omu_Arguments::AsString(int) const {
       separator = ", ";
     }
   }
-  for (const auto& [keyword, value] : m_Keywords.GetEntries()) {
+  for (const auto& [keyword, value] : Keywords().GetEntries()) {
     text << separator << keyword << '=' << value.ConstGet()->AsString(0);
     separator = ", ";
   }

@@ -9,30 +9,37 @@ std::size_t Hash(std::string_view keyword) noexcept {
 }
 }  // namespace
 
-void omu_KeywordIndex::Build(const omu_PrimDictionary<cow_String>& keywords) {
-  m_Size = keywords.Length();
-  Entry* into = m_Inline.data();
-  if (!IsInline()) {
-    m_Entries.resize(static_cast<std::size_t>(m_Size));
-    into = m_Entries.data();
+void omu_KeywordIndex::Build(std::span<const Stored> keywords) {
+  m_Size = 0;
+  m_Hashed = keywords.size() > Inline;
+  if (m_Hashed) {
+    m_Entries.resize(keywords.size());
+    const std::size_t size = std::bit_ceil(2 * keywords.size() + 1);
+    m_Table.assign(size, -1);
+    m_Mask = size - 1;
   }
-  for (const auto& [keyword, value] : keywords.GetEntries()) {
-    *into++ = {keyword.View(), value.ConstGet()};
+  for (const auto& [keyword, value] : keywords) Add(keyword.View(), value.ConstGet());
+}
+
+void omu_KeywordIndex::Add(std::string_view keyword, const omu_Primitive* value) {
+  const std::size_t at = m_Hashed ? Probe(keyword) : 0;
+  const int slot = m_Hashed ? m_Table[at] : Find(keyword);
+  if (slot >= 0) {
+    Entries()[static_cast<std::size_t>(slot)].value = value;
+    return;
   }
-  if (IsInline()) return;
-  const std::size_t size = std::bit_ceil(2 * m_Entries.size() + 1);
-  m_Table.assign(size, -1);
-  m_Mask = size - 1;
-  for (std::size_t slot = 0; slot < m_Entries.size(); ++slot) {
-    std::size_t at = Hash(m_Entries[slot].keyword) & m_Mask;
-    while (m_Table[at] >= 0) at = (at + 1) & m_Mask;
-    m_Table[at] = static_cast<int>(slot);
+  if (m_Hashed) m_Table[at] = m_Size;
+  Entries()[static_cast<std::size_t>(m_Size++)] = {keyword, value};
+}
+
+std::size_t omu_KeywordIndex::Probe(std::string_view keyword) const noexcept {
+  std::size_t at = Hash(keyword) & m_Mask;
+  for (; m_Table[at] >= 0; at = (at + 1) & m_Mask) {
+    if (Same(m_Entries[static_cast<std::size_t>(m_Table[at])].keyword, keyword)) break;
   }
+  return at;
 }
 
 int omu_KeywordIndex::FindHashed(std::string_view keyword) const noexcept {
-  for (std::size_t at = Hash(keyword) & m_Mask;; at = (at + 1) & m_Mask) {
-    const int slot = m_Table[at];
-    if (slot < 0 || Same(m_Entries[static_cast<std::size_t>(slot)].keyword, keyword)) return slot;
-  }
+  return m_Table[Probe(keyword)];
 }

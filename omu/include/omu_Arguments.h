@@ -10,13 +10,17 @@
 /// what was wrong, in this order: a keyword no Get asked for, a positional value of the wrong
 /// type, a keyword value of the wrong type, too few arguments, too many. Keywords are taken as
 /// text views: reading allocates nothing, and each keyword read takes constant time (a hash
-/// index of the call's keywords, built at the first keyword read after the keywords change).
+/// index of the call's keywords, built by Begin or at the first keyword read after the keywords
+/// change). The keywords are kept in the order stored, one allocation for a call; the keyword
+/// dictionary is made from them only when asked for (Keywords).
 #include <omu_CorvexName.h>
 #include <omu_KeywordIndex.h>
 #include <omu_PrimDictionary.h>
 #include <omu_PrimTuple.h>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 class CVX_EXPORT omu_Arguments : public omu_PrimLeaf<omu_Arguments, omu_PrimTuple> {
 public:
@@ -56,19 +60,23 @@ public:
   const omu_InterfaceObj* Get(const char* typeName, const omu_InterfaceObj*,
                               std::string_view keyword);
 
-  /// Room for count keyword Puts in the stored keywords, so that building a call of many
-  /// keywords grows that list once.
-  void ReserveKeywords(int count) {
-    m_StoredKeywords.MutableVector().reserve(static_cast<std::size_t>(count));
-  }
-  /// Stores value under keyword (as the keyword dictionary's Put does), for argument lists
-  /// built to be passed on.
-  template <class T>
+  /// Room for count keyword Puts, so that building a call of many keywords allocates once.
+  void ReserveKeywords(int count) { m_Stored.reserve(static_cast<std::size_t>(count)); }
+  /// Stores value under keyword (replacing the value of a keyword stored before, as the
+  /// keyword dictionary's Put does), for argument lists built to be passed on: as its binding
+  /// makes it, as a copy of a primitive without a binding, or taking ownership of a pointer.
+  ///@{
+  template <omu_Puttable T>
   void Put(const T& value, const cow_String& keyword) {
-    m_Index.Clear();
-    m_Keywords.Put(value, keyword);
-    m_StoredKeywords.Append(keyword);
+    Store(keyword, omu_PrimMake(value));
   }
+  void Put(const omu_Primitive& value, const cow_String& keyword) {
+    Store(keyword, omu_PrimOwner(value.Copy()));
+  }
+  void Put(omu_Primitive* value, const cow_String& keyword) {
+    Store(keyword, omu_PrimOwner(value));
+  }
+  ///@}
 
   /// Right after a Get of the same parameter that failed, and while deprecated arguments are
   /// allowed: reads the parameter again by the old keyword and gives the deprecation notice
@@ -95,16 +103,22 @@ public:
   /// The same for a command name given as a literal: its text is copied only when End raises.
   void End(const char* context);
 
-  /// The keyword values, by keyword.
-  const omu_PrimDictionary<cow_String>& Keywords() const noexcept { return m_Keywords; }
+  /// The keyword values, by keyword: made (copying the values) at the first call after the
+  /// keywords change, and kept. Not for the call path, which reads keywords with Get.
+  const omu_PrimDictionary<cow_String>& Keywords() const;
   /// The keywords Put stored, in order.
-  const cow_List<cow_String>& StoredKeywords() const noexcept { return m_StoredKeywords; }
+  cow_List<cow_String> StoredKeywords() const;
+  /// The value the index-th keyword Put stored, in order of storing (without the dictionary).
+  const omu_Primitive* StoredValue(int index) const {
+    return m_Stored.at(static_cast<std::size_t>(index)).second.ConstGet();
+  }
   /// The call's text as a script writes it: positional values, then keyword=value pairs, in
   /// parentheses (no one-element comma: this is a call, not a tuple).
   cow_String AsString(int level) const override;
   cow_String AsRepr() const override { return AsString(0); }
 
 private:
+  void Store(const cow_String& keyword, omu_PrimOwner value);
   template <class T, class ByPosition>
   void Read(T& out, std::string_view keyword, ByPosition&& byPosition) {
     if (m_ErrorArg == 0 && m_Cursor < m_Size) return byPosition(out);
@@ -130,16 +144,20 @@ private:
   void EndWith(Context&& context);
   void Deprecated(std::string_view keyword, const cow_String& other) const;
   cow_String FirstUnclaimed() const;
+  /// The number of different keywords stored.
+  int KeywordCount() const;
   bool IsUnclaimed(int slot) const noexcept;
 
-  omu_PrimDictionary<cow_String> m_Keywords;
+  /// The keyword Puts, in order; a keyword stored again is indexed with its last value.
+  std::vector<omu_KeywordIndex::Stored> m_Stored;
+  /// Keywords(), once asked for; immutable, so copies share it.
+  mutable std::shared_ptr<const omu_PrimDictionary<cow_String>> m_Keywords;
   omu_KeywordIndex m_Index;
   /// The unclaimed keywords: one flag per keyword in key order (set once a Get took it), so
   /// that reading claims nothing by copying texts. A string for its small buffer: a call of up
   /// to 15 keywords allocates no flags.
   std::string m_Claimed;
   int m_Unclaimed = 0;
-  cow_List<cow_String> m_StoredKeywords;
   int m_KeywordsTaken = 0;
   int m_KeywordErrorAt = 0;
   cow_String m_KeywordInError;

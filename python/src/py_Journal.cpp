@@ -19,14 +19,11 @@ bool Settled(PyObject* value) {
          py::isinstance<omu_PrimEnumBase>(value);
 }
 
-const omu_Primitive* Converted(const omu_Arguments& arguments, PyObject* kwnames,
-                               Py_ssize_t positional, Py_ssize_t index) {
+// Keyword arguments were stored in the order of the call's names, which never repeat.
+const omu_Primitive* Converted(const omu_Arguments& arguments, Py_ssize_t positional,
+                               Py_ssize_t index) {
   if (index < positional) return arguments.Index(static_cast<int>(index));
-  Py_ssize_t length = 0;
-  const char* keyword =
-      PyUnicode_AsUTF8AndSize(PyTuple_GET_ITEM(kwnames, index - positional), &length);
-  if (!keyword) throw py::error_already_set();
-  return arguments.Keywords().FindKey(std::string_view(keyword, static_cast<std::size_t>(length)));
+  return arguments.StoredValue(static_cast<int>(index - positional));
 }
 
 // name(value, ..., keyword=value, ...) for count arguments; valueAt(i) gives argument i.
@@ -76,7 +73,7 @@ void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t
   try {
     for (Py_ssize_t i = 0; i < count; ++i) {
       const omu_Primitive* converted =
-          Settled(args[i]) ? nullptr : Converted(arguments, kwnames, positional, i);
+          Settled(args[i]) ? nullptr : Converted(arguments, positional, i);
       if (converted) {
         m_Arguments.push_back({nullptr, std::unique_ptr<omu_Primitive>(converted->Copy())});
       } else {

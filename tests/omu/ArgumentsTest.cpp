@@ -115,6 +115,10 @@ TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
       {Reads(Call({"s"}, {{"zzz", 1}}), {"i:a"}), "-1! TypeError: keyword error on zzz"},
       {Reads(Call({"s"}, {{"b", "t"}}), {"i:a", "i:b"}),
        "-1! -1! TypeError: arg1; found string, expecting int"},  // b not read after the error
+      // The first unclaimed in key order, not in the order given.
+      {Reads(Call({}, {{"zeta", 1}, {"alpha", 2}}), {}), "TypeError: keyword error on alpha"},
+      // A keyword stored again gives its last value and counts once.
+      {Reads(Call({}, {{"b", 1}, {"a", 2}, {"b", 3}}), {"i:b", "i:a"}), "3 2 ok"},
       {Reads(Call({}, {{"size", "big"}}), {"f:size"}),
        "-1.0! TypeError: size; found string, expecting float"},
       {Reads(Call({}, {{"mesh", "fine"}}), {"|", "f:mesh", "|", "s:mesh"}),
@@ -154,6 +158,23 @@ TEST(Arguments, KeywordsStoredDuringAReadingCountFromTheNextBegin) {
   EXPECT_EQ(a, 2);
   EXPECT_EQ(b, 3);
   EXPECT_EQ(Outcome(args), "ok");
+}
+
+// Calls of more keywords than are indexed in place go through the hash table.
+TEST(Arguments, EveryKeywordOfALargeCallIsFoundOnceWhateverItsSlot) {
+  for (const int count : {3, 8, 9, 40}) {
+    omu_Arguments args;
+    for (int i = 0; i < count; ++i) args.Put(i, cow_String("k" + std::to_string(i)));
+    args.Put(-1, "k0");
+    args.Begin();
+    for (int i = count - 1; i >= 1; --i) {
+      int value = 0;
+      args.Get(value, "k" + std::to_string(i));
+      EXPECT_EQ(value, i) << count;
+    }
+    EXPECT_EQ(Outcome(args), "TypeError: keyword error on k0") << count;
+    EXPECT_EQ(args.Keywords().Length(), count);
+  }
 }
 
 TEST(Arguments, DeprecatedKeywordsOnlyWhileAllowed) {
