@@ -14,6 +14,12 @@ struct omu_TypeList {
   static void ForEach(Visit&& visit) {
     (visit(std::type_identity<T>()), ...);
   }
+  /// Calls visit(std::type_identity<T>()) for each type, in list order, until one answers
+  /// true; answers whether one did. The calls are inline, so a search costs no indirect call.
+  template <class Visit>
+  static bool AnyOf(Visit&& visit) {
+    return (visit(std::type_identity<T>()) || ...);
+  }
 };
 
 /// @}

@@ -6,9 +6,11 @@
 
 namespace {
 template <class T>
+constexpr bool IsRow = py_Castable<T> && omu_Puttable<T> && omu_Gettable<T>;
+
+template <class T>
 py_ScalarTable::Row RowOf() {
-  return {omu_Binding<T>::code, &py_Caster<T>::Accepts,
-          [](PyObject* value) { return omu_PrimMake(T(py_Caster<T>::FromPython(value))); },
+  return {omu_Binding<T>::code,
           [](const omu_Primitive& value, omu_BindingRuleEnum rule) -> PyObject* {
             T out{};
             return omu_Binding<T>::Convert(value, out, rule) ? py_Caster<T>::ToPython(out)
@@ -20,8 +22,7 @@ py_ScalarTable::Row RowOf() {
 py_ScalarTable::py_ScalarTable() {
   omu_BindingTypes::ForEach([this](auto type) {
     using T = typename decltype(type)::type;
-    if constexpr (py_Castable<T> && omu_Puttable<T> && omu_Gettable<T>)
-      m_Rows.push_back(RowOf<T>());
+    if constexpr (IsRow<T>) m_Rows.push_back(RowOf<T>());
   });
 }
 
@@ -30,11 +31,18 @@ const py_ScalarTable& py_ScalarTable::Instance() {
   return table;
 }
 
-const py_ScalarTable::Row* py_ScalarTable::Accepting(PyObject* value) const {
-  for (const Row& row : m_Rows) {
-    if (row.accepts(value)) return &row;
-  }
-  return nullptr;
+omu_PrimOwner py_ScalarTable::ToPrimitive(PyObject* value) {
+  omu_PrimOwner result;
+  omu_BindingTypes::AnyOf([&](auto type) {
+    using T = typename decltype(type)::type;
+    if constexpr (IsRow<T>) {
+      if (!py_Caster<T>::Accepts(value)) return false;
+      result = omu_PrimMake(T(py_Caster<T>::FromPython(value)));
+      return true;
+    }
+    return false;
+  });
+  return result;
 }
 
 PyObject* py_ScalarTable::ToPython(const omu_Primitive& value) const {

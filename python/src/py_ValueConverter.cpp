@@ -166,9 +166,7 @@ PyObject* Checked(PyObject* result) {
 }  // namespace
 
 omu_PrimOwner py_ValueConverter::ToPrimitive(PyObject* value) {
-  if (const py_ScalarTable::Row* row = py_ScalarTable::Instance().Accepting(value)) {
-    return row->toPrimitive(value);
-  }
+  if (omu_PrimOwner scalar = py_ScalarTable::ToPrimitive(value)) return scalar;
   if (PyLong_Check(value)) {
     Raise(PyExc_OverflowError, "int %R does not fit a 32-bit signed or unsigned integer", value);
   }
