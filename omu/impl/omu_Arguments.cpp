@@ -44,7 +44,7 @@ void omu_Arguments::Begin() {
   m_Claimed.assign(static_cast<std::size_t>(m_Index.Size()), '\0');
   m_Unclaimed = m_Index.Size();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
-  m_KeywordInError = cow_String();
+  m_KeywordInError.clear();
   omu_PrimTuple::Begin();
 }
 
@@ -99,8 +99,7 @@ void omu_Arguments::CountKeywordRead(int slot) {
 
 void omu_Arguments::Get(omu_CorvexName& out, std::string_view keyword) {
   const int slot = KeywordSlot(keyword);
-  const bool given = m_ErrorArg == 0 &&
-                     (m_Cursor < m_Size || IsUnclaimed(slot));
+  const bool given = m_ErrorArg == 0 && (m_Cursor < m_Size || IsUnclaimed(slot));
   cow_String text;
   Get(text, keyword);
   if (given && !ErrorOnPrevious()) out = omu_CorvexName(text, out.Kind());
@@ -129,8 +128,9 @@ void omu_Arguments::Deprecated(std::string_view keyword, const cow_String& other
 }
 
 bool omu_Arguments::Alternative() {
-  const bool lastFailed = (m_KeywordErrorAt != 0 && m_KeywordErrorAt == m_NumGets) ||
-                          (m_OptionalKeywordMissingAt != 0 && m_OptionalKeywordMissingAt == m_NumGets);
+  const bool lastFailed =
+      (m_KeywordErrorAt != 0 && m_KeywordErrorAt == m_NumGets) ||
+      (m_OptionalKeywordMissingAt != 0 && m_OptionalKeywordMissingAt == m_NumGets);
   if (!lastFailed) {
     if (m_KeywordErrorAt != 0 || m_NumGets > m_Size) return false;
     return omu_PrimTuple::Alternative();
@@ -138,14 +138,14 @@ bool omu_Arguments::Alternative() {
   if (!m_IsOptional) --m_ReqCount;
   m_OptionalKeywordMissingAt = m_KeywordErrorAt = m_ErrorArg = 0;
   m_TypeFound = m_TypeExpected = cow_String();
-  const int slot = KeywordSlot(m_KeywordInError.View());
+  const int slot = KeywordSlot(m_KeywordInError);
   if (slot >= 0 && static_cast<std::size_t>(slot) < m_Claimed.size() &&
       m_Claimed[static_cast<std::size_t>(slot)]) {
     m_Claimed[static_cast<std::size_t>(slot)] = 0;
     ++m_Unclaimed;
     if (!m_IsOptional) --m_KeywordsTaken;
   }
-  m_KeywordInError = cow_String();
+  m_KeywordInError.clear();
   --m_NumGets;
   --m_ArgCount;
   return true;
@@ -192,14 +192,14 @@ void omu_Arguments::EndWith(Context&& context) {
   if (m_Unclaimed > 0) {
     NEX_THROW(omu_KeywordErrorException(FirstUnclaimed(), context()), kSource);
   }
-  if (m_ErrorArg != 0 && m_KeywordInError.IsEmpty()) {
+  if (m_ErrorArg != 0 && m_KeywordInError.empty()) {
     NEX_THROW(omu_ArgTypeErrorException(m_ErrorArg, m_TypeExpected, m_TypeFound, context()),
               kSource);
   }
   if (m_ErrorArg != 0 && m_TypeExpected != kUndetermined && m_TypeFound != kUndetermined) {
-    NEX_THROW(
-        omu_KeywordTypeErrorException(m_KeywordInError, m_TypeExpected, m_TypeFound, context()),
-        kSource);
+    NEX_THROW(omu_KeywordTypeErrorException(cow_String(m_KeywordInError), m_TypeExpected,
+                                            m_TypeFound, context()),
+              kSource);
   }
   if (m_Size + m_KeywordsTaken < m_ReqCount) {
     NEX_THROW(omu_ArgNumberErrorException(m_ReqCount, m_Size + m_KeywordsTaken, context()),

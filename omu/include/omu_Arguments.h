@@ -160,7 +160,9 @@ private:
   int m_Unclaimed = 0;
   int m_KeywordsTaken = 0;
   int m_KeywordErrorAt = 0;
-  cow_String m_KeywordInError;
+  /// A string for its small buffer: recording a missing optional keyword, which every call
+  /// that leaves out an optional parameter does, allocates nothing.
+  std::string m_KeywordInError;
   int m_OptionalKeywordMissingAt = 0;
 };
 
