@@ -13,6 +13,8 @@
 //               error set
 //
 // Casters hold no state; call them with the GIL held.
+#include "py_InternedTexts.h"
+
 #include <Python.h>
 #include <cow_String.h>
 #include <omi_complex.h>
@@ -77,12 +79,7 @@ struct py_Caster<bool> {
 template <>
 struct py_Caster<cow_String> {
   static bool Accepts(PyObject* object) { return PyUnicode_Check(object); }
-  static cow_String FromPython(PyObject* object) {
-    Py_ssize_t length = 0;
-    const char* text = PyUnicode_AsUTF8AndSize(object, &length);
-    if (!text) throw pybind11::error_already_set();
-    return cow_String(std::string_view(text, static_cast<std::size_t>(length)));
-  }
+  static cow_String FromPython(PyObject* object) { return py_InternedTexts::Text(object); }
   static PyObject* ToPython(const cow_String& value) {
     const std::string_view text = value.View();
     return PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace");
