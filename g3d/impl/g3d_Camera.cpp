@@ -493,16 +493,6 @@ void g3d_Camera::GeneratePM() const {
   m_PMStale = false;
 }
 
-const g3d_XForm& g3d_Camera::GetVOM() const {
-  if (m_VOMStale) GenerateVOM();
-  return m_VOM;
-}
-
-const g3d_XForm& g3d_Camera::GetPM() const {
-  if (m_PMStale) GeneratePM();
-  return m_PM;
-}
-
 bool g3d_Camera::ToWindow(const g3d_Point& world, float& x, float& y) const {
   g3d_Point p = world;
   GetVOM().XForm(&p, 1);

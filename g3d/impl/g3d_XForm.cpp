@@ -326,12 +326,19 @@ g3d_XForm& g3d_XForm::SetPerspectiveProjection(float left, float right, float to
   const double l = left, r = right, t = top, b = bottom, n = near, f = far;
   const Entries q = {Pair{2 * n, r + l} / (r - l), Pair{2 * n, t + b} / (t - b),
                      Pair{-(f + n), -2 * f * n} / (f - n)};
-  if (!Fits(q)) return SetIdentity();
-  const Matrix rows = {{Narrow(q.x[0]), 0, Narrow(q.x[1]), 0},
-                       {0, Narrow(q.y[0]), Narrow(q.y[1]), 0},
-                       {0, 0, Narrow(q.z[0]), Narrow(q.z[1])},
-                       {0, 0, -1, 0}};
-  return SetM(rows);
+  SetIdentity();
+  if (!Fits(q)) return *this;
+  // Entry by entry into the matrix: a whole row built on the stack and copied in is written
+  // in four-byte pieces and read back in sixteen, which the processor cannot forward.
+  m_M[0][0] = Narrow(q.x[0]);
+  m_M[0][2] = Narrow(q.x[1]);
+  m_M[1][1] = Narrow(q.y[0]);
+  m_M[1][2] = Narrow(q.y[1]);
+  m_M[2][2] = Narrow(q.z[0]);
+  m_M[2][3] = Narrow(q.z[1]);
+  m_M[3][2] = -1.0f;
+  m_M[3][3] = 0.0f;
+  return *this;
 }
 
 g3d_XForm& g3d_XForm::SetOrthographicProjection(float left, float right, float top, float bottom,
@@ -340,12 +347,15 @@ g3d_XForm& g3d_XForm::SetOrthographicProjection(float left, float right, float t
   const double l = left, r = right, t = top, b = bottom, n = near, f = far;
   const Entries q = {Pair{2, -(l + r)} / (r - l), Pair{2, -(t + b)} / (t - b),
                      Pair{-2, -(n + f)} / (f - n)};
-  if (!Fits(q)) return SetIdentity();
-  const Matrix rows = {{Narrow(q.x[0]), 0, 0, Narrow(q.x[1])},
-                       {0, Narrow(q.y[0]), 0, Narrow(q.y[1])},
-                       {0, 0, Narrow(q.z[0]), Narrow(q.z[1])},
-                       {0, 0, 0, 1}};
-  return SetM(rows);
+  SetIdentity();
+  if (!Fits(q)) return *this;
+  m_M[0][0] = Narrow(q.x[0]);
+  m_M[0][3] = Narrow(q.x[1]);
+  m_M[1][1] = Narrow(q.y[0]);
+  m_M[1][3] = Narrow(q.y[1]);
+  m_M[2][2] = Narrow(q.z[0]);
+  m_M[2][3] = Narrow(q.z[1]);
+  return *this;
 }
 
 g3d_XForm& g3d_XForm::operator*=(const g3d_XForm& b) noexcept {

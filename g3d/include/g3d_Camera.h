@@ -152,9 +152,16 @@ public:
   g3d_Camera& SetLayerXForm(bool on, g3d_XForm* layer);
 
   /// The view matrix (world to eye) and the projection matrix, rebuilt here when stale.
+  /// Inline, so that reading a fresh matrix costs one test and no call.
   ///@{
-  const g3d_XForm& GetVOM() const;
-  const g3d_XForm& GetPM() const;
+  const g3d_XForm& GetVOM() const {
+    if (m_VOMStale) GenerateVOM();
+    return m_VOM;
+  }
+  const g3d_XForm& GetPM() const {
+    if (m_PMStale) GeneratePM();
+    return m_PM;
+  }
   ///@}
   /// The state as set (see the setters).
   ///@{
