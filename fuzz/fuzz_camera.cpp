@@ -1,15 +1,12 @@
 // Random sequences of camera operations with everyday finite values: after every step the
 // camera's state and its view and projection matrices stay finite, and nothing crashes.
 // Each step is one byte choosing the operation and a handful of bounded numbers.
+#include "../tests/g3d/CameraFinite.h"
 #include "FuzzInput.h"
 
-#include <g3d_Camera.h>
-
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <initializer_list>
 #include <iterator>
 
 namespace {
@@ -21,32 +18,8 @@ g3d_Point Point(FuzzInput& in) { return {Number(in, 100), Number(in, 100), Numbe
 g3d_Vector Vector(FuzzInput& in) { return {Number(in, 1), Number(in, 1), Number(in, 1)}; }
 bool Flag(FuzzInput& in) { return in.Byte() % 2 != 0; }
 
-bool Finite(std::initializer_list<float> values) {
-  for (const float value : values) {
-    if (!std::isfinite(value)) return false;
-  }
-  return true;
-}
-
-bool Finite(const g3d_XForm& m) {
-  for (int i = 0; i < 16; ++i) {
-    if (!std::isfinite(m.GetM(i / 4, i % 4))) return false;
-  }
-  return true;
-}
-
 void Check(const g3d_Camera& camera, int step) {
-  const g3d_Point &eye = camera.GetEye(), &target = camera.GetTarget();
-  const g3d_Vector& up = camera.GetUp();
-  const bool state = Finite({eye.x, eye.y, eye.z, eye.w, target.x, target.y, target.z, target.w,
-                             up.x, up.y, up.z}) &&
-                     Finite({camera.GetWindowWidth(), camera.GetWindowHeight(), camera.GetNear(),
-                             camera.GetFar(), camera.GetViewOffsetX(), camera.GetViewOffsetY()});
-  const char* broken = !state                     ? "state"
-                       : !Finite(camera.GetVOM()) ? "view matrix"
-                       : !Finite(camera.GetPM())  ? "projection matrix"
-                                                  : nullptr;
-  if (broken) {
+  if (const char* broken = NotFinitePart(camera)) {
     std::fprintf(stderr, "camera %s not finite after step %d\n", broken, step);
     __builtin_trap();
   }

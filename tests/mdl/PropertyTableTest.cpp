@@ -1,14 +1,13 @@
 #include "LibraryEnvironment.h"
+#include "PropertyTableReference.h"
 #include "RaisedText.h"
 #include "TestArchive.h"
 
-#include <mdl_PropertyTable.h>
 #include <nex_TextException.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <random>
 #include <string>
@@ -22,34 +21,6 @@ mdl_PropertyTable Table(int columns, std::vector<double> cells) {
   array.MutableCells() = std::move(cells);
   return mdl_PropertyTable(array);
 }
-
-// Bit for bit, so that -0.0 and NaN are told apart.
-bool SameBits(const mdl_PropertyTable& a, const mdl_PropertyTable& b) {
-  const auto& x = a.Table().Cells();
-  const auto& y = b.Table().Cells();
-  return a.Rows() == b.Rows() && a.Columns() == b.Columns() && x.size() == y.size() &&
-         (x.empty() || std::memcmp(x.data(), y.data(), x.size() * sizeof(double)) == 0);
-}
-
-// The sort as the model describes it: an insertion sort on whole rows, where a row goes below one
-// whose first differing key, from the last column leftwards, is smaller (a NaN key differs from
-// every key and is smaller than none).
-cow_2DArray<double> InsertionSorted(cow_2DArray<double> table, int keys) {
-  const int columns = table.Columns();
-  std::vector<double>& cells = table.MutableCells();
-  const auto row = [&](int r) { return cells.begin() + r * columns; };
-  const auto greater = [&](int a, int b) {
-    for (int c = columns - 1; c >= columns - keys; --c) {
-      if (row(a)[c] > row(b)[c]) return true;
-      if (!(row(a)[c] == row(b)[c])) return false;
-    }
-    return false;
-  };
-  for (int i = 1; i < table.Rows(); ++i) {
-    for (int j = i; j > 0 && greater(j - 1, j); --j) std::swap_ranges(row(j - 1), row(j), row(j));
-  }
-  return table;
-}
 }  // namespace
 
 // Cells compare as cow_2DArray's do, NaN included: the flag and the shape are its own.
@@ -62,23 +33,6 @@ TEST(PropertyTable, EqualityNeedsFlagShapeAndEveryElement) {
   flagged.SetAllowEmptyFirstRow(true);
   EXPECT_NE(base, flagged);
   EXPECT_NE(mdl_PropertyTable(), mdl_PropertyTable(0, 4));  // no cells, but other column counts
-}
-
-TEST(PropertyTable, SortOrdersByTheTrailingColumnsLastMostSignificant) {
-  const struct {
-    int columns, keys;
-    std::vector<double> before, after;
-  } cases[] = {
-      {2, 1, {1, 5, 2, 3, 3, 5}, {2, 3, 1, 5, 3, 5}},
-      {2, 2, {3, 1, 1, 2, 2, 1, 0, 2}, {2, 1, 3, 1, 0, 2, 1, 2}},
-      {1, 1, {3, NaN, 1}, {3, NaN, 1}},        // nothing passes a NaN key
-      {2, 2, {NaN, 5, 0, 1}, {0, 1, NaN, 5}},  // decided before the NaN is reached
-  };
-  for (const auto& c : cases) {
-    mdl_PropertyTable table = Table(c.columns, c.before);
-    table.Sort(c.keys);
-    EXPECT_TRUE(SameBits(table, Table(c.columns, c.after))) << "row " << &c - cases;
-  }
 }
 
 // NaN, both zeros and both infinities in every key column, on tables long enough for the
