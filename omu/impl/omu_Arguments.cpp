@@ -39,6 +39,16 @@ cow_List<cow_String> omu_Arguments::StoredKeywords() const {
   return keywords;
 }
 
+void omu_Arguments::Reset(int size) {
+  omu_PrimTuple::Reset(size);
+  m_Stored.clear();
+  m_Keywords.reset();
+  m_Index.Clear();
+  m_Claimed.clear();
+  m_Unclaimed = m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
+  m_KeywordInError.clear();
+}
+
 void omu_Arguments::Begin() {
   if (!m_Index.Built()) m_Index.Build(m_Stored);
   m_Claimed.assign(static_cast<std::size_t>(m_Index.Size()), '\0');

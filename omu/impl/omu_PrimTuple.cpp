@@ -273,6 +273,16 @@ void omu_PrimTuple::Begin() {
   m_TypeExpected = cow_String();
 }
 
+void omu_PrimTuple::Reset(int size) {
+  m_Size = size < 0 ? 0 : size;
+  std::vector<omu_PrimHandle>& slots = m_PrimVector.MutableVector();
+  slots.clear();
+  slots.resize(static_cast<std::size_t>(m_Size));
+  m_TupleUid = cls_Uid();
+  m_NestedErrorStr = cow_String();
+  omu_PrimTuple::Begin();
+}
+
 void omu_PrimTuple::End(cow_String context) {
   if (context.IsEmpty()) context = m_NestedErrorStr;
   if (m_ErrorArg != 0) {

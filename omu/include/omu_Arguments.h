@@ -40,6 +40,8 @@ public:
   ///@}
 
   void Begin() override;
+  /// Also forgets the keywords, keeping the storage of all but their values.
+  void Reset(int size) override;
   /// Reads the parameter by position while positions last (with the tuple's Get), else by its
   /// keyword (with T's binding, omu_Binding). A missing required keyword, or a keyword value
   /// that does not convert to T, is kept for End; a missing optional keyword is no error and

@@ -141,6 +141,10 @@ public:
   ///@}
   /// Starts reading: the cursor to the first element, no fault and no value read yet.
   virtual void Begin();
+  /// Makes the tuple as a new one of size slots would be, releasing its values but keeping its
+  /// storage when no copy shares it: a caller that builds one short-lived tuple after another
+  /// allocates the slots once.
+  virtual void Reset(int size);
   /// Raises omu_ArgTypeErrorException for the first mistyped value, else
   /// omu_ArgNumberErrorException when too few or too many values were read; an empty
   /// context takes the nested error text.

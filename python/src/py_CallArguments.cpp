@@ -2,10 +2,35 @@
 
 #include "py_Caster.h"
 
-omu_Arguments py_CallArguments::Build(PyObject* const* args, std::size_t nargsf,
-                                      PyObject* kwnames) {
+std::vector<std::unique_ptr<omu_Arguments>>& py_CallArguments::Spares() {
+  thread_local std::vector<std::unique_ptr<omu_Arguments>> spares;
+  return spares;
+}
+
+py_CallArguments::Lease::Lease(PyObject* const* args, std::size_t nargsf, PyObject* kwnames) {
+  auto& spares = Spares();
+  if (spares.empty()) {
+    m_Arguments = std::make_unique<omu_Arguments>();
+  } else {
+    m_Arguments = std::move(spares.back());
+    spares.pop_back();
+  }
+  // A list that fails to fill is not given back: it dies with its values.
+  Fill(args, nargsf, kwnames);
+}
+
+py_CallArguments::Lease::~Lease() {
+  // Released here, with the GIL held, as a list destroyed here would release them.
+  m_Arguments->Reset(0);
+  auto& spares = Spares();
+  if (spares.size() < Spare) spares.push_back(std::move(m_Arguments));
+}
+
+void py_CallArguments::Lease::Fill(PyObject* const* args, std::size_t nargsf,
+                                   PyObject* kwnames) {
   const Py_ssize_t positional = PyVectorcall_NARGS(nargsf);
-  omu_Arguments arguments(static_cast<int>(positional));
+  omu_Arguments& arguments = *m_Arguments;
+  arguments.Reset(static_cast<int>(positional));
   for (Py_ssize_t i = 0; i < positional; ++i) {
     arguments.Put(py_ValueConverter::ToPrimitive(args[i]).release());
   }
@@ -16,5 +41,4 @@ omu_Arguments py_CallArguments::Build(PyObject* const* args, std::size_t nargsf,
     omu_Primitive* value = py_ValueConverter::ToPrimitive(args[positional + i]).release();
     arguments.Put(value, keyword);
   }
-  return arguments;
 }

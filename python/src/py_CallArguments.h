@@ -3,6 +3,10 @@
 // become one omu_Arguments (each value through py_ValueConverter, keywords in the order
 // given), which the native side binds with Begin/Get/End, so a wrong call gets the library's
 // own messages in the library's order. Call with the GIL held.
+//
+// The argument lists are reused: each thread keeps the lists its finished calls gave back
+// (one per depth of calls made from inside a command, up to Spare), reset and with their
+// storage, so that a call allocates only its values.
 #include "py_ErrorTranslator.h"
 #include "py_ValueConverter.h"
 
@@ -10,10 +14,11 @@
 #include <omu_Arguments.h>
 
 #include <memory>
+#include <vector>
 
 class py_CallArguments {
 public:
-  static omu_Arguments Build(PyObject* const* args, std::size_t nargsf, PyObject* kwnames);
+  static constexpr std::size_t Spare = 8;
 
   // Runs call(arguments), a native call answering a new primitive (null for None), and
   // answers its Python value, or null with the Python error set when anything failed.
@@ -21,12 +26,31 @@ public:
   static PyObject* Run(Call&& call, PyObject* const* args, std::size_t nargsf,
                        PyObject* kwnames) noexcept {
     try {
-      omu_Arguments arguments = Build(args, nargsf, kwnames);
-      const std::unique_ptr<omu_Primitive> result(call(arguments));
+      const Lease arguments(args, nargsf, kwnames);
+      const std::unique_ptr<omu_Primitive> result(call(*arguments));
       return py_ValueConverter::ToPython(result.get());
     } catch (...) {
       py_ErrorTranslator::RaiseCurrent();
       return nullptr;
     }
   }
+
+private:
+  // An argument list filled from a call, given back (reset, its values released) at the end
+  // of the scope.
+  class Lease {
+  public:
+    Lease(PyObject* const* args, std::size_t nargsf, PyObject* kwnames);
+    ~Lease();
+    Lease(const Lease&) = delete;
+    Lease& operator=(const Lease&) = delete;
+    omu_Arguments& operator*() const noexcept { return *m_Arguments; }
+
+  private:
+    void Fill(PyObject* const* args, std::size_t nargsf, PyObject* kwnames);
+
+    std::unique_ptr<omu_Arguments> m_Arguments;
+  };
+
+  static std::vector<std::unique_ptr<omu_Arguments>>& Spares();
 };

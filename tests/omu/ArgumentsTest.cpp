@@ -177,6 +177,21 @@ TEST(Arguments, EveryKeywordOfALargeCallIsFoundOnceWhateverItsSlot) {
   }
 }
 
+// A list reused for call after call: nothing of the last call may show, in it or in a copy.
+TEST(Arguments, ResetGivesAFreshListAndLeavesCopiesAlone) {
+  omu_Arguments args = Call({"s"}, {{"k", 2.5}});
+  args.Begin();
+  int a = 0;
+  args.Get(a, "a");  // records a type error
+  const omu_Arguments copy = args;
+  args.Reset(1);
+  args.Put(7);
+  EXPECT_EQ(args.AsString(0), "(7)");
+  EXPECT_EQ(Reads(args, {"i:a", "?", "i:k"}), "7 -1! ok");
+  EXPECT_EQ(copy.AsString(0), "('s', k=2.5)");
+  EXPECT_EQ(Reads(copy, {"i:a", "f:k"}), "-1! -1.0! TypeError: arg1; found string, expecting int");
+}
+
 TEST(Arguments, DeprecatedKeywordsOnlyWhileAllowed) {
   omu_Arguments args = Call({}, {{"oldSize", 2.5}});
   double size = 0;
