@@ -1,5 +1,6 @@
 """Values carried into the library's primitives and back (cvxutils.echo) and their text."""
 import math
+import sys
 
 import numpy as np
 import pytest
@@ -26,6 +27,14 @@ def test_round_trip_gives_an_equal_value_of_the_same_type(value):
     assert type(back) is type(value)
     if isinstance(value, list):
         assert [type(v) for v in back] == [type(v) for v in value]
+
+
+def test_interned_strings_cross_as_themselves_past_the_texts_kept_for_them():
+    # The library keeps the text of the first 1,024 interned strings; the rest convert each time.
+    names = [sys.intern(f"interned_{i}") for i in range(3000)]
+    for _ in range(2):
+        assert [cvxutils.echo(name) for name in names] == names
+        assert cvxutils.echo({name: 1 for name in names[::7]}) == {name: 1 for name in names[::7]}
 
 
 def test_nan_round_trips_as_nan():
