@@ -1,0 +1,44 @@
+#pragma once
+/// \addtogroup bascore
+/// @{
+
+/// \class mem_BlockPool
+/// Fixed-size blocks for small objects that are made and freed by the million (numbers,
+/// short strings): a block costs a few instructions and no lock in the common case, and
+/// takes its size rounded up to 16 bytes instead of a malloc chunk.
+///
+/// Sizes of 1 to MaxBlock bytes are served in classes of 16 bytes; larger ones, and every
+/// size in AddressSanitizer and ThreadSanitizer builds (so that they see each object), go
+/// to the global operator new and delete. Blocks are carved from arenas of about 260 KiB
+/// taken with the global operator new, so the allocator's own figures count them. Each
+/// thread keeps a short list of free blocks per class and trades them with the shared
+/// arenas in batches under a lock; a block may be freed on any thread. An arena whose
+/// blocks are all free again goes back to operator delete, beyond the last two per class
+/// kept to spare a loop that fills and empties them the cost of fresh pages.
+///
+/// Use it through a class's own operators, so that `new T` and `delete` on a T (or on a
+/// base with a virtual destructor) come here with the same size:
+/// \code
+///   static void* operator new(std::size_t size) { return mem_BlockPool::Allocate(size); }
+///   static void operator delete(void* block, std::size_t size) noexcept {
+///     mem_BlockPool::Free(block, size);
+///   }
+/// \endcode
+#include <BASCORE_Export.h>
+
+#include <cstddef>
+
+class BASCORE_EXPORT mem_BlockPool {
+public:
+  /// The largest size served from blocks.
+  static constexpr std::size_t MaxBlock = 256;
+
+  /// A block of at least size bytes, aligned to 16; throws std::bad_alloc when memory runs out.
+  static void* Allocate(std::size_t size);
+  /// Frees a block of Allocate; size must be the one it was asked for. Null does nothing.
+  static void Free(void* block, std::size_t size) noexcept;
+  /// The bytes the arenas of all classes hold, in use or free (0 in sanitizer builds).
+  static std::size_t ArenaBytes() noexcept;
+};
+
+/// @}
