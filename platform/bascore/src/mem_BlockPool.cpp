@@ -20,8 +20,9 @@ namespace {
 constexpr std::size_t kAlign = 16;
 constexpr std::size_t kClasses = mem_BlockPool::MaxBlock / kAlign;
 // Pages are aligned so that a block finds its arena from its own address; an arena takes one
-// page more than it carves, lost to that alignment. A class's first arenas are small, so that
-// a few values of a kind cost little, and they double up to kMaxPages.
+// page more than it carves, lost to that alignment and its header, which may cost it a page
+// too. A class's first arenas are small, so that a few values of a kind cost little, and they
+// double up to kMaxPages.
 constexpr std::size_t kPage = 4096;
 constexpr std::size_t kMaxPages = 64;
 // Threads trade free blocks with the shared lists in chains of kBatch, each thread keeping at
@@ -122,12 +123,14 @@ void Unlink(Shared& shared, Arena* arena) noexcept {
 }
 
 Arena* NewArena(Shared& shared) {
-  const std::size_t pages = std::min(kMaxPages, std::size_t{1} << std::min<std::size_t>(shared.arenas, 6));
+  const std::size_t pages =
+      std::min(kMaxPages, std::size_t{2} << std::min<std::size_t>(shared.arenas, 5));
   const std::size_t bytes = (pages + 1) * kPage;
   char* raw = static_cast<char*>(::operator new(bytes));
   auto* arena = new (raw) Arena();
   arena->bytes = bytes;
-  const auto first = (reinterpret_cast<std::uintptr_t>(raw + sizeof(Arena)) + kPage - 1) & ~(kPage - 1);
+  const auto first =
+      (reinterpret_cast<std::uintptr_t>(raw + sizeof(Arena)) + kPage - 1) & ~(kPage - 1);
   arena->nextPage = raw + (first - reinterpret_cast<std::uintptr_t>(raw));
   arena->endPage = arena->nextPage + (raw + bytes - arena->nextPage) / kPage * kPage;
   Link(shared, arena, true);
@@ -161,8 +164,8 @@ int Take(Shared& shared, Cache& cache, int limit) {
     listed = taken;
   } else {
     if (arena->bump == arena->bumpEnd) CarvePage(arena, shared.size);
-    taken = static_cast<int>(std::min<std::size_t>(
-        static_cast<std::size_t>(limit), (arena->bumpEnd - arena->bump) / shared.size));
+    taken = static_cast<int>(std::min<std::size_t>(static_cast<std::size_t>(limit),
+                                                   (arena->bumpEnd - arena->bump) / shared.size));
     cache.bump = arena->bump;
     cache.bumpEnd = arena->bump += taken * shared.size;
   }
