@@ -28,13 +28,12 @@ public:
     if constexpr (requires { visitor->Visit(Self()); }) visitor->Visit(Self());
   }
 
-  /// Allocation from mem_BlockPool; a subclass of another size comes here with its own size.
-  ///@{
+  /// A block of mem_BlockPool; a subclass of another size comes here with its own size.
   static void* operator new(std::size_t size) { return mem_BlockPool::Allocate(size); }
+  /// Gives the block back to mem_BlockPool; size is the most derived class's, as for new.
   static void operator delete(void* value, std::size_t size) noexcept {
     mem_BlockPool::Free(value, size);
   }
-  ///@}
 
 private:
   const Derived& Self() const noexcept { return static_cast<const Derived&>(*this); }
