@@ -73,8 +73,10 @@ TEST(BlockPool, BlocksStayDistinctAcrossThreadsAndFreeAnywhere) {
     EXPECT_EQ(faults, 0u) << c.name << ": blocks overlap, are misaligned or were overwritten";
     if (!pooled || c.size > mem_BlockPool::MaxBlock) continue;
     const std::size_t total = c.size * c.threads * c.count;
+    // Free blocks waiting in a class's shared chains (512 KiB) keep their arenas, as do the
+    // two empty ones kept.
     EXPECT_GE(peak + (2u << 20), before + total) << c.name << ": the arenas are not counted";
-    EXPECT_LE(mem_BlockPool::ArenaBytes(), before + (2u << 20)) << c.name << ": arenas kept";
+    EXPECT_LE(mem_BlockPool::ArenaBytes(), before + (3u << 20)) << c.name << ": arenas kept";
   }
 }
 

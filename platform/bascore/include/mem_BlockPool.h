@@ -11,10 +11,12 @@
 /// size in AddressSanitizer and ThreadSanitizer builds (so that they see each object), go
 /// to the global operator new and delete. Blocks are carved from arenas of about 260 KiB
 /// taken with the global operator new, so the allocator's own figures count them. Each
-/// thread keeps a short list of free blocks per class and trades them with the shared
-/// arenas in batches under a lock; a block may be freed on any thread. An arena whose
-/// blocks are all free again goes back to operator delete, beyond the last two per class
-/// kept to spare a loop that fills and empties them the cost of fresh pages.
+/// thread keeps up to 256 free blocks per class and trades them in chains of 128 under a
+/// lock; a block may be freed on any thread, and a thread's blocks go back when it ends. Up
+/// to 512 KiB of chains per class wait for the next thread that needs them; the rest go back
+/// to their arenas. An arena whose blocks are all free again goes back to operator delete,
+/// beyond the last two per class kept to spare a loop that fills and empties them the cost
+/// of fresh pages. A free block that waits keeps its arena, as a live one does.
 ///
 /// Use it through a class's own operators, so that `new T` and `delete` on a T (or on a
 /// base with a virtual destructor) come here with the same size:
