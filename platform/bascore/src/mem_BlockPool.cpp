@@ -6,16 +6,20 @@
 #include <mutex>
 #include <new>
 
-// The sanitizers must see every object: there the pool hands each size to operator new.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define MEM_POOL_PLAIN 1
+// Under AddressSanitizer the pool stays in use and poisons what is not handed out: a free
+// block, the rest of a block past the size asked for, the pages not carved yet.
+#if defined(__SANITIZE_ADDRESS__)
+#define MEM_POOL_POISON 1
 #elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define MEM_POOL_PLAIN 1
+#if __has_feature(address_sanitizer)
+#define MEM_POOL_POISON 1
 #endif
 #endif
 
-#ifndef MEM_POOL_PLAIN
+#ifdef MEM_POOL_POISON
+#include <sanitizer/asan_interface.h>
+#endif
+
 namespace {
 constexpr std::size_t kAlign = 16;
 constexpr std::size_t kClasses = mem_BlockPool::MaxBlock / kAlign;
@@ -36,6 +40,33 @@ constexpr int kKeptEmpty = 2;
 struct Block {
   Block* next;
 };
+
+// What a caller may not touch is poisoned, so that AddressSanitizer reports the access; the
+// pool opens a free block's link only for as long as it reads or writes it.
+void Poison([[maybe_unused]] const void* at, [[maybe_unused]] std::size_t bytes) noexcept {
+#ifdef MEM_POOL_POISON
+  ASAN_POISON_MEMORY_REGION(at, bytes);
+#endif
+}
+
+void Unpoison([[maybe_unused]] const void* at, [[maybe_unused]] std::size_t bytes) noexcept {
+#ifdef MEM_POOL_POISON
+  ASAN_UNPOISON_MEMORY_REGION(at, bytes);
+#endif
+}
+
+Block* NextOf(Block* block) noexcept {
+  Unpoison(block, sizeof(Block));
+  Block* next = block->next;
+  Poison(block, sizeof(Block));
+  return next;
+}
+
+void SetNext(Block* block, Block* next) noexcept {
+  Unpoison(block, sizeof(Block));
+  block->next = next;
+  Poison(block, sizeof(Block));
+}
 
 struct Arena;
 
@@ -71,6 +102,7 @@ struct Shared {
   Arena* tail = nullptr;
   std::size_t arenas = 0;
   int empty = 0;  // listed arenas with no block out
+  bool closing = false;  // the program is ending: nothing waits, an arena goes back once empty
 };
 
 // A thread's free blocks of one class: a list, a full chain spare, then a run not carved
@@ -92,7 +124,12 @@ struct ThreadLists {
 
 std::atomic<std::size_t> s_ArenaBytes{0};
 
-// Never destroyed: blocks are still freed while statics are torn down.
+struct Teardown {
+  ~Teardown();
+};
+
+// Never destroyed: blocks are still freed while statics are torn down. What the classes keep
+// for later goes back at exit, so that neither LeakSanitizer nor valgrind finds it lost.
 Shared* Classes() {
   static Shared* const classes = [] {
     auto* made = new Shared[kClasses];
@@ -102,6 +139,7 @@ Shared* Classes() {
     }
     return made;
   }();
+  static const Teardown teardown;
   return classes;
 }
 
@@ -133,6 +171,7 @@ Arena* NewArena(Shared& shared) {
       (reinterpret_cast<std::uintptr_t>(raw + sizeof(Arena)) + kPage - 1) & ~(kPage - 1);
   arena->nextPage = raw + (first - reinterpret_cast<std::uintptr_t>(raw));
   arena->endPage = arena->nextPage + (raw + bytes - arena->nextPage) / kPage * kPage;
+  Poison(arena->nextPage, static_cast<std::size_t>(arena->endPage - arena->nextPage));
   Link(shared, arena, true);
   ++shared.arenas;
   ++shared.empty;
@@ -141,6 +180,7 @@ Arena* NewArena(Shared& shared) {
 }
 
 void CarvePage(Arena* arena, std::size_t size) noexcept {
+  Unpoison(arena->nextPage, sizeof(Page));
   auto* page = reinterpret_cast<Page*>(arena->nextPage);
   page->arena = arena;
   arena->bump = arena->nextPage + sizeof(Page);
@@ -157,10 +197,10 @@ int Take(Shared& shared, Cache& cache, int limit) {
   int listed = 0;
   if (arena->free) {
     Block* last = arena->free;
-    for (taken = 1; taken < limit && last->next; ++taken) last = last->next;
+    for (taken = 1; taken < limit && NextOf(last); ++taken) last = NextOf(last);
     cache.head = arena->free;
-    arena->free = last->next;
-    last->next = nullptr;
+    arena->free = NextOf(last);
+    SetNext(last, nullptr);
     listed = taken;
   } else {
     if (arena->bump == arena->bumpEnd) CarvePage(arena, shared.size);
@@ -174,29 +214,36 @@ int Take(Shared& shared, Cache& cache, int limit) {
   return listed;
 }
 
+// An arena with no block out back to operator delete. The lock is held.
+void Drop(Shared& shared, Arena* arena) noexcept {
+  Unlink(shared, arena);
+  --shared.arenas;
+  s_ArenaBytes.fetch_sub(arena->bytes, std::memory_order_relaxed);
+  const std::size_t bytes = arena->bytes;
+  arena->~Arena();
+  Unpoison(arena, bytes);
+  ::operator delete(static_cast<void*>(arena));
+}
+
 // Back to its arena, which goes back to operator delete once all of it is free, beyond the
 // few kept. The lock is held.
 void Give(Shared& shared, Block* block) noexcept {
   auto* page = reinterpret_cast<Page*>(reinterpret_cast<std::uintptr_t>(block) & ~(kPage - 1));
   Arena* arena = page->arena;
-  block->next = arena->free;
+  SetNext(block, arena->free);
   arena->free = block;
   if (!arena->listed) Link(shared, arena, false);
   if (--arena->used > 0) return;
-  if (shared.empty < kKeptEmpty) {
+  if (shared.empty < kKeptEmpty && !shared.closing) {
     ++shared.empty;
     return;
   }
-  Unlink(shared, arena);
-  --shared.arenas;
-  s_ArenaBytes.fetch_sub(arena->bytes, std::memory_order_relaxed);
-  arena->~Arena();
-  ::operator delete(static_cast<void*>(arena));
+  Drop(shared, arena);
 }
 
 void GiveList(Shared& shared, Block* list) noexcept {
   while (list) {
-    Block* next = list->next;
+    Block* next = NextOf(list);
     Give(shared, list);
     list = next;
   }
@@ -204,7 +251,7 @@ void GiveList(Shared& shared, Block* list) noexcept {
 
 // A full chain waits for the next thread that needs one, while there is room for it.
 void GiveChain(Shared& shared, Block* chain) noexcept {
-  if (shared.chainCount < shared.maxChains) {
+  if (shared.chainCount < shared.maxChains && !shared.closing) {
     shared.chains[shared.chainCount++] = chain;
   } else {
     GiveList(shared, chain);
@@ -232,6 +279,25 @@ struct Flush {
 
 thread_local Flush t_Flush;
 
+// Runs after the main thread's Flush: the waiting chains and the empty arenas kept go back,
+// and from then on every arena goes back as soon as it empties.
+Teardown::~Teardown() {
+  for (std::size_t i = 0; i < kClasses; ++i) {
+    Shared& shared = Classes()[i];
+    const std::lock_guard<std::mutex> hold(shared.lock);
+    shared.closing = true;
+    while (shared.chainCount > 0) GiveList(shared, shared.chains[--shared.chainCount]);
+    for (Arena* arena = shared.head; arena;) {
+      Arena* next = arena->next;
+      if (arena->used == 0) {
+        --shared.empty;
+        Drop(shared, arena);
+      }
+      arena = next;
+    }
+  }
+}
+
 void Arm() {
   t_Flush.armed = true;  // the first use registers its destructor for the thread's end
   t_Lists.armed = true;
@@ -239,7 +305,7 @@ void Arm() {
 
 void* Pop(Cache& cache, std::size_t size) noexcept {
   if (Block* block = cache.head) {
-    cache.head = block->next;
+    cache.head = NextOf(block);
     ++cache.room;
     return block;
   }
@@ -302,8 +368,10 @@ void* Pop(Cache& cache, std::size_t size) noexcept {
 void* mem_BlockPool::Allocate(std::size_t size) {
   if (size - 1 >= MaxBlock) return ::operator new(size);
   const std::size_t index = (size - 1) / kAlign;
-  if (void* block = Pop(t_Lists.caches[index], (index + 1) * kAlign)) return block;
-  return Refill(index);
+  void* block = Pop(t_Lists.caches[index], (index + 1) * kAlign);
+  if (!block) block = Refill(index);
+  Unpoison(block, size);
+  return block;
 }
 
 void mem_BlockPool::Free(void* block, std::size_t size) noexcept {
@@ -315,7 +383,12 @@ void mem_BlockPool::Free(void* block, std::size_t size) noexcept {
   const std::size_t index = (size - 1) / kAlign;
   Cache& cache = t_Lists.caches[index];
   auto* freed = static_cast<Block*>(block);
-  freed->next = cache.head;
+#ifdef MEM_POOL_POISON
+  // A block freed twice is poisoned already: this read has AddressSanitizer report it.
+  (void)*static_cast<volatile char*>(block);
+#endif
+  Poison(freed, (index + 1) * kAlign);
+  SetNext(freed, cache.head);
   cache.head = freed;
   if (--cache.room <= 0) Drain(index);
 }
@@ -323,13 +396,3 @@ void mem_BlockPool::Free(void* block, std::size_t size) noexcept {
 std::size_t mem_BlockPool::ArenaBytes() noexcept {
   return s_ArenaBytes.load(std::memory_order_relaxed);
 }
-
-#else
-
-void* mem_BlockPool::Allocate(std::size_t size) { return ::operator new(size); }
-
-void mem_BlockPool::Free(void* block, std::size_t) noexcept { ::operator delete(block); }
-
-std::size_t mem_BlockPool::ArenaBytes() noexcept { return 0; }
-
-#endif
