@@ -6,6 +6,9 @@
 /// The operations every concrete primitive implements the same way, written once: Copy
 /// through the copy constructor, DynTypeId from the class, Accept through the visitor's
 /// overload for the class or its nearest base (a kind the visitor has none for visits nothing).
+/// Values of up to mem_BlockPool::MaxBlock bytes live in its blocks: a tuple of a million
+/// numbers costs a million pool blocks, not a million malloc calls.
+#include <mem_BlockPool.h>
 #include <omu_PrimVisitor.h>
 #include <omu_Primitive.h>
 
@@ -23,6 +26,13 @@ public:
   /// Calls visitor's Visit for Derived.
   void Accept(omu_PrimVisitor* visitor) const override {
     if constexpr (requires { visitor->Visit(Self()); }) visitor->Visit(Self());
+  }
+
+  /// A block of mem_BlockPool; a subclass of another size comes here with its own size.
+  static void* operator new(std::size_t size) { return mem_BlockPool::Allocate(size); }
+  /// Gives the block back to mem_BlockPool; size is the most derived class's, as for new.
+  static void operator delete(void* value, std::size_t size) noexcept {
+    mem_BlockPool::Free(value, size);
   }
 
 private:
