@@ -26,8 +26,7 @@ py_CallArguments::Lease::~Lease() {
   if (spares.size() < Spare) spares.push_back(std::move(m_Arguments));
 }
 
-void py_CallArguments::Lease::Fill(PyObject* const* args, std::size_t nargsf,
-                                   PyObject* kwnames) {
+void py_CallArguments::Lease::Fill(PyObject* const* args, std::size_t nargsf, PyObject* kwnames) {
   const Py_ssize_t positional = PyVectorcall_NARGS(nargsf);
   omu_Arguments& arguments = *m_Arguments;
   arguments.Reset(static_cast<int>(positional));

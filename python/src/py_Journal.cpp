@@ -1,11 +1,11 @@
 #include "py_Journal.h"
 
+#include <omu_PrimEnumBase.h>
+#include <pybind11/eval.h>
+
 #include "py_Caster.h"
 #include "py_JournalText.h"
 #include "py_ValueConverter.h"
-
-#include <omu_PrimEnumBase.h>
-#include <pybind11/eval.h>
 
 namespace py = pybind11;
 using namespace pybind11::literals;
@@ -75,16 +75,16 @@ void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t
       const omu_Primitive* converted =
           Settled(args[i]) ? nullptr : Converted(arguments, positional, i);
       if (converted) {
-        m_Arguments.push_back({nullptr, std::unique_ptr<omu_Primitive>(converted->Copy())});
+        m_Arguments.emplace_back(std::unique_ptr<omu_Primitive>(converted->Copy()));
       } else {
-        m_Arguments.push_back({Py_NewRef(args[i]), nullptr});
+        m_Arguments.emplace_back(Py_NewRef(args[i]));
       }
     }
     m_Calls.push_back({Py_NewRef(command), Py_XNewRef(kwnames), static_cast<std::uint32_t>(mark),
-                       static_cast<std::uint32_t>(count), -1});
+                       static_cast<std::uint32_t>(count)});
   } catch (...) {
-    for (std::size_t i = mark; i < m_Arguments.size(); ++i) Py_XDECREF(m_Arguments[i].object);
-    m_Arguments.resize(mark);
+    for (std::size_t i = mark; i < m_Arguments.size(); ++i) Py_XDECREF(m_Arguments[i].Object());
+    m_Arguments.erase(m_Arguments.begin() + static_cast<std::ptrdiff_t>(mark), m_Arguments.end());
     throw;
   }
 }
@@ -105,8 +105,7 @@ void py_Journal::Failed(PyObject* command, PyObject* const* args, std::size_t na
         });
     text += "  -> " + ErrorText(value ? value : type);
     m_Comments.push_back(std::move(text));
-    m_Calls.push_back({nullptr, nullptr, static_cast<std::uint32_t>(m_Arguments.size()), 0,
-                       static_cast<std::int32_t>(m_Comments.size() - 1)});
+    m_Calls.push_back({nullptr, nullptr, static_cast<std::uint32_t>(m_Comments.size() - 1), 0});
   } catch (py::error_already_set&) {
     // An argument whose repr raised: the failure goes unrecorded, the script's error stands.
   } catch (const std::bad_alloc&) {
@@ -115,11 +114,11 @@ void py_Journal::Failed(PyObject* command, PyObject* const* args, std::size_t na
 }
 
 std::string py_Journal::Text(const Call& call) const {
-  if (call.comment >= 0) return m_Comments[static_cast<std::size_t>(call.comment)];
+  if (!call.command) return m_Comments[call.first];
   return CallText(call.command, call.kwnames, call.count, [&](std::uint32_t i) {
     const Argument& argument = m_Arguments[call.first + i];
-    if (argument.object) return py::reinterpret_borrow<py::object>(argument.object);
-    return py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(argument.snapshot.get()));
+    if (PyObject* object = argument.Object()) return py::reinterpret_borrow<py::object>(object);
+    return py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(argument.Snapshot()));
   });
 }
 
@@ -141,7 +140,7 @@ void py_Journal::Clear() {
     Py_XDECREF(call.command);
     Py_XDECREF(call.kwnames);
   }
-  for (const Argument& argument : arguments) Py_XDECREF(argument.object);
+  for (const Argument& argument : arguments) Py_XDECREF(argument.Object());
 }
 
 namespace {

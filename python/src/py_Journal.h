@@ -31,6 +31,7 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class py_Journal {
@@ -49,19 +50,39 @@ public:
   void Clear();
 
 private:
-  // An argument: a Python object that cannot change, or a copy of the primitive it became.
-  struct Argument {
-    PyObject* object;
-    std::unique_ptr<omu_Primitive> snapshot;
+  // An argument: a Python object that cannot change, kept by a reference the journal gives
+  // back, or a copy of the primitive it became, owned. One word, its low bit telling which
+  // (both are aligned), since the journal's growth costs a page fault per page it fills.
+  class Argument {
+  public:
+    explicit Argument(PyObject* object) noexcept
+        : m_Word(reinterpret_cast<std::uintptr_t>(object)) {}
+    explicit Argument(std::unique_ptr<omu_Primitive> copy) noexcept
+        : m_Word(reinterpret_cast<std::uintptr_t>(copy.release()) | 1) {}
+    Argument(Argument&& other) noexcept : m_Word(std::exchange(other.m_Word, 0)) {}
+    Argument& operator=(Argument&& other) noexcept {
+      std::swap(m_Word, other.m_Word);
+      return *this;
+    }
+    ~Argument() { delete Snapshot(); }
+    PyObject* Object() const noexcept {
+      return m_Word & 1 ? nullptr : reinterpret_cast<PyObject*>(m_Word);
+    }
+    const omu_Primitive* Snapshot() const noexcept {
+      return m_Word & 1 ? reinterpret_cast<const omu_Primitive*>(m_Word & ~std::uintptr_t(1))
+                        : nullptr;
+    }
+
+  private:
+    std::uintptr_t m_Word;
   };
   // A call that succeeded: command, kwnames (null when none) and count arguments from first.
-  // A failed one: only its comment, made when it failed.
+  // A failed one: a null command, and first is the index of its comment, made when it failed.
   struct Call {
     PyObject* command;
     PyObject* kwnames;
     std::uint32_t first;
     std::uint32_t count;
-    std::int32_t comment;  // index in m_Comments, -1 for a call that succeeded
   };
 
   std::string Text(const Call& call) const;
