@@ -106,13 +106,16 @@ public:
   void End(const char* context);
 
   /// The keyword values, by keyword: made (copying the values) at the first call after the
-  /// keywords change, and kept. Not for the call path, which reads keywords with Get.
+  /// keywords change, and kept. Not for the call path, which reads keywords with Get. Making it
+  /// writes the list, so two threads must not ask one list for it at once.
   const omu_PrimDictionary<cow_String>& Keywords() const;
   /// The keywords Put stored, in order.
   cow_List<cow_String> StoredKeywords() const;
-  /// The value the index-th keyword Put stored, in order of storing (without the dictionary).
-  const omu_Primitive* StoredValue(int index) const {
-    return m_Stored.at(static_cast<std::size_t>(index)).second.ConstGet();
+  /// The value the index-th keyword Put stored, in order of storing (without the dictionary),
+  /// or null when fewer were stored.
+  const omu_Primitive* StoredValue(int index) const noexcept {
+    if (index < 0 || static_cast<std::size_t>(index) >= m_Stored.size()) return nullptr;
+    return m_Stored[static_cast<std::size_t>(index)].second.ConstGet();
   }
   /// The call's text as a script writes it: positional values, then keyword=value pairs, in
   /// parentheses (no one-element comma: this is a call, not a tuple).

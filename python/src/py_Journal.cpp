@@ -1,11 +1,11 @@
 #include "py_Journal.h"
 
-#include <omu_PrimEnumBase.h>
-#include <pybind11/eval.h>
-
 #include "py_Caster.h"
 #include "py_JournalText.h"
 #include "py_ValueConverter.h"
+
+#include <omu_PrimEnumBase.h>
+#include <pybind11/eval.h>
 
 namespace py = pybind11;
 using namespace pybind11::literals;
