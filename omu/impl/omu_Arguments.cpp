@@ -50,7 +50,7 @@ void omu_Arguments::Reset(int size) {
 }
 
 void omu_Arguments::Begin() {
-  if (!m_Index.Built()) m_Index.Build(m_Stored);
+  IndexKeywords();
   m_Claimed.assign(static_cast<std::size_t>(m_Index.Size()), '\0');
   m_Unclaimed = m_Index.Size();
   m_KeywordsTaken = m_KeywordErrorAt = m_OptionalKeywordMissingAt = 0;
@@ -58,8 +58,12 @@ void omu_Arguments::Begin() {
   omu_PrimTuple::Begin();
 }
 
-int omu_Arguments::KeywordSlot(std::string_view keyword) {
+void omu_Arguments::IndexKeywords() {
   if (!m_Index.Built()) m_Index.Build(m_Stored);
+}
+
+int omu_Arguments::KeywordSlot(std::string_view keyword) {
+  IndexKeywords();
   return m_Index.Find(keyword);
 }
 

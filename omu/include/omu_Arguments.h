@@ -64,21 +64,14 @@ public:
 
   /// Room for count keyword Puts, so that building a call of many keywords allocates once.
   void ReserveKeywords(int count) { m_Stored.reserve(static_cast<std::size_t>(count)); }
-  /// Stores value under keyword (replacing the value of a keyword stored before, as the
-  /// keyword dictionary's Put does), for argument lists built to be passed on: as its binding
-  /// makes it, as a copy of a primitive without a binding, or taking ownership of a pointer.
-  ///@{
-  template <omu_Puttable T>
+  /// Stores value under keyword as omu_PrimOwn makes it (replacing the value of a keyword
+  /// stored before, as the keyword dictionary's Put does), for argument lists built to be
+  /// passed on.
+  template <class T>
+    requires requires(const T& value) { omu_PrimOwn(value); }
   void Put(const T& value, const cow_String& keyword) {
-    Store(keyword, omu_PrimMake(value));
+    Store(keyword, omu_PrimOwn(value));
   }
-  void Put(const omu_Primitive& value, const cow_String& keyword) {
-    Store(keyword, omu_PrimOwner(value.Copy()));
-  }
-  void Put(omu_Primitive* value, const cow_String& keyword) {
-    Store(keyword, omu_PrimOwner(value));
-  }
-  ///@}
 
   /// Right after a Get of the same parameter that failed, and while deprecated arguments are
   /// allowed: reads the parameter again by the old keyword and gives the deprecation notice
@@ -124,6 +117,8 @@ public:
 
 private:
   void Store(const cow_String& keyword, omu_PrimOwner value);
+  /// Builds the keyword index unless it is current.
+  void IndexKeywords();
   template <class T, class ByPosition>
   void Read(T& out, std::string_view keyword, ByPosition&& byPosition) {
     if (m_ErrorArg == 0 && m_Cursor < m_Size) return byPosition(out);

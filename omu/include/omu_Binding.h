@@ -119,6 +119,19 @@ omu_PrimOwner omu_PrimMake(const T& value) {
   return omu_Binding<T>::Make(value);
 }
 
+/// The primitive a container stores for value: as its binding makes it, a copy of a primitive
+/// of a class without a binding of its own, or the primitive a pointer gives (ownership taken).
+///@{
+template <omu_Puttable T>
+omu_PrimOwner omu_PrimOwn(const T& value) {
+  return omu_PrimMake(value);
+}
+inline omu_PrimOwner omu_PrimOwn(const omu_Primitive& value) {
+  return omu_PrimOwner(value.Copy());
+}
+inline omu_PrimOwner omu_PrimOwn(omu_Primitive* value) { return omu_PrimOwner(value); }
+///@}
+
 /// omu_Binding<T>::Convert, refusing a null value.
 template <omu_Gettable T>
 bool omu_PrimConvert(const omu_Primitive* value, T& out,

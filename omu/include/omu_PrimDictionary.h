@@ -75,15 +75,13 @@ public:
   int Get(T& out, const K& key) const {
     return omu_PrimConvert(Find(key), out) ? 1 : 0;
   }
-  /// Stores value under key as its binding makes it, replacing any entry.
-  template <omu_Puttable T>
+  /// Stores value under key as omu_PrimOwn makes it (a pointer's primitive is taken over),
+  /// replacing any entry.
+  template <class T>
+    requires requires(const T& value) { omu_PrimOwn(value); }
   void Put(const T& value, const K& key) {
-    Store(key, omu_PrimMake(value));
+    Store(key, omu_PrimOwn(value));
   }
-  /// A primitive of a class without a binding of its own, as a copy of itself.
-  void Put(const omu_Primitive& value, const K& key) { Store(key, omu_PrimOwner(value.Copy())); }
-  /// Takes ownership of value.
-  void Put(omu_Primitive* value, const K& key) { Store(key, omu_PrimOwner(value)); }
   /// Removes key's entry; false when there was none.
   bool Remove(const K& key);
   /// The entries' persistence identity (see the class).
