@@ -96,7 +96,7 @@ private:
 mdl_PropertyTable::mdl_PropertyTable(const cls_ReadVisitor& reader)
     : m_AllowEmptyFirstRow(reader.Get<bool>("allowEmptyFirstRow")) {
   const cls_Value& table = reader.Field("table");
-  if (const auto* block = table.As<cls_Value::Doubles>()) {
+  if (const auto block = table.AsDoubles()) {
     m_Table = *block;  // shared, not copied
   } else {
     ReadCells(reader, table.As<cls_Matrix>());

@@ -24,8 +24,11 @@
 #include <omu_TextRepr.h>
 #include <utl_FilePath.h>
 
+#include <algorithm>
 #include <climits>
 #include <utility>
+
+#include "omu_TupleDoubles.h"
 
 namespace {
 constexpr const char* kSource = "omu/impl/omu_PrimTuple";
@@ -63,7 +66,7 @@ omu_PrimTuple::omu_PrimTuple(const cls_ReadVisitor& reader)
   for (const int counter : {m_Cursor, m_ReqCount, m_ArgCount, m_ErrorArg, m_NumGets}) {
     if (counter < 0 || counter == INT_MAX) reader.Fail("a tuple counter is out of range");
   }
-  if (const auto* block = reader.Field("primVector").As<cls_Value::Doubles>()) {
+  if (const auto block = reader.Field("primVector").AsDoubles()) {
     ReadDoubles(reader, *block);
   } else {
     const omu_PrimTuple items(cls_xcList(reader.Nested("primVector")), '(');
@@ -347,18 +350,14 @@ void omu_PrimTuple::Get(bool& out) { GetValue(out); }
 
 // A tuple of plain doubles is written as one block of them instead of a record per number:
 // 8 bytes a number in a file, and no object per number while writing.
-bool omu_PrimTuple::PlainDoubles(cow_2DArray<double>& block) const {
-  if (m_Size == 0) return false;
-  block.Resize(1, m_Size);
-  double* cells = block.MutableCells().data();
-  for (int i = 0; i < m_Size; ++i) {
-    const omu_Primitive* element = m_PrimVector[i].ConstGet();
-    if (!element || element->DynTypeId() != omu_PrimNumber::TypeId()) return false;
-    const auto& number = static_cast<const omu_PrimNumber&>(*element);
-    if (!number.IsPlainDouble()) return false;
-    cells[i] = number.Value();
-  }
-  return true;
+bool omu_PrimTuple::PlainDoubles() const {
+  const std::vector<omu_PrimHandle>& slots = m_PrimVector.Vector();
+  return m_Size > 0 &&
+         std::all_of(slots.begin(), slots.begin() + m_Size, [](const omu_PrimHandle& slot) {
+           const omu_Primitive* element = slot.ConstGet();
+           return element && element->DynTypeId() == omu_PrimNumber::TypeId() &&
+                  static_cast<const omu_PrimNumber&>(*element).IsPlainDouble();
+         });
 }
 
 void omu_PrimTuple::ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray<double>& block) {
@@ -375,8 +374,9 @@ void omu_PrimTuple::ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray
 
 void omu_PrimTuple::DBWrite(const cls_WriteVisitor& writer) const {
   if (!writer.StartLevel<omu_PrimSequence>(TypeId(), m_TupleUid, *this)) return;
-  if (cow_2DArray<double> block; PlainDoubles(block)) {
-    writer.Write("primVector", std::move(block));
+  if (PlainDoubles()) {
+    writer.Write("primVector", std::shared_ptr<const cls_DoublesSource>(
+                                   std::make_shared<omu_TupleDoubles>(m_PrimVector, m_Size)));
   } else {
     const auto writeItem = [this](int i, const cls_WriteVisitor& item) {
       if (const omu_Primitive* element = Index(i)) element->DBWrite(item);

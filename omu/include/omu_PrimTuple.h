@@ -9,7 +9,9 @@
 /// its output untouched and the fault is kept for End. Elements are copy-on-write handles,
 /// so copying a tuple is O(1) whatever its size. In an archive, "primVector" holds a record
 /// per element or, when every element is a plain double (omu_PrimNumber::IsPlainDouble), the
-/// numbers as one block of doubles: 8 bytes each, read back as plain doubles.
+/// numbers as one block of doubles: 8 bytes each, read back as plain doubles. The archive
+/// shares the elements until it is encoded rather than copying the numbers out, so a save
+/// holds one copy of them, the file's; a tuple changed meanwhile un-shares its element list.
 #include <cow_COW.h>
 #include <omu_Binding.h>
 #include <omu_PrimLeaf.h>
@@ -247,7 +249,7 @@ protected:
 
 private:
   void AppendElement(std::string& text, const omu_Primitive& element, int level) const;
-  bool PlainDoubles(cow_2DArray<double>& block) const;
+  bool PlainDoubles() const;
   void ReadDoubles(const cls_ReadVisitor& reader, const cow_2DArray<double>& block);
 
   cow_List<omu_PrimHandle> m_PrimVector;

@@ -1,22 +1,22 @@
-#include "ArchiveBytes.h"
-#include "OnThreads.h"
-#include "RaisedText.h"
-#include "TestArchive.h"
-
 #include <QRLBasCoreUtils.h>
 #include <QRLCvuBasicUtils.h>
 #include <cls_Archive.h>
 #include <cls_MetadataRegistrar.h>
+#include <gtest/gtest.h>
 #include <nex_AssertException.h>
 #include <nex_TextException.h>
 
-#include <gtest/gtest.h>
-
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <sstream>
 #include <vector>
+
+#include "ArchiveBytes.h"
+#include "OnThreads.h"
+#include "RaisedText.h"
+#include "TestArchive.h"
 
 namespace {
 class BasicLibrary : public ::testing::Environment {
@@ -224,7 +224,28 @@ TEST(ArchiveFile, DumpNamesClassesAndFields) {
   EXPECT_NE(dump.str().find("condition = \"x != 0\""), std::string::npos) << dump.str();
 }
 
-// Shapes on both sides of the checksum's 16- and 64-byte steps, special doubles among the cells.
+namespace {
+// A block's cells handed out as an object's own storage does, to write them the other way.
+class BlockSource final : public cls_DoublesSource {
+public:
+  explicit BlockSource(cls_Value::Doubles block) : m_Block(std::move(block)) {}
+  int Rows() const noexcept override { return m_Block.Rows(); }
+  int Columns() const noexcept override { return m_Block.Columns(); }
+  void CopyTo(std::size_t first, std::size_t count, double* out) const noexcept override {
+    std::copy_n(m_Block.Cells().data() + first, count, out);
+  }
+
+private:
+  cls_Value::Doubles m_Block;
+};
+
+cls_Value SourceOf(const cls_Value::Doubles& block) {
+  return std::shared_ptr<const cls_DoublesSource>(std::make_shared<BlockSource>(block));
+}
+}  // namespace
+
+// Shapes on both sides of the checksum's 16- and 64-byte steps and of the encoder's pages of
+// numbers, special doubles among the cells; a source of the same cells writes the same bytes.
 TEST(Archive, BlocksOfDoublesRoundTripBitForBitAtEightBytesEach) {
   const std::uint64_t specials[] = {0x7ff8000000000abcull, 0x8000000000000000ull, 1,
                                     0x3fb999999999999aull};
@@ -244,6 +265,11 @@ TEST(Archive, BlocksOfDoublesRoundTripBitForBitAtEightBytesEach) {
     const cls_Archive loaded = SaveAndLoad(archive, "doubles");
     EXPECT_TRUE(Identical(loaded.RootValue(0), block)) << shape;
     EXPECT_EQ(loaded.ToBytes(), bytes) << shape;
+    cls_Archive fromSource;
+    fromSource.NewRoot().WriteValue(SourceOf(block));
+    EXPECT_EQ(fromSource.ToBytes(), bytes) << shape << " from a source";
+    EXPECT_TRUE(Identical(fromSource.RootValue(0), SourceOf(block))) << shape << " two sources";
+    EXPECT_TRUE(Identical(*fromSource.RootValue(0).AsDoubles(), block)) << shape << " made";
   }
 }
 

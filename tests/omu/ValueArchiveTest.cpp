@@ -2,8 +2,6 @@
 // same bytes (so no field was dropped or defaulted); with CVX_FUZZ_SEEDS set, each archive is
 // also written there as a seed for the archive fuzzer. Dictionaries, wrappers, lists of
 // dictionaries and double arrays also go through tests/mdl/ArchiveIdentityTest.cpp.
-#include "OmuTestSupport.h"
-
 #include <mdl_Model.h>
 #include <mdl_PropertyTable.h>
 #include <omu_PrimArray.h>
@@ -19,6 +17,8 @@
 #include <cstdlib>
 #include <fstream>
 #include <vector>
+
+#include "OmuTestSupport.h"
 
 namespace {
 std::vector<std::unique_ptr<const omu_Primitive>> Values() {
@@ -95,7 +95,7 @@ bool WrittenAsBlock(const omu_Primitive& value) {
   if (level.TypeId() != omu_PrimTuple::TypeId()) {
     level = cls_ReadVisitor(level, omu_PrimTuple::TypeId());
   }
-  return level.Field("primVector").As<cls_Value::Doubles>() != nullptr;
+  return level.Field("primVector").AsDoubles().has_value();
 }
 }  // namespace
 
@@ -150,4 +150,21 @@ TEST(ValueArchive, ArchivesOfFormatVersionOneStillLoad) {
   EXPECT_TRUE(*back == tuple);
   EXPECT_TRUE(std::signbit(dynamic_cast<const omu_PrimNumber&>(*back->Index(3)).Value()));
   EXPECT_EQ(SoloBytes(*back), SoloBytes(tuple));
+}
+
+// A block of doubles is read from the tuple only when the archive is encoded: the archive must
+// still hold the tuple as it was added, across more than one page of the encoder's copying.
+TEST(ValueArchive, TupleChangedAfterItWasAddedIsSavedAsAdded) {
+  constexpr int kSize = 1500;
+  omu_PrimTuple tuple(kSize);
+  for (int i = 0; i < kSize; ++i) tuple.Put(i * 0.25);
+  const omu_PrimTuple added(tuple);
+  cls_Archive archive;
+  archive.Add(tuple);
+  tuple.Reset(kSize);
+  for (int i = 0; i < kSize; ++i) tuple.Put(-1.0);
+
+  EXPECT_TRUE(*archive.Read<omu_PrimTuple>(0) == added) << "read from memory";
+  EXPECT_TRUE(*cls_Archive::FromBytes(archive.ToBytes()).Read<omu_PrimTuple>(0) == added)
+      << "read from bytes";
 }

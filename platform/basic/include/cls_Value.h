@@ -5,14 +5,16 @@
 /// \class cls_Value
 /// One field value of a persisted record: a scalar, a text, an enumerator name, a list, a
 /// two-dimensional array, a nested record, a reference (by uid) to a record written earlier,
-/// or a block of doubles.
+/// or a block of doubles, held or produced by its source when encoded.
 #include <BASIC_Export.h>
+#include <cls_DoublesSource.h>
 #include <cls_Uid.h>
 #include <cow_2DArray.h>
 #include <cow_String.h>
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -45,10 +47,11 @@ struct cls_Matrix {
 
 class cls_Value {
 public:
-  /// The alternatives, in the order of Data's types (NONE is the empty value).
+  /// The alternatives, in the order of Data's types (NONE is the empty value). A file stores
+  /// DOUBLES_SOURCE as DOUBLES, so a value read from one is never DOUBLES_SOURCE.
   enum Kind : std::uint8_t {
     NONE, BOOL, CHAR, INT, UINT, DOUBLE, TEXT, ENUM, LIST, MATRIX, RECORD, REF, FLOAT, INT64,
-    DOUBLES
+    DOUBLES, DOUBLES_SOURCE
   };
   /// A list value.
   using List = std::vector<cls_Value>;
@@ -59,7 +62,8 @@ public:
   /// The value, one alternative per Kind.
   using Data = std::variant<std::monostate, bool, char, std::int32_t, std::uint32_t, double,
                             cow_String, cls_EnumName, List, cls_Matrix,
-                            std::shared_ptr<cls_Record>, cls_Ref, float, std::int64_t, Doubles>;
+                            std::shared_ptr<cls_Record>, cls_Ref, float, std::int64_t, Doubles,
+                            std::shared_ptr<const cls_DoublesSource>>;
 
   cls_Value() noexcept = default;
   /// A value of any of Data's alternatives.
@@ -74,6 +78,9 @@ public:
   const T* As() const noexcept {
     return std::get_if<T>(&m_Data);
   }
+  /// The block of doubles held (shared, not copied) or made from the source; none for the
+  /// other kinds. Making one from a source costs a copy of its numbers.
+  BASIC_EXPORT std::optional<Doubles> AsDoubles() const;
   /// The underlying variant.
   ///@{
   const Data& GetData() const noexcept { return m_Data; }

@@ -1,5 +1,4 @@
 #include "cls_ArchiveCodec.h"
-#include "cls_Crc32.h"
 
 #include <cls_MetadataRegistrar.h>
 #include <nex_TextException.h>
@@ -9,6 +8,8 @@
 #include <cstring>
 #include <ostream>
 #include <unordered_map>
+
+#include "cls_Crc32.h"
 
 namespace {
 constexpr const char* kSource = "cls/impl/cls_ArchiveCodec";
@@ -94,7 +95,9 @@ public:
   }
   void Value(const cls_Value& value) {
     if (const auto* record = value.As<std::shared_ptr<cls_Record>>()) return Record(**record);
-    bytes.push_back(static_cast<char>(value.GetKind()));
+    const cls_Value::Kind kind = value.GetKind();
+    bytes.push_back(
+        static_cast<char>(kind == cls_Value::DOUBLES_SOURCE ? cls_Value::DOUBLES : kind));
     std::visit([this](const auto& data) { Data(data); }, value.GetData());
   }
 
@@ -146,15 +149,34 @@ private:
     for (const cls_Value& cell : matrix.cells) Value(cell);
   }
   void Data(const cls_Value::Doubles& block) {
+    StartBlock(block.Rows(), block.Columns());
+    Append(block.Cells().data(), block.Cells().size());
+  }
+  // The source's numbers go straight into the file form, a page at a time, so that no copy of
+  // them is held beside it.
+  void Data(const std::shared_ptr<const cls_DoublesSource>& source) {
+    const std::size_t cells = StartBlock(source->Rows(), source->Columns());
+    double page[512];
+    for (std::size_t first = 0; first < cells; first += std::size(page)) {
+      const std::size_t count = std::min(cells - first, std::size(page));
+      source->CopyTo(first, count, page);
+      Append(page, count);
+    }
+  }
+  // A block's shape, and room for its cells; answers their count.
+  std::size_t StartBlock(int rows, int columns) {
     blocks = true;
-    Put<std::int32_t>(block.Rows());
-    Put<std::int32_t>(block.Columns());
-    const std::vector<double>& cells = block.Cells();
-    Reserve(cells.size() * sizeof(double));
+    Put<std::int32_t>(rows);
+    Put<std::int32_t>(columns);
+    const std::size_t cells = CellCount(rows, columns);
+    Reserve(cells * sizeof(double));
+    return cells;
+  }
+  void Append(const double* cells, std::size_t count) {
     if constexpr (std::endian::native == std::endian::little) {
-      bytes.append(reinterpret_cast<const char*>(cells.data()), cells.size() * sizeof(double));
+      bytes.append(reinterpret_cast<const char*>(cells), count * sizeof(double));
     } else {
-      for (const double cell : cells) Put(cell);
+      for (std::size_t i = 0; i < count; ++i) Put(cells[i]);
     }
   }
   void Data(const std::shared_ptr<cls_Record>&) {}  // written by Record
@@ -221,6 +243,8 @@ public:
       case cls_Value::DOUBLES:
         if (version >= 2) return Doubles();
         break;
+      case cls_Value::DOUBLES_SOURCE:
+        break;  // never in a file
     }
     --m_At;
     Fail("an unknown value kind");
@@ -358,6 +382,9 @@ struct DumpVisitor {
     for (std::size_t i = 0; i < block.Cells().size(); ++i) {
       out << pad << '[' << i << "] " << atr_StringBase(block.Cells()[i]).View() << '\n';
     }
+  }
+  void operator()(const std::shared_ptr<const cls_DoublesSource>& source) const {
+    (*this)(*cls_Value(source).AsDoubles());
   }
   void operator()(const std::shared_ptr<cls_Record>& record) const {
     DumpRecord(*record, out, indent);

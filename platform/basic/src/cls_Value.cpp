@@ -9,11 +9,34 @@ const char* cls_Value::KindName(Kind kind) noexcept {
                                           "an unsigned int", "a double", "a text",
                                           "an enumerator",   "a list",   "an array",
                                           "an object",       "a reference", "a float",
-                                          "a 64-bit int",    "an array of doubles"};
+                                          "a 64-bit int",    "an array of doubles",
+                                          "an array of doubles"};
   return kind < std::size(names) ? names[kind] : "an unknown value";
 }
 
 namespace {
+cls_Value::Doubles Made(const cls_DoublesSource& source) {
+  cls_Value::Doubles block(source.Rows(), source.Columns());
+  std::vector<double>& cells = block.MutableCells();
+  source.CopyTo(0, cells.size(), cells.data());
+  return block;
+}
+
+// Two sources compared a page at a time, bit for bit, without a copy of either.
+bool SameCells(const cls_DoublesSource& a, const cls_DoublesSource& b) noexcept {
+  if (a.Rows() != b.Rows() || a.Columns() != b.Columns()) return false;
+  const std::size_t cells = static_cast<std::size_t>(a.Rows()) * a.Columns();
+  double pageA[256];
+  double pageB[256];
+  for (std::size_t first = 0; first < cells; first += std::size(pageA)) {
+    const std::size_t count = std::min(cells - first, std::size(pageA));
+    a.CopyTo(first, count, pageA);
+    b.CopyTo(first, count, pageB);
+    if (std::memcmp(pageA, pageB, count * sizeof(double)) != 0) return false;
+  }
+  return true;
+}
+
 template <class T>
 bool SameData(const T& a, const T& b) noexcept {
   if constexpr (std::is_floating_point_v<T>) {
@@ -28,6 +51,8 @@ bool SameData(const T& a, const T& b) noexcept {
     return a.Rows() == b.Rows() && a.Columns() == b.Columns() &&
            (a.Cells().empty() || std::memcmp(a.Cells().data(), b.Cells().data(),
                                              a.Cells().size() * sizeof(double)) == 0);
+  } else if constexpr (std::is_same_v<T, std::shared_ptr<const cls_DoublesSource>>) {
+    return a == b || SameCells(*a, *b);
   } else if constexpr (std::is_same_v<T, std::shared_ptr<cls_Record>>) {
     return a == b || Identical(*a, *b);
   } else {
@@ -35,6 +60,12 @@ bool SameData(const T& a, const T& b) noexcept {
   }
 }
 }  // namespace
+
+std::optional<cls_Value::Doubles> cls_Value::AsDoubles() const {
+  if (const auto* block = As<Doubles>()) return *block;
+  if (const auto* source = As<std::shared_ptr<const cls_DoublesSource>>()) return Made(**source);
+  return std::nullopt;
+}
 
 bool Identical(const cls_Value& a, const cls_Value& b) noexcept {
   return a.GetKind() == b.GetKind() &&
