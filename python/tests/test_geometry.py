@@ -128,11 +128,6 @@ def test_apply_takes_all_four_point_components_and_the_vector_3x3():
     assert form.apply(Vector(1, 1, 1)) == Vector(1, 1, 1)
 
 
-def read_only(array):
-    array.flags.writeable = False
-    return array
-
-
 def expected_rows(form, rows, kind):
     return np.array([components(form.apply(kind(row)))[:3] for row in rows])
 
@@ -185,7 +180,7 @@ def test_strided_float32_view_changes_only_its_columns():
      "an (N, 3) array of float32 or float64 is needed, not int64"),
     (lambda: FORM.transform_points([[0, 0, 0]]), TypeError,
      "an (N, 3) NumPy array of float32 or float64 is needed, not list"),
-    (lambda: FORM.transform_points(read_only(np.zeros((4, 3), dtype=f32))), ValueError,
+    (lambda: FORM.transform_points(np.frombuffer(bytes(48), dtype=f32).reshape(4, 3)), ValueError,
      "a read-only float32 array cannot be transformed in place; pass copy=True"),
     (lambda: XFormStack(0), cvxutils.RangeError, "capacity must be an Integer >= 1"),
 ])
