@@ -116,8 +116,7 @@ TEST(CameraTest, DollyZoomMovesTheEyeAndKeepsTheFieldOfView) {
 }
 
 TEST(CameraTest, ProjectionSwitchesKeepTheImage) {
-  g3d_Camera camera = Looking({0, 0, 8});
-  camera.SetViewOffset(0.1f, 0);
+  g3d_Camera camera = Looking({0, 0, 8}).SetViewOffset(0.1f, 0);
   EXPECT_FALSE(camera.SetProjection(g3d_Camera::PERSPECTIVE));
   const g3d_Point atTarget(0.3f, -0.2f, 0);
   const auto before = OnScreen(camera, atTarget);
@@ -136,8 +135,7 @@ TEST(CameraTest, ProjectionSwitchesKeepTheImage) {
 }
 
 TEST(CameraTest, FieldOfViewBothWays) {
-  g3d_Camera camera;
-  camera.SetFieldOfView(90, true);
+  g3d_Camera camera = g3d_Camera().SetFieldOfView(90, true);
   EXPECT_FLOAT_EQ(camera.GetFieldOfView(), 90);
   EXPECT_FLOAT_EQ(camera.GetNear(), 1);
   camera.SetFieldOfView(60, false);
@@ -151,18 +149,14 @@ TEST(CameraTest, FieldOfViewBothWays) {
 
 TEST(CameraTest, ZoomToKeepsOrPullsThePointAndZoomToARectangleFramesIt) {
   const g3d_Camera start = Looking({0, 0, 10}, {}, PARALLEL_PROJECTION).SetWindow(4, 4);
+  const g3d_Point p(1, 0.5f, 0), before = OnScreen(start, p);
   for (const bool toward : {false, true}) {
-    g3d_Camera camera = start;
-    const g3d_Point p(1, 0.5f, 0);
-    const auto before = OnScreen(camera, p);
-    camera.ZoomTo(1, 0.5f, 50, toward, false);
+    const g3d_Camera camera = g3d_Camera(start).ZoomTo(1, 0.5f, 50, toward, false);
     const float pull = toward ? 0.5f : 1.0f;  // toward the point: halfway to the centre
     ExpectNear(OnScreen(camera, p), {before.x * pull, before.y * pull, 0});
   }
-  g3d_Camera camera = start;
-  camera.Zoom(1, 1, 0, 2, false);  // empty
-  EXPECT_EQ(camera, start);
-  camera.Zoom(0, 0, 1, 0.5f, false);
+  EXPECT_EQ(g3d_Camera(start).Zoom(1, 1, 0, 2, false), start);  // an empty rectangle
+  const g3d_Camera camera = g3d_Camera(start).Zoom(0, 0, 1, 0.5f, false);
   EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 1);
   EXPECT_FLOAT_EQ(camera.GetTarget().x, 0.5f);
   EXPECT_FLOAT_EQ(camera.GetTarget().y, 0.25f);
@@ -173,13 +167,12 @@ TEST(CameraTest, RotationTurnsTheScene) {
     float degrees;
     g3d_Vector axis;
   } cases[] = {{90, {0, 1, 0}}, {30, {1, 1, 0}}, {-45, {0, 0, 1}}};
+  const g3d_Camera original = Looking({1, 2, 9}, {1, 0, 0});
   for (const auto& c : cases) {
-    const g3d_Camera original = Looking({1, 2, 9}, {1, 0, 0});
-    g3d_Camera camera = original;
-    camera.Rotate(c.degrees, c.axis, false);
+    const g3d_Camera camera = g3d_Camera(original).Rotate(c.degrees, c.axis, false);
     // What the turned camera sees of p, the original sees of p turned about the target.
-    g3d_XForm turn;
-    turn.Translate(1, 0, 0).Rotate(c.degrees, c.axis).Translate(-1, 0, 0);
+    const g3d_XForm turn =
+        g3d_XForm().Translate(1, 0, 0).Rotate(c.degrees, c.axis).Translate(-1, 0, 0);
     for (const g3d_Point p : {g3d_Point(2, 1, 0), g3d_Point(0, -1, 1)}) {
       ExpectNear(OnScreen(camera, p), OnScreen(original, Through(turn, p)), 1e-5f);
     }
@@ -212,15 +205,13 @@ TEST(CameraTest, FitFramesTheModel) {
 }
 
 TEST(CameraTest, CannedViewsAndViewportFits) {
-  g3d_Camera camera;
-  camera.Canned(g3d_Sphere(g3d_Point(), 1), VIEW_TOP);
+  g3d_Camera camera = g3d_Camera().Canned(g3d_Sphere(g3d_Point(), 1), VIEW_TOP);
   EXPECT_GT(camera.GetEye().y, 1);
   EXPECT_EQ(camera.GetUp(), g3d_Vector(0, 0, -1));
   camera.Canned(g3d_Sphere(g3d_Point(), 1), VIEW_ISO);
   EXPECT_FLOAT_EQ(camera.GetEye().x, camera.GetEye().z);
 
-  camera.SetModelBoundingVolume(UnitBox(), 1);
-  camera.FitCenterVP(800, 400, 0.5f, false);
+  camera.SetModelBoundingVolume(UnitBox(), 1).FitCenterVP(800, 400, 0.5f, false);
   EXPECT_FLOAT_EQ(camera.GetWindowWidth() / camera.GetWindowHeight(), 2);
   EXPECT_GT(camera.GetEye().x, 0);  // back to the default direction
   // The model's sphere fills half the height (its top point shows at cos(half angle)).
@@ -231,12 +222,11 @@ TEST(CameraTest, CannedViewsAndViewportFits) {
 }
 
 TEST(CameraTest, PanMovesEyeAndTargetInWindowUnits) {
-  g3d_Camera camera = Looking({0, 0, 10}, {}, PARALLEL_PROJECTION);
-  camera.Pan(1, 2, 0, false);
+  g3d_Camera camera = Looking({0, 0, 10}, {}, PARALLEL_PROJECTION).Pan(1, 2, 0, false);
   EXPECT_EQ(camera.GetTarget(), g3d_Point(1, 2, 0));
   EXPECT_EQ(camera.GetEye(), g3d_Point(1, 2, 10));
-  camera.SetModelBoundingVolume(UnitBox(), 1);
-  camera.Pan(0, 0, -5, true);  // closer, with near and far around the model
+  // Closer, with near and far around the model.
+  camera.SetModelBoundingVolume(UnitBox(), 1).Pan(0, 0, -5, true);
   EXPECT_FLOAT_EQ(camera.GetEye().z, 5);
   EXPECT_LT(camera.GetFar(), 10);
   EXPECT_GT(camera.GetFar(), 5 + std::sqrt(3.0f));

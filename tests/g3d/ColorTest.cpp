@@ -32,8 +32,8 @@ TEST(ColorTest, PackingTruncatesAndPresetsTakeTheAlpha) {
     EXPECT_EQ(g3d_Color().Set(packed).GetRGBA(), packed) << std::hex << packed;
   }
   EXPECT_EQ(g3d_Color(PRESET_CYAN, 0.5f), g3d_Color(0, 1, 1, 0.5f));
-  g3d_Color c(0.1f, 0.2f, 0.3f, 0.4f);  // a preset past the last leaves the colour
-  EXPECT_EQ(c.Set(static_cast<g3d_PresetColorEnum>(17), 1.0f), g3d_Color(0.1f, 0.2f, 0.3f, 0.4f));
+  const g3d_Color c(0.1f, 0.2f, 0.3f, 0.4f);  // a preset past the last leaves the colour
+  EXPECT_EQ(g3d_Color(c).Set(static_cast<g3d_PresetColorEnum>(17), 1.0f), c);
 }
 
 TEST(ColorTest, HexText) {

@@ -90,8 +90,7 @@ TEST(XFormTest, ProjectionsMapKnownPoints) {
 }
 
 TEST(XFormTest, ArraysMatchElementByElement) {
-  g3d_XForm m;
-  m.SetRotate(33, {1, 2, 3}).Translate(1, -2, 3).Scale(1.5f, 0.5f, 2);
+  g3d_XForm m = g3d_XForm().SetRotate(33, {1, 2, 3}).Translate(1, -2, 3).Scale(1.5f, 0.5f, 2);
   m.M(3, 0) = 0.25f;  // a projective row too
   std::vector<g3d_Point> points, bulkPoints;
   std::vector<g3d_Vector> bulkVectors;
