@@ -84,9 +84,8 @@ TEST(CameraTest, WindowLimits) {
       {PERSPECTIVE_PROJECTION, 1.9999999f, 0, 0, 0.0001f, 0.0001f},
   };
   for (const auto& c : cases) {
-    g3d_Camera camera;
-    camera.SetProjection(c.projection);
-    camera.SetNearFar(c.near, 100).SetWindow(c.w, c.h);
+    const g3d_Camera camera =
+        Looking({2, 0, 0}, {}, c.projection).SetNearFar(c.near, 100).SetWindow(c.w, c.h);
     const auto size = std::pair(camera.GetWindowWidth(), camera.GetWindowHeight());
     EXPECT_EQ(size, std::pair(c.expectedW, c.expectedH))
         << c.w << " x " << c.h << ", near " << c.near << ", projection " << c.projection;
@@ -266,12 +265,10 @@ TEST(CameraTest, Equality) {
 // no projection to invert.
 TEST(CameraTest, UnprojectInvertsToWindow) {
   const auto oblique = [](g3d_ProjectionEnum projection) {
-    g3d_Camera camera = Looking({3, 4, 12}, {1, 0, 0}, projection);
-    camera.SetWindow(3, 2).SetViewOffset(0.25f, -0.5f).SetNearFar(2, 40);
-    return camera;
-  };
-  const auto straight = [](g3d_ProjectionEnum projection, float near, float far) {
-    return Looking({0, 0, 10}, {}, projection).SetNearFar(near, far);
+    return Looking({3, 4, 12}, {1, 0, 0}, projection)
+        .SetWindow(3, 2)
+        .SetViewOffset(0.25f, -0.5f)
+        .SetNearFar(2, 40);
   };
   const struct {
     const char* what;
@@ -285,9 +282,10 @@ TEST(CameraTest, UnprojectInvertsToWindow) {
        oblique(PARALLEL_PROJECTION).CorrectAspect(400, 300, 0.1f, 0.6f, 0.2f, 0.9f, 1)},
       {"layer, zoomed",
        oblique(PERSPECTIVE_PROJECTION).SetLayerXForm(true, nullptr).Zoom(40, false)},
-      {"perspective, near 0", straight(PERSPECTIVE_PROJECTION, 0, 10), false},
-      {"perspective, far before near", straight(PERSPECTIVE_PROJECTION, 5, 1), false},
-      {"parallel, far at near", straight(PARALLEL_PROJECTION, 3, 3), false},
+      {"perspective, near 0", Looking({0, 0, 10}).SetNearFar(0, 10), false},
+      {"perspective, far before near", Looking({0, 0, 10}).SetNearFar(5, 1), false},
+      {"parallel, far at near", Looking({0, 0, 10}, {}, PARALLEL_PROJECTION).SetNearFar(3, 3),
+       false},
   };
   for (const auto& c : cases) {
     const g3d_Camera& camera = c.camera;
@@ -329,9 +327,7 @@ TEST(CameraTest, OperationsClearTheUserMarkAndStayFinite) {
     std::function<void(g3d_Camera&)> run;
   } cases[] = {
       {"set location",
-       [](g3d_Camera& c) {
-         c.SetLocation({0, 0, 3}, {0, 0, 0}, {0, 1, 0});
-       }},
+       [](g3d_Camera& c) { c.SetLocation(g3d_Point(0, 0, 3), {}, g3d_Vector(0, 1, 0)); }},
       {"near and far", [](g3d_Camera& c) { c.SetNearFar(0.5f, 100); }},
       {"projection", [](g3d_Camera& c) { c.SetProjection(PARALLEL_PROJECTION); }},
       {"zoom", [](g3d_Camera& c) { c.Zoom(10, false); }},

@@ -93,33 +93,29 @@ TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
 }
 
 TEST_F(GeomUtilsTest, Intersections) {
-  const P x0(0, 0, 0), x2(2, 0, 0);  // the first line of the line-line rows
+  const S o(0, 0, 0), x(1, 0, 0), y(0, 1, 0);
+  // (0, 0, 0)-(2, 0, 0) against the segment across it at x = at.
+  const auto across = [](float at, bool bounded) {
+    return LineLine(P(0, 0, 0), P(2, 0, 0), P(at, -1, 0), P(at, 1, 0), bounded);
+  };
   const struct {
     const char* what;
     std::string got, expected;
   } cases[] = {
-      {"crossing", LineLine(x0, x2, P(1, -1, 0), P(1, 1, 0), true), "hit 1 (0.5, 0.5)"},
-      {"within the tolerance of the end",
-       LineLine(x0, x2, P(2.00001f, -1, 0), P(2.00001f, 1, 0), true), "hit 1 (1.000005, 0.5)"},
-      {"beyond the end", LineLine(x0, x2, P(2.1f, -1, 0), P(2.1f, 1, 0), true), "miss 0"},
-      {"beyond the end, unbounded", LineLine(x0, x2, P(2.1f, -1, 0), P(2.1f, 1, 0), false),
-       "hit 1 (1.05, 0.5)"},
-      {"before the start", LineLine(x0, x2, P(-0.5f, -1, 0), P(-0.5f, 1, 0), true), "miss 0"},
-      {"skew", LineLine(S(0, 0, 0), S(1, 0, 0), S(0, 1, 1), S(0, 2, 1), false), "miss 0"},
-      {"parallel, apart", LineLine(S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), S(1, 1, 0), false),
-       "miss 0"},
-      {"collinear, overlapping", LineLine(S(0, 0, 0), S(2, 0, 0), S(1, 0, 0), S(3, 0, 0), true),
-       "hit 2 (0.5, 0) (1, 0.5)"},
-      {"collinear, end to end", LineLine(S(0, 0, 0), S(1, 0, 0), S(1, 0, 0), S(2, 0, 0), true),
-       "hit 1 (1, 0)"},
-      {"collinear, disjoint", LineLine(S(0, 0, 0), S(1, 0, 0), S(2, 0, 0), S(3, 0, 0), true),
-       "miss 0"},
-      {"through a plane", LinePlane(S(1, 2, -1), S(1, 2, 1), S(0, 0, 0), S(2, 0, 0), S(0, 4, 0)),
+      {"crossing", across(1, true), "hit 1 (0.5, 0.5)"},
+      {"within the tolerance of the end", across(2.00001f, true), "hit 1 (1.000005, 0.5)"},
+      {"beyond the end", across(2.1f, true), "miss 0"},
+      {"beyond the end, unbounded", across(2.1f, false), "hit 1 (1.05, 0.5)"},
+      {"before the start", across(-0.5f, true), "miss 0"},
+      {"skew", LineLine(o, x, S(0, 1, 1), S(0, 2, 1), false), "miss 0"},
+      {"parallel, apart", LineLine(o, x, y, S(1, 1, 0), false), "miss 0"},
+      {"collinear, overlapping", LineLine(o, x * 2, x, x * 3, true), "hit 2 (0.5, 0) (1, 0.5)"},
+      {"collinear, end to end", LineLine(o, x, x, x * 2, true), "hit 1 (1, 0)"},
+      {"collinear, disjoint", LineLine(o, x, x * 2, x * 3, true), "miss 0"},
+      {"through a plane", LinePlane(S(1, 2, -1), S(1, 2, 1), o, x * 2, y * 4),
        "hit 1 (0.5; 0.5, 0.5)"},
-      {"in a plane", LinePlane(S(1, 1, 0), S(3, 2, 0), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0)),
-       "hit 2 (0; 1, 1) (1; 3, 2)"},
-      {"parallel, above a plane",
-       LinePlane(S(0, 0, 1), S(1, 0, 1), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0)), "miss 0"},
+      {"in a plane", LinePlane(S(1, 1, 0), S(3, 2, 0), o, x, y), "hit 2 (0; 1, 1) (1; 3, 2)"},
+      {"parallel, above a plane", LinePlane(S(0, 0, 1), S(1, 0, 1), o, x, y), "miss 0"},
       {"through a triangle", LineTri(S(0.25, 0.25, -1), S(0.25, 0.25, 1), true),
        "hit 1 (0.5; 0.25, 0.25)"},
       {"beside a triangle", LineTri(S(0.75, 0.75, -1), S(0.75, 0.75, 1), true), "miss 0"},
