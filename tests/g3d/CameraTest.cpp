@@ -120,7 +120,6 @@ TEST(CameraTest, ProjectionSwitchesKeepTheImage) {
   const g3d_Point atTarget(0.3f, -0.2f, 0);
   const auto before = OnScreen(camera, atTarget);
   camera.MakeParallel();
-  EXPECT_FALSE(camera.IsPerspective());
   EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 8);
   EXPECT_FLOAT_EQ(camera.GetViewOffsetX(), 0.8f);  // scaled too; ToWindow does not show it
   ExpectNear(OnScreen(camera, atTarget), before, 1e-5f);
