@@ -21,8 +21,8 @@ TEST(SphereTest, Unions) {
       {s, {{9, 9, 9, 1}, -1}, s},
       {{{0, 0, 0, 1}, 1}, {{4, 0, 0, 1}, 1}, {{2, 0, 0, 1}, 3}},
       {{{0, 0, 0, 1}, 1}, {{0, 0, 0, 1}, 2}, {{0, 0, 0, 1}, 2}},
-      {{{0, 0, 0, 1}, 5}, {{1, 0, 0, 1}, 1}, {{0, 0, 0, 1}, 5}},   // contained
-      {{{0, 0, 0, 2}, 1}, {{4, 0, 0, 1}, 1}, {{2, 0, 0, 1}, 3}},   // centres dehomogenised
+      {{{0, 0, 0, 1}, 5}, {{1, 0, 0, 1}, 1}, {{0, 0, 0, 1}, 5}},  // contained
+      {{{0, 0, 0, 2}, 1}, {{4, 0, 0, 1}, 1}, {{2, 0, 0, 1}, 3}},  // centres dehomogenised
   };
   for (std::size_t i = 0; i < std::size(cases); ++i) {
     EXPECT_EQ(cases[i].a + cases[i].b, cases[i].expected) << "row " << i;
@@ -33,9 +33,8 @@ TEST(BoundingVolumeTest, DefaultCubeAndGrowth) {
   g3d_BoundingVolume volume;
   EXPECT_EQ(volume.Count(), 0u);
   volume.Reset();
-  EXPECT_TRUE(volume.IsDefault());
-  EXPECT_EQ(volume.Vertexes()[1], g3d_Point(-1, -1, 1));
-  EXPECT_EQ(volume.Vertexes()[4], g3d_Point(1, -1, -1));
+  EXPECT_EQ(std::tuple(volume.IsDefault(), volume.Vertexes()[1], volume.Vertexes()[4]),
+            std::tuple(true, g3d_Point(-1, -1, 1), g3d_Point(1, -1, -1)));
   g3d_BoundingVolume copy = volume;
   EXPECT_TRUE(copy.IsDefault());
   copy.AllocateVertexes(8)[7] = g3d_Point(1, 1, 1);
@@ -56,8 +55,7 @@ TEST(BoundingVolumeTest, BoxAndExtent) {
   box.SetToRectangleBox({0, 0, 0}, {2, 4, 4});
   g3d_Sphere extent;
   box.GetExtent(extent);
-  EXPECT_EQ(extent.center, g3d_Point(1, 2, 2));
-  EXPECT_FLOAT_EQ(extent.radius, 3.0f);
+  EXPECT_EQ(extent, g3d_Sphere(g3d_Point(1, 2, 2), 3));
   g3d_BoundingVolume empty;
   empty.GetExtent(extent);
   EXPECT_TRUE(extent.IsEmpty());
@@ -111,9 +109,10 @@ TEST(BitmapTest, BitsAndMarkers) {
   const struct {
     g3d_MarkerEnum marker;
     int pixels;  // of a marker of size 5
-  } cases[] = {{MARKER_FILLED_SQUARE, 25}, {MARKER_HOLLOW_SQUARE, 16}, {MARKER_CROSS, 9}, {MARKER_XS, 9},
-               {MARKER_FILLED_DIAMOND, 13}, {MARKER_HOLLOW_DIAMOND, 8}, {MARKER_POINT, 1},
-               {MARKER_FILLED_CIRCLE, 21}};
+  } cases[] = {{MARKER_FILLED_SQUARE, 25},  {MARKER_HOLLOW_SQUARE, 16},
+               {MARKER_CROSS, 9},           {MARKER_XS, 9},
+               {MARKER_FILLED_DIAMOND, 13}, {MARKER_HOLLOW_DIAMOND, 8},
+               {MARKER_POINT, 1},           {MARKER_FILLED_CIRCLE, 21}};
   for (const auto& c : cases) {
     bitmap.SetMarker(c.marker, 5);
     EXPECT_EQ(count(bitmap), c.pixels) << c.marker;

@@ -2,6 +2,7 @@
 // For the camera tests and the camera fuzzer: whether a camera stayed within the float range.
 #include <g3d_Camera.h>
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 
@@ -9,10 +10,7 @@
 // matrix" or "projection matrix"), or null when all is finite.
 inline const char* NotFinitePart(const g3d_Camera& camera) {
   const auto finite = [](std::initializer_list<float> values) {
-    for (const float value : values) {
-      if (!std::isfinite(value)) return false;
-    }
-    return true;
+    return std::all_of(values.begin(), values.end(), [](float v) { return std::isfinite(v); });
   };
   const auto finiteMatrix = [](const g3d_XForm& m) {
     for (int i = 0; i < 16; ++i) {
@@ -22,9 +20,9 @@ inline const char* NotFinitePart(const g3d_Camera& camera) {
   };
   const g3d_Point &eye = camera.GetEye(), &target = camera.GetTarget();
   const g3d_Vector& up = camera.GetUp();
-  if (!finite({eye.x, eye.y, eye.z, eye.w, target.x, target.y, target.z, target.w, up.x, up.y,
-               up.z, camera.GetWindowWidth(), camera.GetWindowHeight(), camera.GetNear(),
-               camera.GetFar(), camera.GetViewOffsetX(), camera.GetViewOffsetY()})) {
+  if (!finite({eye.x, eye.y, eye.z, eye.w, target.x, target.y, target.z, target.w, up.x, up.y, up.z,
+               camera.GetWindowWidth(), camera.GetWindowHeight(), camera.GetNear(), camera.GetFar(),
+               camera.GetViewOffsetX(), camera.GetViewOffsetY()})) {
     return "state";
   }
   if (!finiteMatrix(camera.GetVOM())) return "view matrix";

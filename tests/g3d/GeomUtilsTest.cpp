@@ -6,37 +6,50 @@
 
 #include <gtest/gtest.h>
 
+#include <iomanip>
+#include <sstream>
+#include <string>
+
 namespace {
 using S = g3d_Storage;
 using P = g3d_Point;
 
-// What an intersection call answered: the verdict, the count and the parameters.
-struct Crossing {
-  bool hit = false;
-  int count = -1;
-  double s[2] = {}, t[2] = {}, lp[2] = {};
-};
-
+// What an intersection call answered: "hit" or "miss", the count, and the parameters of each
+// point found, to seven digits: "(s, t)", or "(lp; s, t)" where the call gives one along the line.
 class GeomUtilsTest : public ::testing::Test, protected g3d_GeomUtils {
 protected:
   void TearDown() override { setTolerance(1e-5); }
 
+  static std::string Text(bool hit, int count, const double* s, const double* t,
+                          const double* lp = nullptr) {
+    std::ostringstream text;
+    text << std::setprecision(7) << (hit ? "hit " : "miss ") << count;
+    for (int i = 0; i < count; ++i) {
+      text << " (";
+      if (lp) text << lp[i] << "; ";
+      text << s[i] << ", " << t[i] << ')';
+    }
+    return text.str();
+  }
   template <class Q>  // g3d_Point widens to g3d_Storage
-  static Crossing LineLine(Q p0, Q p1, Q q0, Q q1, bool bounded) {
-    Crossing c;
-    c.hit = LineLineIntersection(p0, p1, q0, q1, c.s, c.t, c.count, bounded, bounded);
-    return c;
+  static std::string LineLine(Q p0, Q p1, Q q0, Q q1, bool bounded) {
+    double s[2], t[2];
+    int count = -1;
+    const bool hit = LineLineIntersection(p0, p1, q0, q1, s, t, count, bounded, bounded);
+    return Text(hit, count, s, t);
   }
-  static Crossing LinePlane(S p0, S p1, S origin, S u, S v) {
-    Crossing c;
-    c.hit = LinePlaneIntersection(p0, p1, origin, u, v, c.lp, c.s, c.t, c.count);
-    return c;
+  static std::string LinePlane(S p0, S p1, S origin, S u, S v) {
+    double lp[2], s[2], t[2];
+    int count = -1;
+    const bool hit = LinePlaneIntersection(p0, p1, origin, u, v, lp, s, t, count);
+    return Text(hit, count, s, t, lp);
   }
-  static Crossing LineTri(S p0, S p1, bool bounded) {
-    Crossing c;
-    c.hit = LineTriIntersection(p0, p1, S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), c.lp, c.s, c.t,
-                                c.count, bounded);
-    return c;
+  static std::string LineTri(S p0, S p1, bool bounded) {
+    double lp[2], s[2], t[2];
+    int count = -1;
+    const bool hit =
+        LineTriIntersection(p0, p1, S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), lp, s, t, count, bounded);
+    return Text(hit, count, s, t, lp);
   }
 };
 
@@ -69,38 +82,6 @@ TEST_F(GeomUtilsTest, PointInPlaneRescalesToTheCallersVectors) {
   EXPECT_FALSE(PointInPlane(S(3, 8, 5), S(1, 0, 5), S(2, 0, 0), S(4, 0, 0), s, t));  // parallel
 }
 
-TEST_F(GeomUtilsTest, LineLineCrossingAndBounds) {
-  const struct {
-    float x;
-    bool bounded, hit;
-  } cases[] = {{1, true, true}, {2.00001f, true, true}, {2.1f, true, false},
-               {2.1f, false, true}, {-0.5f, true, false}};
-  for (const auto& c : cases) {
-    const Crossing x = LineLine(P(0, 0, 0), P(2, 0, 0), P(c.x, -1, 0), P(c.x, 1, 0), c.bounded);
-    EXPECT_EQ(std::tuple(x.hit, x.count), std::tuple(c.hit, c.hit ? 1 : 0)) << c.x;
-    if (c.hit) {
-      EXPECT_NEAR(x.s[0], c.x / 2.0, 1e-6) << c.x;
-      EXPECT_NEAR(x.t[0], 0.5, 1e-6) << c.x;
-    }
-  }
-}
-
-TEST_F(GeomUtilsTest, LineLineSkewParallelAndCollinear) {
-  EXPECT_FALSE(LineLine(S(0, 0, 0), S(1, 0, 0), S(0, 1, 1), S(0, 2, 1), false).hit);  // skew
-  const Crossing apart = LineLine(S(0, 0, 0), S(1, 0, 0), S(0, 1, 0), S(1, 1, 0), false);
-  EXPECT_EQ(std::tuple(apart.hit, apart.count), std::tuple(false, 0));  // parallel, apart
-  // Collinear, overlapping on [0.5, 1] of the first and [0, 0.5] of the second.
-  const Crossing overlap = LineLine(S(0, 0, 0), S(2, 0, 0), S(1, 0, 0), S(3, 0, 0), true);
-  EXPECT_EQ(std::tuple(overlap.hit, overlap.count), std::tuple(true, 2));
-  EXPECT_EQ(std::tuple(overlap.s[0], overlap.s[1], overlap.t[0], overlap.t[1]),
-            std::tuple(0.5, 1.0, 0.0, 0.5));
-  // Touching end to end: one point.
-  const Crossing touching = LineLine(S(0, 0, 0), S(1, 0, 0), S(1, 0, 0), S(2, 0, 0), true);
-  EXPECT_EQ(std::tuple(touching.hit, touching.count), std::tuple(true, 1));
-  EXPECT_NEAR(touching.s[0], 1.0, 1e-5);
-  EXPECT_FALSE(LineLine(S(0, 0, 0), S(1, 0, 0), S(2, 0, 0), S(3, 0, 0), true).hit);  // disjoint
-}
-
 TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
   double param = 0;
   EXPECT_TRUE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(1, 0, 0), param, true));
@@ -111,29 +92,42 @@ TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
   EXPECT_FALSE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(1, 1e-3, 0), param, false));
 }
 
-TEST_F(GeomUtilsTest, LinePlaneCrossingAndSegmentInPlane) {
-  const Crossing through = LinePlane(S(1, 2, -1), S(1, 2, 1), S(0, 0, 0), S(2, 0, 0), S(0, 4, 0));
-  EXPECT_EQ(std::tuple(through.hit, through.count), std::tuple(true, 1));
-  EXPECT_EQ(std::tuple(through.lp[0], through.s[0], through.t[0]), std::tuple(0.5, 0.5, 0.5));
-  const Crossing in = LinePlane(S(1, 1, 0), S(3, 2, 0), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0));
-  EXPECT_EQ(std::tuple(in.hit, in.count, in.lp[0], in.lp[1]), std::tuple(true, 2, 0.0, 1.0));
-  EXPECT_NEAR(in.s[1], 3.0, 1e-9);
-  const Crossing above = LinePlane(S(0, 0, 1), S(1, 0, 1), S(0, 0, 0), S(1, 0, 0), S(0, 1, 0));
-  EXPECT_EQ(std::tuple(above.hit, above.count), std::tuple(false, 0));  // parallel, above
-}
-
-TEST_F(GeomUtilsTest, LineTriangle) {
-  const Crossing through = LineTri(S(0.25, 0.25, -1), S(0.25, 0.25, 1), true);
-  EXPECT_EQ(std::tuple(through.hit, through.count, through.lp[0]), std::tuple(true, 1, 0.5));
-  EXPECT_FALSE(LineTri(S(0.75, 0.75, -1), S(0.75, 0.75, 1), true).hit);  // beside it
-  EXPECT_FALSE(LineTri(S(0.25, 0.25, 1), S(0.25, 0.25, 2), true).hit);   // short of it
-  EXPECT_TRUE(LineTri(S(0.25, 0.25, 1), S(0.25, 0.25, 2), false).hit);
-  // In the plane: the segment y = 0.25 from x = -1 to 2 is clipped to x in [0, 0.75].
-  const Crossing in = LineTri(S(-1, 0.25, 0), S(2, 0.25, 0), true);
-  ASSERT_EQ(std::tuple(in.hit, in.count), std::tuple(true, 2));
-  EXPECT_NEAR(in.lp[0], 1.0 / 3, 1e-5);
-  EXPECT_NEAR(in.lp[1], 0.75 / 3 + 1.0 / 3, 1e-5);
-  EXPECT_NEAR(in.s[1], 0.75, 1e-4);
+TEST_F(GeomUtilsTest, Intersections) {
+  const S o(0, 0, 0), x(1, 0, 0), y(0, 1, 0);
+  // (0, 0, 0)-(2, 0, 0) against the segment across it at x = at.
+  const auto across = [](float at, bool bounded) {
+    return LineLine(P(0, 0, 0), P(2, 0, 0), P(at, -1, 0), P(at, 1, 0), bounded);
+  };
+  const struct {
+    const char* what;
+    std::string got, expected;
+  } cases[] = {
+      {"crossing", across(1, true), "hit 1 (0.5, 0.5)"},
+      {"within the tolerance of the end", across(2.00001f, true), "hit 1 (1.000005, 0.5)"},
+      {"beyond the end", across(2.1f, true), "miss 0"},
+      {"beyond the end, unbounded", across(2.1f, false), "hit 1 (1.05, 0.5)"},
+      {"before the start", across(-0.5f, true), "miss 0"},
+      {"skew", LineLine(o, x, S(0, 1, 1), S(0, 2, 1), false), "miss 0"},
+      {"parallel, apart", LineLine(o, x, y, S(1, 1, 0), false), "miss 0"},
+      {"collinear, overlapping", LineLine(o, x * 2, x, x * 3, true), "hit 2 (0.5, 0) (1, 0.5)"},
+      {"collinear, end to end", LineLine(o, x, x, x * 2, true), "hit 1 (1, 0)"},
+      {"collinear, disjoint", LineLine(o, x, x * 2, x * 3, true), "miss 0"},
+      {"through a plane", LinePlane(S(1, 2, -1), S(1, 2, 1), o, x * 2, y * 4),
+       "hit 1 (0.5; 0.5, 0.5)"},
+      {"in a plane", LinePlane(S(1, 1, 0), S(3, 2, 0), o, x, y), "hit 2 (0; 1, 1) (1; 3, 2)"},
+      {"parallel, above a plane", LinePlane(S(0, 0, 1), S(1, 0, 1), o, x, y), "miss 0"},
+      {"through a triangle", LineTri(S(0.25, 0.25, -1), S(0.25, 0.25, 1), true),
+       "hit 1 (0.5; 0.25, 0.25)"},
+      {"beside a triangle", LineTri(S(0.75, 0.75, -1), S(0.75, 0.75, 1), true), "miss 0"},
+      {"short of a triangle", LineTri(S(0.25, 0.25, 1), S(0.25, 0.25, 2), true), "miss 0"},
+      {"short of a triangle, unbounded", LineTri(S(0.25, 0.25, 1), S(0.25, 0.25, 2), false),
+       "hit 1 (-1; 0.25, 0.25)"},
+      // The segment y = 0.25 from x = -1 to 2 is clipped to x in [0, 0.75], widened by the
+      // tolerance.
+      {"in a triangle's plane", LineTri(S(-1, 0.25, 0), S(2, 0.25, 0), true),
+       "hit 2 (0.33333; -1e-05, 0.25) (0.5833367; 0.75001, 0.25)"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(c.got, c.expected) << c.what;
 }
 
 TEST_F(GeomUtilsTest, SegmentsIn2D) {

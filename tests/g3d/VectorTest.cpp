@@ -1,13 +1,15 @@
-// Vectors, points and the double-precision helpers.
+// Vectors, points, the double-precision helpers, and archive round trips of vectors and points.
+#include "G3dTestSupport.h"
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
 #include <g3d_Storage.h>
 
-#include <aio_ostream.h>
-
-#include <gtest/gtest.h>
+#include <UTI_Modules.h>
+#include <cls_xo1DArrayList.h>
 
 #include <cmath>
 #include <cstring>
-#include <sstream>
 #include <tuple>
 
 namespace {
@@ -44,11 +46,10 @@ TEST(VectorTest, AngleWithSnapsAndSigns) {
     g3d_Vector a, b;
     float expected;
   } cases[] = {
-      {{1, 0, 0}, {1, 1e-3f, 0}, 0.0f},            // cosine >= 0.99999 snaps to 0
-      {{1, 0, 0}, {-1, 1e-3f, 0}, 3.1415927f},     // and to pi
-      {{1, 0, 0}, {0, 0, 0}, float(kPi / 2)},      // zero vector
-      {{0, 0, 0}, {0, 0, 0}, float(kPi / 2)},
-      {{1, 0, 0}, {0, 2, 0}, float(kPi / 2)},
+      {{1, 0, 0}, {1, 1e-3f, 0}, 0.0f},         // cosine >= 0.99999 snaps to 0
+      {{1, 0, 0}, {-1, 1e-3f, 0}, 3.1415927f},  // and to pi
+      {{1, 0, 0}, {0, 0, 0}, float(kPi / 2)},   // zero vector
+      {{0, 0, 0}, {0, 0, 0}, float(kPi / 2)},  {{1, 0, 0}, {0, 2, 0}, float(kPi / 2)},
   };
   for (const auto& c : cases) EXPECT_FLOAT_EQ(c.a.AngleWith(c.b, false), c.expected);
   // Signed turn seen from +z: a quarter turn clockwise is three quarters counter-clockwise.
@@ -74,9 +75,32 @@ TEST(StorageTest, DoubleHelpers) {
 }
 
 TEST(VectorTest, PrintsComponentsAsDoubles) {
-  std::ostringstream text;
-  aio_ostream out(&text);
-  out << g3d_Vector(1, -2.5f, 0) << " " << g3d_Point(0.5f, 0, 0);
-  EXPECT_EQ(text.str(), "(1, -2.5, 0) (0.5, 0, 0, 1)");
+  EXPECT_EQ(Printed(g3d_Vector(1, -2.5f, 0)) + " " + Printed(g3d_Point(0.5f, 0, 0)),
+            "(1, -2.5, 0) (0.5, 0, 0, 1)");
+}
+
+// The colour error round trips with the scripting errors in omu.
+TEST(G3dPersistenceTest, ValuesRoundTripThroughAFile) {
+  EXPECT_EQ(*RoundTrip<g3d_Vector>(g3d_Vector(1.5f, -2, 0.1f)), g3d_Vector(1.5f, -2, 0.1f));
+  EXPECT_EQ(*RoundTrip<g3d_Point>(g3d_Point(1, 2, 3, 0.5f)), g3d_Point(1, 2, 3, 0.5f));
+}
+
+template <class T>
+class ListMementoTest : public ::testing::Test {};
+using ListTypes = ::testing::Types<g3d_Point, g3d_Vector>;
+TYPED_TEST_SUITE(ListMementoTest, ListTypes);
+
+TYPED_TEST(ListMementoTest, ListsRoundTrip) {
+  cow_List<TypeParam> list;
+  for (int i = 0; i < 5; ++i) list.Append(TypeParam(float(i), float(-i), 0.5f));
+  cls_Archive archive;
+  const cls_WriteVisitor writer = archive.NewRoot();
+  ASSERT_TRUE(writer.StartWrite(g3d_TypeId(99), cls_Uid()));
+  cls_xo1DArrayList<TypeParam>::Write(writer, "items", list);
+  cls_xo1DArrayList<TypeParam>::Write(writer, "none", cow_List<TypeParam>());
+  const cls_Archive loaded = cls_Archive::FromBytes(archive.ToBytes());
+  const cls_ReadVisitor reader = loaded.Root(0);
+  EXPECT_EQ(cls_xo1DArrayList<TypeParam>::Read(reader, "items"), list);
+  EXPECT_TRUE(cls_xo1DArrayList<TypeParam>::Read(reader, "none").IsEmpty());
 }
 }  // namespace

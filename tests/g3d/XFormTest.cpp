@@ -1,29 +1,15 @@
 // Transforms: composition order, rotation sense, inversion, projections, equality, stack.
+#include "G3dTestSupport.h"
+
 #include <g3d_XFormStack.h>
 
-#include <aio_ostream.h>
 #include <nex_AssertException.h>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <random>
-#include <sstream>
 
 namespace {
-g3d_Point Apply(const g3d_XForm& m, g3d_Point p) {
-  m.XForm(&p, 1);
-  return p;
-}
-
-void ExpectNear(const g3d_Point& a, const g3d_Point& b, float tol = 1e-6f) {
-  EXPECT_NEAR(a.x, b.x, tol);
-  EXPECT_NEAR(a.y, b.y, tol);
-  EXPECT_NEAR(a.z, b.z, tol);
-  EXPECT_NEAR(a.w, b.w, tol);
-}
-
 TEST(XFormTest, RotationIsCounterClockwiseAboutTheAxis) {
   const struct {
     g3d_Vector axis;
@@ -33,10 +19,10 @@ TEST(XFormTest, RotationIsCounterClockwiseAboutTheAxis) {
       {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
       {{0, 3, 0}, {0, 0, 1}, {1, 0, 0}},  // axis length does not matter
   };
-  for (const auto& c : cases) ExpectNear(Apply(g3d_XForm().SetRotate(90, c.axis), c.from), c.to);
+  for (const auto& c : cases) ExpectNear(Through(g3d_XForm().SetRotate(90, c.axis), c.from), c.to);
   // The quaternion of a quarter turn about z agrees.
   const float half[2] = {std::sqrt(0.5f), std::sqrt(0.5f)};
-  ExpectNear(Apply(g3d_XForm().SetRotate2d(half), {1, 0, 0}), {0, 1, 0});
+  ExpectNear(Through(g3d_XForm().SetRotate2d(half), {1, 0, 0}), {0, 1, 0});
 }
 
 TEST(XFormTest, DegenerateInputsLeaveTheMatrixAsItWas) {
@@ -55,11 +41,13 @@ TEST(XFormTest, DegenerateInputsLeaveTheMatrixAsItWas) {
 
 TEST(XFormTest, FactorsApplyRightToLeft) {
   // Translated in the scaled frame; rotated first, then translated.
-  EXPECT_EQ(Apply(g3d_XForm().SetScale(2, 2, 2).Translate(1, 0, 0), {0, 0, 0}), g3d_Point(2, 0, 0));
-  ExpectNear(Apply(g3d_XForm().Translate(5, 0, 0).Rotate(90, {0, 0, 1}), {1, 0, 0}), {5, 1, 0, 1});
+  EXPECT_EQ(Through(g3d_XForm().SetScale(2, 2, 2).Translate(1, 0, 0), {0, 0, 0}),
+            g3d_Point(2, 0, 0));
+  ExpectNear(Through(g3d_XForm().Translate(5, 0, 0).Rotate(90, {0, 0, 1}), {1, 0, 0}),
+             {5, 1, 0, 1});
   const g3d_XForm product =
       g3d_XForm().SetTranslate(g3d_Vector(5, 0, 0)) * g3d_XForm().SetRotate(90, {0, 0, 1});
-  ExpectNear(Apply(product, {1, 0, 0}), {5, 1, 0, 1});
+  ExpectNear(Through(product, {1, 0, 0}), {5, 1, 0, 1});
 }
 
 TEST(XFormTest, TranslateByPointDividesByW) {
@@ -89,7 +77,7 @@ TEST(XFormTest, InverseTimesMatrixIsIdentity) {
 TEST(XFormTest, ProjectionsMapKnownPoints) {
   const g3d_XForm p = g3d_XForm().SetPerspectiveProjection(-1, 1, 1, -1, 1, 10);
   const auto ndc = [&p](g3d_Point q) {
-    q = Apply(p, q);
+    q = Through(p, q);
     return g3d_Point(q.x / q.w, q.y / q.w, q.z / q.w);
   };
   ExpectNear(ndc({1, 1, -1}), {1, 1, -1});               // near corner
@@ -98,12 +86,11 @@ TEST(XFormTest, ProjectionsMapKnownPoints) {
   EXPECT_EQ(g3d_XForm().SetPerspectiveProjection(-1, 1, -1, 1, 1, 10).GetM(1, 1), -p.GetM(1, 1));
   // Orthographic takes a near plane at 0.
   const g3d_XForm ortho = g3d_XForm().SetOrthographicProjection(-1, 1, 1, -1, 0, 10);
-  ExpectNear(Apply(ortho, {1, -1, -10}), {1, -1, 1, 1});
+  ExpectNear(Through(ortho, {1, -1, -10}), {1, -1, 1, 1});
 }
 
 TEST(XFormTest, ArraysMatchElementByElement) {
-  g3d_XForm m;
-  m.SetRotate(33, {1, 2, 3}).Translate(1, -2, 3).Scale(1.5f, 0.5f, 2);
+  g3d_XForm m = g3d_XForm().SetRotate(33, {1, 2, 3}).Translate(1, -2, 3).Scale(1.5f, 0.5f, 2);
   m.M(3, 0) = 0.25f;  // a projective row too
   std::vector<g3d_Point> points, bulkPoints;
   std::vector<g3d_Vector> bulkVectors;
@@ -152,10 +139,8 @@ TEST(XFormTest, TransposeColumnMajorExportAndFrames) {
 }
 
 TEST(XFormTest, PrintsRowsInBraces) {
-  std::ostringstream text;
-  aio_ostream out(&text);
-  out << g3d_XForm().SetTranslate(g3d_Vector(0.5f, 0, -2));
-  EXPECT_EQ(text.str(), "\n{\n  1 0 0 0.5\n  0 1 0 0\n  0 0 1 -2\n  0 0 0 1\n}\n");
+  EXPECT_EQ(Printed(g3d_XForm().SetTranslate(g3d_Vector(0.5f, 0, -2))),
+            "\n{\n  1 0 0 0.5\n  0 1 0 0\n  0 0 1 -2\n  0 0 0 1\n}\n");
 }
 
 TEST(XFormStackTest, PushPostMultipliesAndResetRebases) {
@@ -163,14 +148,14 @@ TEST(XFormStackTest, PushPostMultipliesAndResetRebases) {
   EXPECT_EQ(stack.Top(), g3d_XForm());
   stack.Push(g3d_XForm().SetTranslate(g3d_Vector(1, 0, 0)));
   stack.Push(g3d_XForm().SetScale(2, 2, 2));
-  EXPECT_EQ(Apply(stack.Top(), {1, 0, 0}), g3d_Point(3, 0, 0));
+  EXPECT_EQ(Through(stack.Top(), {1, 0, 0}), g3d_Point(3, 0, 0));
   const g3d_XFormStack copy = stack;
   stack.Pop();
-  EXPECT_EQ(Apply(stack.Top(), {1, 0, 0}), g3d_Point(2, 0, 0));
-  EXPECT_EQ(Apply(copy.Top(), {1, 0, 0}), g3d_Point(3, 0, 0));
+  EXPECT_EQ(Through(stack.Top(), {1, 0, 0}), g3d_Point(2, 0, 0));
+  EXPECT_EQ(Through(copy.Top(), {1, 0, 0}), g3d_Point(3, 0, 0));
   stack.Reset(g3d_XForm().SetScale(5, 5, 5));
   EXPECT_EQ(stack.Depth(), 0);
-  EXPECT_EQ(Apply(stack.Top(), {1, 0, 0}), g3d_Point(5, 0, 0));
+  EXPECT_EQ(Through(stack.Top(), {1, 0, 0}), g3d_Point(5, 0, 0));
 }
 
 #ifndef NDEBUG
