@@ -18,15 +18,6 @@ const double kMatrix[] = {1, 2, 3, 4};
 const int kTwoByTwo[] = {2, 2};
 }  // namespace
 
-// INT and DOUBLE arrays' text is in python/tests/test_values.py.
-TEST(PrimArray, TextOfFloatAndEmptyArrays) {
-  const float floats[] = {0.5f, 1e-5f};
-  const int two[] = {2};
-  EXPECT_EQ(omu_PrimArray(1, two, floats).AsString(0), "array([0.5, 9.99999974737875e-06], 'f')");
-  const int none[] = {0};
-  EXPECT_EQ(omu_PrimArray(1, none, kMatrix).AsString(0), "array([], 'd')");
-}
-
 TEST(PrimArray, IndexingSharesTheNumbers) {
   omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
   EXPECT_EQ(matrix.Length(), 2);
