@@ -5,7 +5,6 @@
 #include <omu_BindingTypes.h>
 #include <omu_Deprecation.h>
 #include <omu_Get.h>
-#include <omu_ReturnPrim.h>
 
 #include <algorithm>
 #include <type_traits>
@@ -212,7 +211,6 @@ TEST(Arguments, TextShowsPositionsThenKeywords) {
   EXPECT_EQ(args.AsString(0), "(1, flag=True, name='Part-1')");
   EXPECT_EQ(args.StoredKeywords(), (cow_List<cow_String>{"name", "flag"}));
   EXPECT_EQ(Call({}).AsString(0), "()");
-  EXPECT_EQ(Call({7}).AsString(0), "(7)");
 }
 
 TEST(Arguments, InterfaceObjectsByScriptType) {
@@ -226,13 +224,4 @@ TEST(Arguments, InterfaceObjectsByScriptType) {
   EXPECT_EQ(part->TypeString(), "Part");
   EXPECT_EQ(args.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
   EXPECT_EQ(Outcome(args), "TypeError: other; found Feature, expecting Part");
-}
-
-TEST(Collections, ResultsComeBackAsNumbersAndStrings) {
-  const std::unique_ptr<omu_PrimList> list(omu_ReturnPrim(cow_List<double>{1.0, 2.5}));
-  EXPECT_EQ(list->AsString(0), "(1.0, 2.5)");
-  const std::unique_ptr<omu_PrimList> ints(omu_ReturnPrim(cow_List<int>{7}));
-  EXPECT_EQ(ints->AsString(0), "(7,)");
-  const std::unique_ptr<omu_PrimTuple> rows(omu_ReturnPrim(cow_2DArray<cow_String>(1, 2, "a")));
-  EXPECT_EQ(rows->AsString(0), "(('a', 'a'),)");
 }

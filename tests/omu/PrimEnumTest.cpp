@@ -1,10 +1,10 @@
+#include "OmuTestSupport.h"
+
 #include <mdl_Model.h>
 #include <omu_BoolSelectEnum.h>
 #include <omu_PrimEnum.h>
 
 #include <typeinfo>
-
-#include "OmuTestSupport.h"
 
 using Formulation = omu_PrimEnum<mdl_Model::FormulationEnm, 1>;
 using RestartInc = omu_PrimEnum<mdl_Model::RestartIncEnm, 1>;

@@ -1,3 +1,5 @@
+#include "OmuTestSupport.h"
+
 #include <omu_PrimArray.h>
 #include <omu_PrimComplex.h>
 #include <omu_PrimEnum.h>
@@ -5,11 +7,10 @@
 #include <omu_PrimPath.h>
 #include <omu_PrimTranslatedString.h>
 #include <omu_PrimType.h>
+#include <omu_ReturnPrim.h>
 
 #include <cmath>
 #include <limits>
-
-#include "OmuTestSupport.h"
 
 namespace {
 omu_Primitive* Translated(const char* text) {
@@ -57,7 +58,10 @@ TEST(Primitive, TextOfEachKind) {
       {new omu_PrimType(), "Type"}, {new StrDict(), "{}"},
       {new omu_PrimException(nex_TextException("boom"), "trace"), "omu_PrimException object"},
       {new omu_PrimArray(1, two, floats), "array([0.5, 9.99999974737875e-06], 'f')"},
-      {new omu_PrimArray(1, none, doubles), "array([], 'd')"}};
+      {new omu_PrimArray(1, none, doubles), "array([], 'd')"},
+      // Results as commands return them.
+      {omu_ReturnPrim(cow_List<double>{1.0, 2.5}), "(1.0, 2.5)"}, {omu_ReturnPrim(cow_List<int>{7}), "(7,)"},
+      {omu_ReturnPrim(cow_2DArray<cow_String>(1, 2, "a")), "(('a', 'a'),)"}};
   // clang-format on
   for (const auto& [value, text] : cases) {
     const std::unique_ptr<omu_Primitive> owned(value);

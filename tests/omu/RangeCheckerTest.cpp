@@ -1,13 +1,14 @@
-#include <gtest/gtest.h>
+#include "RaisedText.h"
+
 #include <omu_RangeChecker.h>
 #include <omu_RangeErrorException.h>
+
+#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <string>
 #include <utility>
-
-#include "RaisedText.h"
 
 namespace {
 constexpr int kIntMin = std::numeric_limits<int>::min();
