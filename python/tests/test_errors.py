@@ -52,8 +52,7 @@ FIELD_NAMES = {
 def test_error_has_its_class_exact_message_and_fields(name, fields, error, message):
     with pytest.raises(error) as raised:
         cvxutils.raiseError(name, *fields)
-    assert type(raised.value) is error
-    assert raised.value.args == (message,)
+    assert (type(raised.value), raised.value.args) == (error, (message,))
     names = FIELD_NAMES.get(name, [])
     assert {key: getattr(raised.value, key) for key in names} == dict(zip(names, fields))
 
