@@ -60,7 +60,7 @@ TEST(CorvexName, EachKindKeepsItsOwnRules) {
   }
 }
 
-TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
+TEST(CharClass, MatchesAsTheNamesStoredPatternsAndAByteByByteSearchAtEveryLength) {
   const omu_CorvexName name;
   for (const std::string_view view :
        {name.LeadingPattern(), name.WideForbiddenPattern(), name.NarrowForbiddenPattern()}) {
@@ -72,10 +72,7 @@ TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
           << view << " byte " << byte;
     }
   }
-}
-
-// Texts of every length around the sixteen-byte steps, each searched byte by byte beside.
-TEST(CharClass, MatchesAsAByteByByteSearchAtEveryLength) {
+  // Texts of every length around the sixteen-byte steps, each searched byte by byte beside.
   const std::string members = "\x01\"./\\~\x7f\x80\xa0\xff";
   const omu_CharClass compiled = omu_CharClass::Of(members);
   std::mt19937 random(7);

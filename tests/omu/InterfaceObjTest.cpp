@@ -39,9 +39,7 @@ TEST_F(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDeriv
   EXPECT_FALSE(deprecated);
   EXPECT_EQ(part.MemberList(), (cow_List<cow_String>{"_secret", "kind", "name"}));
   EXPECT_EQ(part.MethodList(), cow_List<cow_String>{"regenerate"});
-}
-
-TEST_F(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {
+  // A deprecated name answers only while allowed.
   EXPECT_EQ(Member(part, "partName"), "null");
   omu_Deprecation::SetAllowed(true);
   const CapturedErrors errors;

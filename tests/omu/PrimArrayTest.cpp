@@ -54,7 +54,7 @@ TEST(PrimArray, FailureTexts) {
             "PrimArray can't allocate memory for array (data)\n");
 }
 
-TEST(PrimArray, FromNestedSequencesWithTypeFitting) {
+TEST(PrimArray, FromNestedSequencesWithTypeFittingAndRaggedOrForeignOnesRefused) {
   const auto ints = Nest({TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2)}),
                           TupleOf({new omu_PrimNumber(3), new omu_PrimNumber(4)})});
   const omu_PrimArray intArray(ints);
@@ -69,9 +69,6 @@ TEST(PrimArray, FromNestedSequencesWithTypeFitting) {
   const omu_PrimArray fromArray(omu_PrimList(cow_List<int>{5, 6}, '('));
   const omu_PrimArray again(fromArray);
   EXPECT_TRUE(omu_PrimArray(static_cast<const omu_PrimSequence&>(again)) == fromArray);
-}
-
-TEST(PrimArray, RaggedOrForeignInputIsRefusedWithItsMessage) {
   struct Case {
     omu_PrimTuple input;
     const char* reason;

@@ -106,7 +106,7 @@ TEST(PrimType, TypeNameAndDisplayKinds) {
 }
 
 // Member dictionaries through archives are tests/mdl/ArchiveIdentityTest.cpp's.
-TEST(PrimWrapper, CopiesTheWrappedObjectAndItsMembersThroughPersistence) {
+TEST(PrimWrapper, CopiesTheWrappedObjectAndItsMembersThroughPersistenceButNotItself) {
   const omu_QueryPathMsg message("mdb.models['M']", "no such part");
   omu_PrimWrapper borrowed(&message, omu_QueryPathMsg::TypeId());
   borrowed.MemberDict().Put(7, "count");
@@ -122,9 +122,7 @@ TEST(PrimWrapper, CopiesTheWrappedObjectAndItsMembersThroughPersistence) {
   EXPECT_EQ(*static_cast<const omu_QueryPathMsg*>(loaded->Object()), message);
   const std::unique_ptr<omu_Primitive> none(omu_PrimWrapper().Copy());
   EXPECT_EQ(static_cast<const omu_PrimWrapper&>(*none).Object(), nullptr);
-}
-
-TEST(PrimWrapper, AWrapperThatWrapsItselfInAnArchiveIsRefused) {
+  // A wrapper that wraps itself in an archive is refused.
   struct SelfWrapper {
     void DBWrite(const cls_WriteVisitor& w) const {
       if (!w.StartWrite(omu_PrimWrapper::TypeId(), cls_Uid(77))) return;

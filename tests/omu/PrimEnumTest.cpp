@@ -29,17 +29,14 @@ TEST(PrimEnum, RefusalsCarryTheirExactMessages) {
   }
 }
 
-TEST(PrimEnum, SetValueReportsFailureAndKeepsTheValue) {
+TEST(PrimEnum, AFailedSetKeepsTheValueAndNamesGiveValuesAndJoinForMessages) {
   BoolSelect select(omu_BOOL_SELECT_TRUE_FALSE);
   EXPECT_FALSE(select.SetValue("on_off"));
   EXPECT_FALSE(select.SetValue(static_cast<omu_BoolSelectEnum>(7)));
   EXPECT_STREQ(select.GetString(), "TRUE_FALSE");
   EXPECT_TRUE(select.SetValue("ON_OFF"));
   EXPECT_TRUE(select == omu_BOOL_SELECT_ON_OFF);
-}
-
-// Their text is PrimScalarTest's.
-TEST(PrimEnum, NamesGiveTheirValuesAndJoinForMessages) {
+  // The constants' text is PrimScalarTest's.
   EXPECT_FALSE(static_cast<bool>(OnOff(cow_String("OFF"))));
   EXPECT_TRUE(static_cast<bool>(OnOff(cow_String("ON"))));
   EXPECT_EQ(Formulation(mdl_Model::TOTAL).TypeString(), "NOT_SET, SCATTERED or TOTAL");
