@@ -24,7 +24,7 @@ constexpr const char* kInvalidJob = "invalid job name";
 constexpr const char* kInvalidModel = "invalid model name";
 }  // namespace
 
-TEST(CorvexName, LengthLimitsPerKind) {
+TEST(CorvexName, EachKindKeepsItsOwnLengthLimitAndRules) {
   const struct {
     int kind;
     std::size_t longest;
@@ -39,9 +39,6 @@ TEST(CorvexName, LengthLimitsPerKind) {
   }
   EXPECT_EQ(Verdict("", 8), "ok");  // kinds above 7 are not checked
   EXPECT_EQ(Verdict("1.\"", 8), "ok");
-}
-
-TEST(CorvexName, EachKindKeepsItsOwnRules) {
   const struct {
     const char* name;
     const char* verdicts;  // one character per kind 0-7: '.' ok, 'x' refused

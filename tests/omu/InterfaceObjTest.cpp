@@ -95,7 +95,7 @@ TEST_F(InterfaceObj, DefaultReprNamesTheObjectAndWarnsWhenUsed) {
             "featureType>\n");
 }
 
-TEST_F(InterfaceObj, TypeTestsGoThroughTheExposedTypeRegistry) {
+TEST_F(InterfaceObj, TypeTestsAndTextGoThroughTheExposedTypeRegistryTextWithinItsLimits) {
   omu_TypeRegistryCache& registry = omu_TypeRegistryCache::Instance();
   EXPECT_TRUE(part.IsA("CorvexObject"));
   EXPECT_TRUE(part.IsA("Feature"));
@@ -109,10 +109,7 @@ TEST_F(InterfaceObj, TypeTestsGoThroughTheExposedTypeRegistry) {
   EXPECT_EQ(part.ExposedTypeName(), "Part");
   omu_TypeRegistryCache::Release();
   EXPECT_FALSE(omu_TypeRegistryCache::Instance().IsExposed("Part"));
-}
-
-// The text limits, on the objects they are for.
-TEST_F(InterfaceObj, PrintsItsMembersWithinTheTextLimits) {
+  // The text limits, on the objects they are for.
   omu_TextRepr& repr = omu_TextRepr::Instance();
   EXPECT_EQ(part.AsString(0), "{'kind': FeatureType, 'name': Part-1Type}");
   EXPECT_EQ(part.AsString(1), "' object'");  // nested: the exposed type name, none yet
