@@ -29,14 +29,11 @@ def test_method_is_a_bound_callable_through_its_handler(material, failure):
     assert failure(material.sort) == (TypeError, ("sort; not all required arguments specified; expected 1, got 0",))
 
 
-def test_dir_lists_what_the_object_answers(material, section):
+def test_dir_lists_what_the_object_answers_and_repr_is_the_libraries_text(material, section):
     for thing in (material, section):
         names = dir(thing)
         assert names == sorted(names) and all(hasattr(thing, name) for name in names)
     assert {"elastic", "sort"} <= set(dir(material)) and {"thickness", "nextStep"} <= set(dir(section))
-
-
-def test_repr_is_the_libraries_text(material, section):
     assert repr(material) == STEEL and cvxutils.text(material) == STEEL
     assert repr(section) == "mdb.models['Model-1'].sections['Shell-1']"
 

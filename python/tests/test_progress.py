@@ -39,11 +39,8 @@ def test_python_reporter_receives_the_reports_in_order(material, recorder):
     # Midpoints of the widest gap each time: 60, then 40 (first of two equal gaps), then 80.
     assert [row[2] for row in material.elastic] == [20.0, 40.0, 60.0, 80.0, 100.0]
     assert material.elastic[2] == (195e9, 0.3, 60.0)
-
-
-def test_reporter_methods_may_be_missing(material):
-    with cvxutils.install_reporter(object()):
-        assert cvxutils.densifyMaterial("Steel", 4) == 6
+    with cvxutils.install_reporter(object()):  # a reporter's methods may be missing
+        assert cvxutils.densifyMaterial("Steel", 4) == 9
 
 
 def test_install_reporter_nests_restores_and_is_per_thread():
