@@ -146,7 +146,7 @@ TEST(Binding, ScalarReadsByPositionAndByKeyword) {
   for (const auto& c : cases) EXPECT_EQ(c.got, c.outcome) << c.what;
 }
 
-TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNone) {
+TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNoneAndComposedNames) {
   const omu_PrimNone none;
   int walked = 0;
   omu_BindingTypes::ForEach([&](auto type) {
@@ -167,11 +167,8 @@ TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNone) {
     }
   });
   EXPECT_GT(walked, 30);  // the list was walked
-}
-
-// The names built from other bindings' names or shared with them. A number's is "int" or "float"
-// by one test of its kind, which the reads above and ArgumentsTest show.
-TEST(Binding, ComposedExpectedNames) {
+  // The names built from other bindings' names or shared with them. A number's is "int" or
+  // "float" by one test of its kind, which the reads above and ArgumentsTest show.
   const std::pair<std::string, const char*> cases[] = {
       {NameOf<cow_List<bool>>(), "sequence of Boolean"},
       {NameOf<cow_List<atr_String>>(), "sequence of string"},

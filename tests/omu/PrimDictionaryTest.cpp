@@ -13,7 +13,7 @@ std::string Read(const StrDict& dict, const char* key, T value = T()) {
 
 // BindingTest reads every number kind through a dictionary, here the other kinds; copies and
 // their identities are tests/mdl/ArchiveIdentityTest.cpp's.
-TEST(PrimDictionary, TypedReadsTakeOnlyTheirKinds) {
+TEST(PrimDictionary, TypedReadsTakeOnlyTheirKindsAndEqualityAndTextIgnoreInsertionOrder) {
   StrDict dict;
   dict.Put(3, "int");
   dict.Put(cow_String("it's"), "text");
@@ -30,9 +30,6 @@ TEST(PrimDictionary, TypedReadsTakeOnlyTheirKinds) {
   };
   for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
   EXPECT_TRUE(dict.Get("missing").IsType('n'));
-}
-
-TEST(PrimDictionary, EqualityAndTextIgnoreInsertionOrder) {
   StrDict first;
   first.Put(1, "b");
   first.Put(cow_String("x"), "a");
