@@ -18,7 +18,7 @@ const double kMatrix[] = {1, 2, 3, 4};
 const int kTwoByTwo[] = {2, 2};
 }  // namespace
 
-TEST(PrimArray, IndexingSharesTheNumbers) {
+TEST(PrimArray, IndexingSharesTheNumbersAndFailuresHaveTheirTexts) {
   omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
   EXPECT_EQ(matrix.Length(), 2);
   EXPECT_EQ(matrix.ConstGetArraySize(), 32);
@@ -31,10 +31,6 @@ TEST(PrimArray, IndexingSharesTheNumbers) {
   EXPECT_EQ(number->AsString(0), "4.0");
   EXPECT_EQ(matrix.ConstGetDouble(0, 1), 2.0);
   EXPECT_EQ(matrix.ConstGetInt(1, 0), 9);
-}
-
-TEST(PrimArray, FailureTexts) {
-  const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
   const int empty[] = {0}, negative[] = {-1}, huge[] = {65536, 65536};
   const omu_PrimArray noDims(0, empty, kMatrix);
   EXPECT_EQ(noDims.Length(), 0);
