@@ -106,12 +106,10 @@ TEST(Binding, ThePutOverloadsStayExact) {
   tuple.Put(static_cast<short>(1));
   tuple.Put(2u);
   tuple.PutValue(1.5f);
-  const omu_PrimNumber::DataTypeEnm stored[] = {omu_PrimNumber::DOUBLE, omu_PrimNumber::INT,
-                                                omu_PrimNumber::SHORT, omu_PrimNumber::UINT,
-                                                omu_PrimNumber::FLOAT};
-  for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(static_cast<const omu_PrimNumber*>(tuple.Index(i))->DataType(), stored[i]) << i;
-  }
+  using N = omu_PrimNumber;
+  const N::DataTypeEnm stored[] = {N::DOUBLE, N::INT, N::SHORT, N::UINT, N::FLOAT};
+  for (int i = 0; i < 5; ++i)
+    EXPECT_EQ(static_cast<const N*>(tuple.Index(i))->DataType(), stored[i]) << i;
 }
 
 // A positional read takes only its exact kind (a Boolean any integer kind but UINT, if 0 or 1);

@@ -53,7 +53,6 @@ TEST(PrimTuple, TextFollowsTheOneElementCommaRule) {
   omu_PrimTuple holey(3);
   holey.Put(new omu_PrimNumber(1));  // slots 1 and 2 stay empty
   EXPECT_EQ(holey.AsString(0), "(1,)");
-  EXPECT_EQ(omu_PrimTuple(0).AsString(0), "()");
   EXPECT_EQ(TupleOf({new omu_PrimNumber(1), StringOf("a")}).AsRepr(), "(1, 'a')");
   omu_TextRepr::Instance().SetMaxElementsInSequence(2);
   EXPECT_EQ(ListOf({1, 2, 3}).AsString(0), "(1, 2)");
