@@ -200,23 +200,21 @@ TEST(Arguments, DeprecatedKeywordsOnlyWhileAllowed) {
   EXPECT_EQ(Outcome(args), "ok");
 }
 
-TEST(Arguments, TextShowsPositionsThenKeywords) {
+TEST(Arguments, TextShowsPositionsThenKeywordsAndObjectsAreReadByScriptType) {
   omu_Arguments args = Call({1}, {{"name", "Part-1"}});
   args.Put(true, "flag");
   EXPECT_EQ(args.AsString(0), "(1, flag=True, name='Part-1')");
   EXPECT_EQ(args.StoredKeywords(), (cow_List<cow_String>{"name", "flag"}));
   EXPECT_EQ(Call({}).AsString(0), "()");
-}
-
-TEST(Arguments, InterfaceObjectsByScriptType) {
+  // Interface objects are read by their script type.
   const auto data = std::make_shared<TestPartData>();
-  omu_Arguments args(1);
-  args.Put(new TestPart(data));
-  args.Put(new TestFeature(data, omu_Shortcut("f")), "other");
-  args.Begin();
-  const omu_InterfaceObj* part = args.Get("Part", nullptr, "part");
+  omu_Arguments objects(1);
+  objects.Put(new TestPart(data));
+  objects.Put(new TestFeature(data, omu_Shortcut("f")), "other");
+  objects.Begin();
+  const omu_InterfaceObj* part = objects.Get("Part", nullptr, "part");
   ASSERT_NE(part, nullptr);
   EXPECT_EQ(part->TypeString(), "Part");
-  EXPECT_EQ(args.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
-  EXPECT_EQ(Outcome(args), "TypeError: other; found Feature, expecting Part");
+  EXPECT_EQ(objects.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
+  EXPECT_EQ(Outcome(objects), "TypeError: other; found Feature, expecting Part");
 }

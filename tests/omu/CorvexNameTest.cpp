@@ -83,13 +83,13 @@ TEST(CharClass, MatchesAsTheNamesStoredPatternsAndAByteByByteSearchAtEveryLength
   }
 }
 
-TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
+TEST(CorvexName, GuiNamesRepairTowardsTheShortRulesAndQuotingOnlyWherePiecesNeedIt) {
   const struct {
     const char* name;
     const char* replacements;
     bool legal;
     const char* result;
-  } cases[] = {
+  } repairs[] = {
       {"a.b\"c\\d", "-qd/__", true, "adbqc/d"},
       {"__x__", "......", true, "x"},
       {"_x_", "yyyyab", true, "axb"},
@@ -107,14 +107,12 @@ TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
       {"_a_", "xxxx_x", false, "_a_"},
       {"\"a", "x_xx\"x", false, "\"a"},
   };
-  for (const auto& c : cases) {
+  for (const auto& c : repairs) {
     cow_String name(c.name);
     EXPECT_EQ(omu_CorvexName::MakeLegalGuiName(name, c.replacements), c.legal) << c.name;
     EXPECT_EQ(name, c.result) << c.name;
   }
-}
-
-TEST(QuoteIfNeeded, QuotesOnlyThePiecesThatNeedIt) {
+  // Quoting only the pieces of a dotted name that need it.
   const struct {
     const char* in;
     const char* out;
