@@ -46,12 +46,8 @@ void Check(bool holds) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const bool started = [] {
-    int count = 0;
-    UTI_CaeUtils_initialize(count);
-    return true;
-  }();
-  (void)started;
+  static int count = 0;
+  [[maybe_unused]] static const bool started = (UTI_CaeUtils_initialize(count), true);
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   const bool payloadOnly = size > 0 && (data[0] & 1) != 0;
   const std::string bytes =

@@ -1,4 +1,5 @@
-"""Set-up the whole suite shares: a fresh model and journal for each test, the usual objects."""
+"""Set-up the whole suite shares: a fresh model and journal for each test, the usual objects,
+and the failure of a call, as (class, args), for an exact check of both."""
 import pytest
 
 import cvxutils
@@ -18,3 +19,12 @@ def material():
 @pytest.fixture
 def section():
     return cvxutils.createSection("Shell-1", 2.0, "Steel")
+
+
+@pytest.fixture
+def failure():
+    def raised(call, *args, **kwargs):
+        with pytest.raises(Exception) as info:
+            call(*args, **kwargs)
+        return type(info.value), info.value.args
+    return raised

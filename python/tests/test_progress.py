@@ -39,39 +39,22 @@ def test_python_reporter_receives_the_reports_in_order(material, recorder):
     # Midpoints of the widest gap each time: 60, then 40 (first of two equal gaps), then 80.
     assert [row[2] for row in material.elastic] == [20.0, 40.0, 60.0, 80.0, 100.0]
     assert material.elastic[2] == (195e9, 0.3, 60.0)
+    with cvxutils.install_reporter(object()):  # a reporter's methods may be missing
+        assert cvxutils.densifyMaterial("Steel", 4) == 9
 
 
-def test_reporter_methods_may_be_missing(material):
-    with cvxutils.install_reporter(object()):
-        assert cvxutils.densifyMaterial("Steel", 4) == 6
-
-
-def test_reporter_exception_reaches_the_script_and_the_task_leaves_nothing(material):
-    before = material.elastic
-    with cvxutils.install_reporter(Recorder(fail_at=2)):
-        with pytest.raises(ValueError, match="reporter gave up at 2"):
-            cvxutils.densifyMaterial("Steel", 5)
-    assert material.elastic == before
-    assert cvxutils.journal()[-1] == "# densifyMaterial('Steel', 5)  -> ValueError: reporter gave up at 2"
-
-
-def test_install_reporter_nests_and_restores():
-    first, second = Recorder(), Recorder()
+def test_install_reporter_nests_restores_and_is_per_thread():
+    first, second, seen = Recorder(), Recorder(), []
     assert cvxutils.reporter() is None
     with cvxutils.install_reporter(first) as installed:
         assert installed is first and cvxutils.reporter() is first
         with cvxutils.install_reporter(second):
             assert cvxutils.reporter() is second
-        assert cvxutils.reporter() is first
+            worker = threading.Thread(target=lambda: seen.append(cvxutils.reporter()))
+            worker.start()
+            worker.join()
+        assert cvxutils.reporter() is first and seen == [None]
     assert cvxutils.reporter() is None
-
-
-def test_reporters_are_per_thread(material, recorder):
-    seen = []
-    worker = threading.Thread(target=lambda: seen.append(cvxutils.reporter()))
-    worker.start()
-    worker.join()
-    assert seen == [None] and cvxutils.reporter() is recorder
 
 
 def test_console_reporter_draws_the_task(material, capfd):
@@ -85,33 +68,35 @@ def test_console_reporter_draws_the_task(material, capfd):
         cvxutils.ConsoleReporter("fancy")
 
 
-# One row per reporter the interrupted task reports to: none installed (the module's silent
-# one), a Python reporter, the console reporter.
-@pytest.mark.parametrize("make_reporter", [lambda: None, Recorder,
-                                           lambda: cvxutils.ConsoleReporter("plain")],
-                         ids=["none", "python", "console"])
-def test_ctrl_c_stops_the_task_and_leaves_the_model_as_it_was(material, make_reporter):
+def requested_interrupt():
+    console = cvxutils.ConsoleReporter("plain")
+    console.request_interrupt()
+    return console
+
+
+# One row per way a task stops and the error the script gets: Ctrl-C with no reporter installed
+# (the module's silent one), a Python reporter or the console reporter; a Python reporter that
+# raises; an interrupt the console reporter was asked for.
+@pytest.mark.parametrize("make_reporter, ctrl_c, error, message", [
+    (lambda: None, True, KeyboardInterrupt, ""), (Recorder, True, KeyboardInterrupt, ""),
+    (lambda: cvxutils.ConsoleReporter("plain"), True, KeyboardInterrupt, ""),
+    (lambda: Recorder(fail_at=1000), False, ValueError, "reporter gave up at 1000"),
+    (requested_interrupt, False, RuntimeError, "Operation interrupted by the user."),
+], ids=["ctrl-c", "ctrl-c python", "ctrl-c console", "reporter raises", "requested"])
+def test_a_stopped_task_leaves_the_model_as_it_was(material, make_reporter, ctrl_c, error, message):
     before, reporter = cvxutils.modelArchive(), make_reporter()
     timer = threading.Timer(0.3, os.kill, (os.getpid(), signal.SIGINT))
     with cvxutils.install_reporter(reporter):
-        timer.start()
+        if ctrl_c:
+            timer.start()
         try:
-            with pytest.raises(KeyboardInterrupt):
+            with pytest.raises(error) as raised:
                 cvxutils.densifyMaterial("Steel", 1_000_000)
         finally:
             timer.cancel()
     assert cvxutils.modelArchive() == before
-    assert cvxutils.journal()[-1].startswith("# densifyMaterial('Steel', 1000000)  -> KeyboardInterrupt")
+    assert cvxutils.journal()[-1] == f"# densifyMaterial('Steel', 1000000)  -> {error.__name__}: {message}"
+    assert str(raised.value) == message
     if isinstance(reporter, Recorder):
         steps = reporter.reports.count(("interrupted",))
         assert 0 < steps < 1_000_000  # stopped in the middle, not before or after
-
-
-def test_console_reporter_interrupt_request_stops_the_task(material):
-    before = cvxutils.modelArchive()
-    console = cvxutils.ConsoleReporter("plain")
-    console.request_interrupt()
-    with cvxutils.install_reporter(console):
-        with pytest.raises(RuntimeError, match="Operation interrupted by the user."):
-            cvxutils.densifyMaterial("Steel", 5)
-    assert cvxutils.modelArchive() == before

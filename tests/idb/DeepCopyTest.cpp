@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(DeepCopy, ANewObjectEqualToTheOriginal) {
+TEST(DeepCopy, MakesANewEqualObjectAndRefusesAnUnknownClass) {
   mdl_Repository original("parts");
   original.AddKey("Part-1");
   void* copy = idb_DeepCopy(&original, mdl_Repository::TypeId());
@@ -16,9 +16,6 @@ TEST(DeepCopy, ANewObjectEqualToTheOriginal) {
   EXPECT_EQ(*static_cast<mdl_Repository*>(copy), original);
   cls_MetadataRegistrar::Instance().Registrar().Get(mdl_Repository::TypeId()).Destroy(copy);
   EXPECT_EQ(idb_DeepCopy(nullptr, mdl_Repository::TypeId()), nullptr);
-}
-
-TEST(DeepCopy, AnUnregisteredClassIsRefused) {
   int value = 0;
   EXPECT_THROW(idb_DeepCopy(&value, 0x7fff0009u), nex_TextException);
 }

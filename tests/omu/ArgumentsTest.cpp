@@ -5,7 +5,6 @@
 #include <omu_BindingTypes.h>
 #include <omu_Deprecation.h>
 #include <omu_Get.h>
-#include <omu_ReturnPrim.h>
 
 #include <algorithm>
 #include <type_traits>
@@ -152,12 +151,7 @@ TEST(Arguments, KeywordsStoredDuringAReadingCountFromTheNextBegin) {
   args.Put(3, "b");
   args.Get(b, "b");
   EXPECT_TRUE(args.ErrorOnPrevious());  // stored after Begin: not claimable yet
-  args.Begin();
-  args.Get(a, "a");
-  args.Get(b, "b");
-  EXPECT_EQ(a, 2);
-  EXPECT_EQ(b, 3);
-  EXPECT_EQ(Outcome(args), "ok");
+  EXPECT_EQ(Reads(args, {"i:a", "i:b"}), "2 3 ok");
 }
 
 // Calls of more keywords than are indexed in place go through the hash table.
@@ -206,33 +200,21 @@ TEST(Arguments, DeprecatedKeywordsOnlyWhileAllowed) {
   EXPECT_EQ(Outcome(args), "ok");
 }
 
-TEST(Arguments, TextShowsPositionsThenKeywords) {
+TEST(Arguments, TextShowsPositionsThenKeywordsAndObjectsAreReadByScriptType) {
   omu_Arguments args = Call({1}, {{"name", "Part-1"}});
   args.Put(true, "flag");
   EXPECT_EQ(args.AsString(0), "(1, flag=True, name='Part-1')");
   EXPECT_EQ(args.StoredKeywords(), (cow_List<cow_String>{"name", "flag"}));
   EXPECT_EQ(Call({}).AsString(0), "()");
-  EXPECT_EQ(Call({7}).AsString(0), "(7)");
-}
-
-TEST(Arguments, InterfaceObjectsByScriptType) {
+  // Interface objects are read by their script type.
   const auto data = std::make_shared<TestPartData>();
-  omu_Arguments args(1);
-  args.Put(new TestPart(data));
-  args.Put(new TestFeature(data, omu_Shortcut("f")), "other");
-  args.Begin();
-  const omu_InterfaceObj* part = args.Get("Part", nullptr, "part");
+  omu_Arguments objects(1);
+  objects.Put(new TestPart(data));
+  objects.Put(new TestFeature(data, omu_Shortcut("f")), "other");
+  objects.Begin();
+  const omu_InterfaceObj* part = objects.Get("Part", nullptr, "part");
   ASSERT_NE(part, nullptr);
   EXPECT_EQ(part->TypeString(), "Part");
-  EXPECT_EQ(args.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
-  EXPECT_EQ(Outcome(args), "TypeError: other; found Feature, expecting Part");
-}
-
-TEST(Collections, ResultsComeBackAsNumbersAndStrings) {
-  const std::unique_ptr<omu_PrimList> list(omu_ReturnPrim(cow_List<double>{1.0, 2.5}));
-  EXPECT_EQ(list->AsString(0), "(1.0, 2.5)");
-  const std::unique_ptr<omu_PrimList> ints(omu_ReturnPrim(cow_List<int>{7}));
-  EXPECT_EQ(ints->AsString(0), "(7,)");
-  const std::unique_ptr<omu_PrimTuple> rows(omu_ReturnPrim(cow_2DArray<cow_String>(1, 2, "a")));
-  EXPECT_EQ(rows->AsString(0), "(('a', 'a'),)");
+  EXPECT_EQ(objects.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
+  EXPECT_EQ(Outcome(objects), "TypeError: other; found Feature, expecting Part");
 }

@@ -106,12 +106,10 @@ TEST(Binding, ThePutOverloadsStayExact) {
   tuple.Put(static_cast<short>(1));
   tuple.Put(2u);
   tuple.PutValue(1.5f);
-  const omu_PrimNumber::DataTypeEnm stored[] = {omu_PrimNumber::DOUBLE, omu_PrimNumber::INT,
-                                                omu_PrimNumber::SHORT, omu_PrimNumber::UINT,
-                                                omu_PrimNumber::FLOAT};
-  for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(static_cast<const omu_PrimNumber*>(tuple.Index(i))->DataType(), stored[i]) << i;
-  }
+  using N = omu_PrimNumber;
+  const N::DataTypeEnm stored[] = {N::DOUBLE, N::INT, N::SHORT, N::UINT, N::FLOAT};
+  for (int i = 0; i < 5; ++i)
+    EXPECT_EQ(static_cast<const N*>(tuple.Index(i))->DataType(), stored[i]) << i;
 }
 
 // A positional read takes only its exact kind (a Boolean any integer kind but UINT, if 0 or 1);
@@ -146,7 +144,7 @@ TEST(Binding, ScalarReadsByPositionAndByKeyword) {
   for (const auto& c : cases) EXPECT_EQ(c.got, c.outcome) << c.what;
 }
 
-TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNone) {
+TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNoneAndComposedNames) {
   const omu_PrimNone none;
   int walked = 0;
   omu_BindingTypes::ForEach([&](auto type) {
@@ -167,11 +165,8 @@ TEST(Binding, EveryListedTypeTakesBackWhatItMakesAndRefusesNone) {
     }
   });
   EXPECT_GT(walked, 30);  // the list was walked
-}
-
-// The names built from other bindings' names or shared with them. A number's is "int" or "float"
-// by one test of its kind, which the reads above and ArgumentsTest show.
-TEST(Binding, ComposedExpectedNames) {
+  // The names built from other bindings' names or shared with them. A number's is "int" or
+  // "float" by one test of its kind, which the reads above and ArgumentsTest show.
   const std::pair<std::string, const char*> cases[] = {
       {NameOf<cow_List<bool>>(), "sequence of Boolean"},
       {NameOf<cow_List<atr_String>>(), "sequence of string"},

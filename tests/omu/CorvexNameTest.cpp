@@ -24,7 +24,7 @@ constexpr const char* kInvalidJob = "invalid job name";
 constexpr const char* kInvalidModel = "invalid model name";
 }  // namespace
 
-TEST(CorvexName, LengthLimitsPerKind) {
+TEST(CorvexName, EachKindKeepsItsOwnLengthLimitAndRules) {
   const struct {
     int kind;
     std::size_t longest;
@@ -39,9 +39,6 @@ TEST(CorvexName, LengthLimitsPerKind) {
   }
   EXPECT_EQ(Verdict("", 8), "ok");  // kinds above 7 are not checked
   EXPECT_EQ(Verdict("1.\"", 8), "ok");
-}
-
-TEST(CorvexName, EachKindKeepsItsOwnRules) {
   const struct {
     const char* name;
     const char* verdicts;  // one character per kind 0-7: '.' ok, 'x' refused
@@ -60,7 +57,7 @@ TEST(CorvexName, EachKindKeepsItsOwnRules) {
   }
 }
 
-TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
+TEST(CharClass, MatchesAsTheNamesStoredPatternsAndAByteByByteSearchAtEveryLength) {
   const omu_CorvexName name;
   for (const std::string_view view :
        {name.LeadingPattern(), name.WideForbiddenPattern(), name.NarrowForbiddenPattern()}) {
@@ -72,10 +69,7 @@ TEST(CorvexName, CompiledClassesAnswerAsTheStoredPatterns) {
           << view << " byte " << byte;
     }
   }
-}
-
-// Texts of every length around the sixteen-byte steps, each searched byte by byte beside.
-TEST(CharClass, MatchesAsAByteByByteSearchAtEveryLength) {
+  // Texts of every length around the sixteen-byte steps, each searched byte by byte beside.
   const std::string members = "\x01\"./\\~\x7f\x80\xa0\xff";
   const omu_CharClass compiled = omu_CharClass::Of(members);
   std::mt19937 random(7);
@@ -89,13 +83,13 @@ TEST(CharClass, MatchesAsAByteByByteSearchAtEveryLength) {
   }
 }
 
-TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
+TEST(CorvexName, GuiNamesRepairTowardsTheShortRulesAndQuotingOnlyWherePiecesNeedIt) {
   const struct {
     const char* name;
     const char* replacements;
     bool legal;
     const char* result;
-  } cases[] = {
+  } repairs[] = {
       {"a.b\"c\\d", "-qd/__", true, "adbqc/d"},
       {"__x__", "......", true, "x"},
       {"_x_", "yyyyab", true, "axb"},
@@ -107,27 +101,18 @@ TEST(MakeLegalGuiName, RepairsTowardsTheShortRules) {
        "N12345678901234567890123456789012345678"},
       // Control bytes are left alone.
       {"a\tb", "xxxxxx", true, "a\tb"},
+      // Replacements that recreate their fault give up, the name untouched, instead of looping.
+      {"9a", "5xxxxx", false, "9a"},
+      {"a\"b", "x\"xxxx", false, "a\"b"},
+      {"_a_", "xxxx_x", false, "_a_"},
+      {"\"a", "x_xx\"x", false, "\"a"},
   };
-  for (const auto& c : cases) {
+  for (const auto& c : repairs) {
     cow_String name(c.name);
     EXPECT_EQ(omu_CorvexName::MakeLegalGuiName(name, c.replacements), c.legal) << c.name;
     EXPECT_EQ(name, c.result) << c.name;
   }
-}
-
-TEST(MakeLegalGuiName, ReplacementsThatRecreateTheirFaultGiveUpInsteadOfLooping) {
-  const struct {
-    const char* name;
-    const char* replacements;
-  } cases[] = {{"9a", "5xxxxx"}, {"a\"b", "x\"xxxx"}, {"_a_", "xxxx_x"}, {"\"a", "x_xx\"x"}};
-  for (const auto& c : cases) {
-    cow_String name(c.name);
-    EXPECT_FALSE(omu_CorvexName::MakeLegalGuiName(name, c.replacements)) << c.replacements;
-    EXPECT_EQ(name, c.name);
-  }
-}
-
-TEST(QuoteIfNeeded, QuotesOnlyThePiecesThatNeedIt) {
+  // Quoting only the pieces of a dotted name that need it.
   const struct {
     const char* in;
     const char* out;

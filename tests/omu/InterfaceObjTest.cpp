@@ -10,22 +10,24 @@
 #include <cstdlib>
 
 namespace {
-std::shared_ptr<TestPartData> NewPart() { return std::make_shared<TestPartData>(); }
-
 // The member's text, or "null" when there is no such member.
 std::string Member(const omu_InterfaceObj& object, const char* name) {
   bool deprecated = false;
   const std::unique_ptr<omu_Primitive> owned(object.GetMember(name, deprecated));
   return owned ? Text(*owned) + (deprecated ? " (deprecated)" : "") : "null";
 }
+
+// A part on a record of its own, as most tests need one.
+class InterfaceObj : public ::testing::Test {
+protected:
+  const std::shared_ptr<TestPartData> data = std::make_shared<TestPartData>();
+  TestPart part{data};
+};
 }  // namespace
 
-TEST(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived) {
-  TestPart part(NewPart());
-  EXPECT_EQ(part.TypeLevels(), 2);
-  EXPECT_EQ(part.TypeString(), "Part");
+TEST_F(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived) {
   EXPECT_EQ(part.BaseType(), "Feature");
-  EXPECT_EQ(omu_PrimType(part).AsString(0), "PartType");
+  EXPECT_EQ(omu_PrimType(part).AsString(0), "PartType");  // the type string, as a script sees it
   part.DescribeType("Part", nullptr, nullptr);  // described twice: counts once
   EXPECT_EQ(part.TypeLevels(), 2);
   EXPECT_EQ(Member(part, "name"), "Part-1Type");  // the part level's row
@@ -37,10 +39,7 @@ TEST(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived
   EXPECT_FALSE(deprecated);
   EXPECT_EQ(part.MemberList(), (cow_List<cow_String>{"_secret", "kind", "name"}));
   EXPECT_EQ(part.MethodList(), cow_List<cow_String>{"regenerate"});
-}
-
-TEST(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {
-  TestPart part(NewPart());
+  // A deprecated name answers only while allowed.
   EXPECT_EQ(Member(part, "partName"), "null");
   omu_Deprecation::SetAllowed(true);
   const CapturedErrors errors;
@@ -49,18 +48,16 @@ TEST(InterfaceObj, DeprecatedNamesOnlyWhileAllowed) {
   EXPECT_EQ(errors.Text(), "Warning: 'partName' is deprecated; use 'name' instead.\n");
 }
 
-TEST(InterfaceObj, IllegalArithmeticKeepsItsTwoTexts) {
-  TestPart a(NewPart());
-  TestPart b(NewPart());
-  EXPECT_EQ(Raised([&] { a.AddOperation(&b); }), "Error: Illegal operation for type");
-  EXPECT_EQ(Raised([&] { a.DivOperation(&b); }), "Error: Illegal operation for type");
-  EXPECT_EQ(Raised([&] { a.UnaryNegative(); }), "Error: Illegal operation for type.");
-  EXPECT_EQ(Raised([&] { a.Absolute(); }), "Error: Illegal operation for type.");
-  EXPECT_EQ(a.NonZero(), 1);
+TEST_F(InterfaceObj, IllegalArithmeticKeepsItsTwoTexts) {
+  TestPart other(data);
+  EXPECT_EQ(Raised([&] { part.AddOperation(&other); }), "Error: Illegal operation for type");
+  EXPECT_EQ(Raised([&] { part.DivOperation(&other); }), "Error: Illegal operation for type");
+  EXPECT_EQ(Raised([&] { part.UnaryNegative(); }), "Error: Illegal operation for type.");
+  EXPECT_EQ(Raised([&] { part.Absolute(); }), "Error: Illegal operation for type.");
+  EXPECT_EQ(part.NonZero(), 1);
 }
 
-TEST(InterfaceObj, StaleHandlesReportWhenAsked) {
-  TestPart part(NewPart());
+TEST_F(InterfaceObj, StaleHandlesReportWhenAsked) {
   {
     CapturedErrors errors;
     part.SetStale(true);
@@ -78,22 +75,19 @@ TEST(InterfaceObj, StaleHandlesReportWhenAsked) {
   EXPECT_NE(text.find("  mdb.models['M'].parts['Part-1']\n"), std::string::npos) << text;
 }
 
-TEST(InterfaceObj, PathsCompareAndDecideEqualityWhenTheRulesSaySo) {
-  const auto data = NewPart();
-  TestPart first(data);
+TEST_F(InterfaceObj, PathsCompareAndDecideEqualityWhenTheRulesSaySo) {
   TestPart second(data);
-  EXPECT_EQ(first.Compare(&second), 0);
-  EXPECT_EQ(first.ComparePath("mdb.models['M'].parts['Part-2']"), -1);
-  EXPECT_FALSE(first == second);  // other handle
-  EXPECT_TRUE(first == first);
+  EXPECT_EQ(part.Compare(&second), 0);
+  EXPECT_EQ(part.ComparePath("mdb.models['M'].parts['Part-2']"), -1);
+  EXPECT_FALSE(part == second);  // other handle
+  EXPECT_TRUE(part == part);
   TestPart byPath(data, omu_OperationRules(true));
   EXPECT_TRUE(byPath == second);
 }
 
-TEST(InterfaceObj, DefaultReprNamesTheObjectAndWarnsWhenUsed) {
-  TestPart part(NewPart());
+TEST_F(InterfaceObj, DefaultReprNamesTheObjectAndWarnsWhenUsed) {
   EXPECT_EQ(part.DefaultRepr(), "<Part object named Part-1Type>");
-  TestFeature feature(NewPart(), omu_Shortcut("f"));
+  TestFeature feature(data, omu_Shortcut("f"));
   CapturedErrors errors;
   EXPECT_EQ(feature.AsRepr(), "<Feature object named featureType>");
   EXPECT_EQ(errors.Text(),
@@ -101,8 +95,7 @@ TEST(InterfaceObj, DefaultReprNamesTheObjectAndWarnsWhenUsed) {
             "featureType>\n");
 }
 
-TEST(InterfaceObj, TypeTestsGoThroughTheExposedTypeRegistry) {
-  TestPart part(NewPart());
+TEST_F(InterfaceObj, TypeTestsAndTextGoThroughTheExposedTypeRegistryTextWithinItsLimits) {
   omu_TypeRegistryCache& registry = omu_TypeRegistryCache::Instance();
   EXPECT_TRUE(part.IsA("CorvexObject"));
   EXPECT_TRUE(part.IsA("Feature"));
@@ -116,11 +109,7 @@ TEST(InterfaceObj, TypeTestsGoThroughTheExposedTypeRegistry) {
   EXPECT_EQ(part.ExposedTypeName(), "Part");
   omu_TypeRegistryCache::Release();
   EXPECT_FALSE(omu_TypeRegistryCache::Instance().IsExposed("Part"));
-}
-
-// The text limits, on the objects they are for.
-TEST(InterfaceObj, PrintsItsMembersWithinTheTextLimits) {
-  TestPart part(NewPart());
+  // The text limits, on the objects they are for.
   omu_TextRepr& repr = omu_TextRepr::Instance();
   EXPECT_EQ(part.AsString(0), "{'kind': FeatureType, 'name': Part-1Type}");
   EXPECT_EQ(part.AsString(1), "' object'");  // nested: the exposed type name, none yet

@@ -18,16 +18,7 @@ const double kMatrix[] = {1, 2, 3, 4};
 const int kTwoByTwo[] = {2, 2};
 }  // namespace
 
-// INT and DOUBLE arrays' text is in python/tests/test_values.py.
-TEST(PrimArray, TextOfFloatAndEmptyArrays) {
-  const float floats[] = {0.5f, 1e-5f};
-  const int two[] = {2};
-  EXPECT_EQ(omu_PrimArray(1, two, floats).AsString(0), "array([0.5, 9.99999974737875e-06], 'f')");
-  const int none[] = {0};
-  EXPECT_EQ(omu_PrimArray(1, none, kMatrix).AsString(0), "array([], 'd')");
-}
-
-TEST(PrimArray, IndexingSharesTheNumbers) {
+TEST(PrimArray, IndexingSharesTheNumbersAndFailuresHaveTheirTexts) {
   omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
   EXPECT_EQ(matrix.Length(), 2);
   EXPECT_EQ(matrix.ConstGetArraySize(), 32);
@@ -40,10 +31,6 @@ TEST(PrimArray, IndexingSharesTheNumbers) {
   EXPECT_EQ(number->AsString(0), "4.0");
   EXPECT_EQ(matrix.ConstGetDouble(0, 1), 2.0);
   EXPECT_EQ(matrix.ConstGetInt(1, 0), 9);
-}
-
-TEST(PrimArray, FailureTexts) {
-  const omu_PrimArray matrix(2, kTwoByTwo, kMatrix);
   const int empty[] = {0}, negative[] = {-1}, huge[] = {65536, 65536};
   const omu_PrimArray noDims(0, empty, kMatrix);
   EXPECT_EQ(noDims.Length(), 0);
@@ -63,7 +50,7 @@ TEST(PrimArray, FailureTexts) {
             "PrimArray can't allocate memory for array (data)\n");
 }
 
-TEST(PrimArray, FromNestedSequencesWithTypeFitting) {
+TEST(PrimArray, FromNestedSequencesWithTypeFittingAndRaggedOrForeignOnesRefused) {
   const auto ints = Nest({TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2)}),
                           TupleOf({new omu_PrimNumber(3), new omu_PrimNumber(4)})});
   const omu_PrimArray intArray(ints);
@@ -78,9 +65,6 @@ TEST(PrimArray, FromNestedSequencesWithTypeFitting) {
   const omu_PrimArray fromArray(omu_PrimList(cow_List<int>{5, 6}, '('));
   const omu_PrimArray again(fromArray);
   EXPECT_TRUE(omu_PrimArray(static_cast<const omu_PrimSequence&>(again)) == fromArray);
-}
-
-TEST(PrimArray, RaggedOrForeignInputIsRefusedWithItsMessage) {
   struct Case {
     omu_PrimTuple input;
     const char* reason;

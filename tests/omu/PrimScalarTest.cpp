@@ -1,84 +1,76 @@
 #include "OmuTestSupport.h"
 
+#include <omu_PrimArray.h>
 #include <omu_PrimComplex.h>
+#include <omu_PrimEnum.h>
 #include <omu_PrimException.h>
 #include <omu_PrimPath.h>
 #include <omu_PrimTranslatedString.h>
+#include <omu_PrimType.h>
+#include <omu_ReturnPrim.h>
 
 #include <cmath>
 #include <limits>
 
-// The digits are NumberTextTest's; here what either floating kind's text adds to them.
-TEST(PrimNumber, FloatingText) {
-  const std::pair<double, const char*> cases[] = {
-      {2.0, "2.0"}, {-0.0, "-0.0"}, {0.1, "0.1"}, {1e20, "1e+20"},
-      {std::numeric_limits<double>::infinity(), "inf.0"}};
-  for (const auto& [value, text] : cases) {
-    EXPECT_EQ(omu_PrimNumber(value).AsString(0), text) << text;
-    EXPECT_EQ(omu_PrimNumber(value, omu_PrimNumber::FLOAT).AsString(0), text) << text;
-  }
+namespace {
+omu_Primitive* Translated(const char* text) {
+  return new omu_PrimTranslatedString(atr_String(text));
 }
+omu_Primitive* Complex(omi_complex value) { return new omu_PrimComplex(value); }
+}  // namespace
 
-TEST(PrimNumber, IntegerKindsTruncateToThirtyTwoBits) {
-  const std::tuple<double, omu_PrimNumber::DataTypeEnm, const char*> cases[] = {
-      {3.7, omu_PrimNumber::INT, "3"},           {-3.7, omu_PrimNumber::INT, "-3"},
-      {2147483647.0, omu_PrimNumber::INT, "2147483647"},
-      {2147483648.0, omu_PrimNumber::INT, "-2147483648"},
-      {-2147483648.9, omu_PrimNumber::INT, "-2147483648"},
-      {-1e300, omu_PrimNumber::SHORT, "-2147483648"},
-      {std::nan(""), omu_PrimNumber::SCHAR, "-2147483648"},
-      {4294967295.0, omu_PrimNumber::UINT, "4294967295"}};
-  for (const auto& [value, type, text] : cases) {
-    const omu_PrimNumber number(value, type);
-    EXPECT_TRUE(number.IsType('i'));
-    EXPECT_EQ(number.TypeString(), "int");
-    EXPECT_EQ(number.AsString(0), text) << text;
-  }
-}
-
-TEST(PrimString, QuotingOfEveryMix) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"", "''"},
-      {"say \"hi\"", "'say \"hi\"'"},
-      {"back\\slash", "'back\\\\slash'"},
-      {"it's\\\n", "\"it's\\\\\\n\""},
-      {"tab\there", "'tab\there'"},
-      {"'\"'", "'\\'\"\\''"}};
-  for (const auto& [text, quoted] : cases) {
-    EXPECT_EQ(omu_PrimString(cow_String(text)).AsString(0), quoted) << text;
-    EXPECT_EQ(omu_PrimTranslatedString(atr_String(text)).AsString(0), quoted) << text;
-  }
-}
-
-TEST(PrimString, ConstructorsFromNumbersAndConstants) {
-  EXPECT_EQ(omu_PrimString(-12).Text(), "-12");
-  EXPECT_EQ(omu_PrimString(4000000000u).Text(), "4000000000");
-  EXPECT_EQ(omu_PrimString(2.0).Text(), "2.0");
-  EXPECT_EQ(omu_PrimString(omu_OnOffConst(true)).Text(), "ON");
-}
-
-TEST(PrimComplex, PlusOnlyBeforeAZeroOrPositiveImaginaryPart) {
+// The text of each kind a script prints; the digits are NumberTextTest's, so here what either
+// floating kind adds to them. Containers' text is theirs and python/tests/test_values.py's.
+TEST(Primitive, TextOfEachKind) {
+  using N = omu_PrimNumber;
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double inf = std::numeric_limits<double>::infinity();
-  const std::pair<omi_complex, const char*> cases[] = {
-      {omi_complex(1, -2), "1-2j"},          {omi_complex(0.5, 0), "0.5+0j"},
-      {omi_complex(1, -0.0), "1+-0j"},       {omi_complex::FromPolar(2, 0), "2+0j"},
-      {omi_complex(1, nan), "1nanj"},        {omi_complex(1, -nan), "1-nanj"},
-      {omi_complex(nan, 1), "nan+1j"},       {omi_complex(1, inf), "1+infj"},
-      {omi_complex(1, -inf), "1-infj"}};
-  for (const auto& [value, text] : cases) EXPECT_EQ(omu_PrimComplex(value).AsString(0), text) << text;
-}
-
-TEST(PrimPath, TextDropsEmptyPiecesAndTrailingDots) {
-  EXPECT_EQ(omu_PrimPath({"a", "b.."}).AsString(0), "'a.b'");
-  EXPECT_EQ(omu_PrimPath().AsString(0), "''");
-  EXPECT_EQ(omu_PrimPath({"", ""}).AsString(0), "''");
+  const float floats[] = {0.5f, 1e-5f};
+  const double doubles[] = {1};
+  const int two[] = {2}, none[] = {0};
+  // clang-format off
+  const std::pair<omu_Primitive*, const char*> cases[] = {
+      {new N(2.0), "2.0"}, {new N(2.0, N::FLOAT), "2.0"}, {new N(-0.0), "-0.0"}, {new N(-0.0, N::FLOAT), "-0.0"},
+      {new N(0.1), "0.1"}, {new N(0.1, N::FLOAT), "0.1"}, {new N(1e20), "1e+20"}, {new N(1e20, N::FLOAT), "1e+20"},
+      {new N(inf), "inf.0"}, {new N(inf, N::FLOAT), "inf.0"},
+      // Integer kinds truncate to 32 bits.
+      {new N(3.7, N::INT), "3"}, {new N(-3.7, N::INT), "-3"}, {new N(2147483647.0, N::INT), "2147483647"},
+      {new N(2147483648.0, N::INT), "-2147483648"}, {new N(-2147483648.9, N::INT), "-2147483648"},
+      {new N(-1e300, N::SHORT), "-2147483648"}, {new N(nan, N::SCHAR), "-2147483648"},
+      {new N(4294967295.0, N::UINT), "4294967295"},
+      // Quoting of every mix, plain and translated.
+      {StringOf(""), "''"}, {Translated(""), "''"},
+      {StringOf("say \"hi\""), "'say \"hi\"'"}, {Translated("say \"hi\""), "'say \"hi\"'"},
+      {StringOf("back\\slash"), "'back\\\\slash'"}, {Translated("back\\slash"), "'back\\\\slash'"},
+      {StringOf("it's\\\n"), "\"it's\\\\\\n\""}, {Translated("it's\\\n"), "\"it's\\\\\\n\""},
+      {StringOf("tab\there"), "'tab\there'"}, {Translated("tab\there"), "'tab\there'"},
+      {StringOf("'\"'"), "'\\'\"\\''"}, {Translated("'\"'"), "'\\'\"\\''"},
+      {new omu_PrimString(-12), "'-12'"}, {new omu_PrimString(4000000000u), "'4000000000'"},
+      {new omu_PrimString(2.0), "'2.0'"}, {new omu_PrimString(omu_OnOffConst(true)), "'ON'"},
+      // A plus only before a zero or positive imaginary part.
+      {Complex({1, -2}), "1-2j"}, {Complex({0.5, 0}), "0.5+0j"}, {Complex({1, -0.0}), "1+-0j"},
+      {Complex(omi_complex::FromPolar(2, 0)), "2+0j"}, {Complex({1, nan}), "1nanj"}, {Complex({1, -nan}), "1-nanj"},
+      {Complex({nan, 1}), "nan+1j"}, {Complex({1, inf}), "1+infj"}, {Complex({1, -inf}), "1-infj"},
+      // Paths drop empty pieces and trailing dots.
+      {new omu_PrimPath({"a", "b.."}), "'a.b'"}, {new omu_PrimPath(), "''"}, {new omu_PrimPath({"", ""}), "''"},
+      {new omu_PrimEnum<bool, 2>(true), "ON"}, {new omu_PrimEnum<bool, 2>(false), "OFF"},
+      {new omu_TrueFalseConst(false), "FALSE"}, {new omu_YesNoConst(true), "YES"},
+      {new omu_PrimType(), "Type"}, {new StrDict(), "{}"}, {new omu_PrimTuple(0), "()"},
+      {new omu_PrimException(nex_TextException("boom"), "trace"), "omu_PrimException object"},
+      {new omu_PrimArray(1, two, floats), "array([0.5, 9.99999974737875e-06], 'f')"},
+      {new omu_PrimArray(1, none, doubles), "array([], 'd')"},
+      // Results as commands return them.
+      {omu_ReturnPrim(cow_List<double>{1.0, 2.5}), "(1.0, 2.5)"}, {omu_ReturnPrim(cow_List<int>{7}), "(7,)"},
+      {omu_ReturnPrim(cow_2DArray<cow_String>(1, 2, "a")), "(('a', 'a'),)"}};
+  // clang-format on
+  for (const auto& [value, text] : cases) {
+    const std::unique_ptr<omu_Primitive> owned(value);
+    EXPECT_EQ(Text(*owned), text) << owned->TypeString().StdString();
+  }
 }
 
 TEST(PrimException, CopiesTheCapturedErrorAndArchivesOnlyTheTraceback) {
   const omu_PrimException captured(nex_TextException("boom"), "trace");
-  EXPECT_EQ(captured.TypeString(), "primitive");
-  EXPECT_EQ(captured.AsString(0), "omu_PrimException object");
   const std::unique_ptr<omu_Primitive> copy(captured.Copy());
   const auto& copied = static_cast<const omu_PrimException&>(*copy);
   ASSERT_NE(copied.Exception(), nullptr);

@@ -24,7 +24,7 @@ TEST(TextReprThreads, ValuesPrintOnSeveralThreadsAtOnce) {
   OnThreads(2, [&](int) { EXPECT_EQ(Text(tuple), "(' object',)"); });
 }
 
-TEST(StringFromQString, UnquotesOnlyTheMatchingQuote) {
+TEST(StringFromQString, UnquotesOnlyTheMatchingQuoteAndComplainsAboutBadQuoting) {
   const std::pair<const char*, const char*> cases[] = {
       {"'x'", "x"}, {"\"x\"", "x"}, {"'it\\'s'", "it's"}, {"\"say \\\"hi\\\"\"", "say \"hi\""},
       {"'a\\\\b\\n'", "a\\\\b\\n"},  // no other unescaping
@@ -32,12 +32,9 @@ TEST(StringFromQString, UnquotesOnlyTheMatchingQuote) {
   CapturedErrors errors;
   for (const auto& [quoted, text] : cases) EXPECT_EQ(omu_StringFromQString(quoted), text) << quoted;
   EXPECT_EQ(errors.Text(), "");
-}
-
-TEST(StringFromQString, ComplainsAboutBadQuoting) {
-  CapturedErrors errors;
+  CapturedErrors bad;
   EXPECT_EQ(omu_StringFromQString("'x\""), "'x\"");
-  EXPECT_EQ(errors.Text(), "omu_StringFromQString('x\")  QuotedString does not use ' or \". 'x\"\n");
+  EXPECT_EQ(bad.Text(), "omu_StringFromQString('x\")  QuotedString does not use ' or \". 'x\"\n");
   CapturedErrors shortOne;
   EXPECT_EQ(omu_StringFromQString("'"), "'");
   EXPECT_EQ(shortOne.Text(),

@@ -23,7 +23,7 @@ constexpr UTI_FieldTable kSampleFields{
     UTI_Field{"count", &Sample::count, cls_KIND_INT}};
 }  // namespace
 
-TEST(FieldTable, RegistersEachFieldWithItsOrdinalAndDescriptor) {
+TEST(FieldTable, RegistersWritesInTableOrderAndReadsBackByName) {
   cls_ClassMetadata metadata("Sample", 0x130063, 800, 0x1);
   kSampleFields.Register(metadata);
   const std::vector<cls_Attribute> expected = {{0, "ratio", cls_KIND_DOUBLE, 1, 0},
@@ -31,9 +31,6 @@ TEST(FieldTable, RegistersEachFieldWithItsOrdinalAndDescriptor) {
                                                {2, "label", cls_KIND_TRANSLATABLE, 0x230001u, 55},
                                                {3, "count", cls_KIND_INT, 1, 0}};
   EXPECT_EQ(metadata.Attributes(), expected);
-}
-
-TEST(FieldTable, WritesInTableOrderAndReadsBackByName) {
   const Sample sample{-2.5, true, "Steel", -4};
   cls_Archive archive;
   const cls_WriteVisitor writer = archive.NewRoot();

@@ -30,7 +30,8 @@ protected:
 };
 }  // namespace
 
-TEST(ConsoleReporter, PrintsMessagesWithTheirKindAndVerboseOnlyOnRequest) {
+// Messages with their kind, verbose ones only on request; a task once per tenth.
+TEST(ConsoleReporter, PlainStylePrintsMessagesByKindAndATaskOncePerTenthWithRateAndTimeLeft) {
   ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
   console.Error("no nodes", wip_ERROR_NORMAL);
   console.ErrorList({"a", "b"}, wip_ERROR_FATAL);
@@ -40,14 +41,7 @@ TEST(ConsoleReporter, PrintsMessagesWithTheirKindAndVerboseOnlyOnRequest) {
   console.Verbose("shown");
   console.Milestone("Increment", 3);
   console.Landmark("Step 2");
-  EXPECT_EQ(console.Text(),
-            "Error: no nodes\nFatal error: a\nFatal error: b\nWarning: w\nshown\nIncrement: 3\n"
-            "Step 2\n");
-}
-
-TEST(ConsoleReporter, PlainStylePrintsATaskOncePerTenthWithRateAndTimeLeft) {
-  ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
-  EXPECT_FALSE(console.ShowsBar());
+  // Plain and terminal style's ShowsBar is python/tests/test_progress.py's.
   EXPECT_FALSE(ClockedConsole(wip_ConsoleReporter::STYLE_AUTO).ShowsBar());  // no terminal
   console.Milestone("Meshing", "faces", 0, 1000);
   console.now = 102;
@@ -56,14 +50,14 @@ TEST(ConsoleReporter, PlainStylePrintsATaskOncePerTenthWithRateAndTimeLeft) {
   console.now = 108;
   console.Milestone("Meshing", "faces", 1000, 1000);
   EXPECT_EQ(console.Text(),
-            "Meshing:   0%  0/1000 faces\n"
+            "Error: no nodes\nFatal error: a\nFatal error: b\nWarning: w\nshown\nIncrement: 3\n"
+            "Step 2\nMeshing:   0%  0/1000 faces\n"
             "Meshing:  25%  250/1000 faces  125 faces/s  0:06 left\n"
             "Meshing: 100%  1000/1000 faces  125 faces/s  in 0:08\n");
 }
 
-TEST(ConsoleReporter, TerminalStyleRedrawsOneBarAndKeepsItBelowMessages) {
+TEST(ConsoleReporter, TerminalStyleRedrawsOneBarKeepsItBelowMessagesAndEndsItForANewTask) {
   ClockedConsole console(wip_ConsoleReporter::STYLE_TERMINAL);
-  EXPECT_TRUE(console.ShowsBar());
   console.Milestone("Solve", "eq", 0, 4);
   const std::string start = "Solve [------------------------]   0%  0/4 eq";
   console.now = 102;
@@ -77,13 +71,10 @@ TEST(ConsoleReporter, TerminalStyleRedrawsOneBarAndKeepsItBelowMessages) {
   EXPECT_EQ(console.Text(), "\r" + start + "\r" + half + "\r" + std::string(half.size(), ' ') +
                                 "\rWarning: slow\n" + half + "\r" + done +
                                 std::string(half.size() - done.size(), ' ') + "\nafter\n");
-}
-
-TEST(ConsoleReporter, ANewTaskEndsTheBarOfThePreviousOne) {
-  ClockedConsole console(wip_ConsoleReporter::STYLE_TERMINAL);
-  console.Milestone("A", "x", 1, 2);
-  console.Milestone("B", "x", 0, 0);
-  EXPECT_EQ(console.Text(),
+  ClockedConsole next(wip_ConsoleReporter::STYLE_TERMINAL);
+  next.Milestone("A", "x", 1, 2);
+  next.Milestone("B", "x", 0, 0);
+  EXPECT_EQ(next.Text(),
             "\rA [############------------]  50%  1/2 x\n"
             "\rB [########################] 100%  0/0 x  in 0:00\n");
 }

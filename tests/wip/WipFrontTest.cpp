@@ -14,52 +14,48 @@
 // matching overload unchanged.
 TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
   const struct {
-    const char* name;
     std::function<void(wip_WIPBase&)> call;
     const char* recorded;
   } forwardings[] = {
-      {"Error", [](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
-      {"ErrorList",
-       [](wip_WIPBase& f) {
+      {[](wip_WIPBase& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
+      {[](wip_WIPBase& f) {
          f.ErrorList({"a", "b"}, static_cast<wip_errorLevelEnm>(42));
        },
        "ErrorList(a;b|42)"},
-      {"Verbose", [](wip_WIPBase& f) { f.Verbose("detail"); }, "Verbose(detail)"},
-      {"Warning", [](wip_WIPBase& f) { f.Warning("thin"); }, "Warning(thin)"},
-      {"WarningList", [](wip_WIPBase& f) { f.WarningList({"x"}); }, "WarningList(x)"},
-      {"Milestone1", [](wip_WIPBase& f) { f.Milestone("step 2"); }, "Milestone(step 2)"},
-      {"Landmark", [](wip_WIPBase& f) { f.Landmark("mark"); }, "Landmark(mark)"},
-      {"Print", [](wip_WIPBase& f) { f.Print("p"); }, "Print(p)"},
-      {"Display", [](wip_WIPBase& f) { f.Display("d"); }, "Display(d)"},
-      {"Milestone4", [](wip_WIPBase& f) { f.Milestone("mesh", "faces", 3, 9); },
-       "Milestone(mesh|faces,3,9)"},
-      {"Milestone2", [](wip_WIPBase& f) { f.Milestone("inc", -5); }, "Milestone(inc|-5)"},
-      {"Interrupted", [](wip_WIPBase& f) { EXPECT_EQ(f.Interrupted(), 7); }, "Interrupted()"},
-      {"CommandDone", [](wip_WIPBase& f) { f.CommandDone(); }, "CommandDone()"},
-      {"FacilityMessage",
-       [](wip_WIPBase& f) {
+      {[](wip_WIPBase& f) { f.Verbose("detail"); }, "Verbose(detail)"},
+      {[](wip_WIPBase& f) { f.Warning("thin"); }, "Warning(thin)"},
+      {[](wip_WIPBase& f) { f.WarningList({"x"}); }, "WarningList(x)"},
+      {[](wip_WIPBase& f) { f.Milestone("step 2"); }, "Milestone(step 2)"},
+      {[](wip_WIPBase& f) { f.Landmark("mark"); }, "Landmark(mark)"},
+      {[](wip_WIPBase& f) { f.Print("p"); }, "Print(p)"},
+      {[](wip_WIPBase& f) { f.Display("d"); }, "Display(d)"},
+      {[](wip_WIPBase& f) { f.Milestone("mesh", "faces", 3, 9); }, "Milestone(mesh|faces,3,9)"},
+      {[](wip_WIPBase& f) { f.Milestone("inc", -5); }, "Milestone(inc|-5)"},
+      {[](wip_WIPBase& f) { EXPECT_EQ(f.Interrupted(), 7); }, "Interrupted()"},
+      {[](wip_WIPBase& f) { f.CommandDone(); }, "CommandDone()"},
+      {[](wip_WIPBase& f) {
          omu_PrimTuple arguments(1);
          f.FacilityMessage("thin shell", 3, 1, 2, arguments);
        },
        "Warning(thin shell)"},
-      {"InterruptedThrow", [](wip_WIPBase& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
+      {[](wip_WIPBase& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
   };
   std::set<int> lines;
   for (const auto& forwarding : forwardings) {
     wip_WIPBase front;
     try {
       forwarding.call(front);
-      ADD_FAILURE() << forwarding.name << " did not raise";
+      ADD_FAILURE() << forwarding.recorded << " did not raise";
     } catch (const nex_AssertException& e) {
-      EXPECT_EQ(e.Condition(), "WipReporter != 0") << forwarding.name;
-      EXPECT_STREQ(e.SourcePath(), "wip/impl/wip_WIP") << forwarding.name;
+      EXPECT_EQ(e.Condition(), "WipReporter != 0") << forwarding.recorded;
+      EXPECT_STREQ(e.SourcePath(), "wip/impl/wip_WIP") << forwarding.recorded;
       lines.insert(e.SourceLine());
     }
     RecordingReporter reporter;
     reporter.interrupted = 7;  // and its answer comes back
     front.SetWipReporter(&reporter);
     forwarding.call(front);
-    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.name;
+    EXPECT_EQ(reporter.calls, std::vector<std::string>{forwarding.recorded}) << forwarding.recorded;
   }
   EXPECT_EQ(lines.size(), std::size(forwardings));
 }
