@@ -1,4 +1,5 @@
 #include "cls_ArchiveCodec.h"
+#include "cls_Crc32.h"
 
 #include <cls_MetadataRegistrar.h>
 #include <nex_TextException.h>
@@ -8,8 +9,6 @@
 #include <cstring>
 #include <ostream>
 #include <unordered_map>
-
-#include "cls_Crc32.h"
 
 namespace {
 constexpr const char* kSource = "cls/impl/cls_ArchiveCodec";
