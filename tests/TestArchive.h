@@ -46,13 +46,18 @@ std::string SoloBytes(const T& object) {
   return archive.ToBytes();
 }
 
-// A record as a foreign or damaged archive could hold it: a class's identifier and any fields.
+// A record of any class as an archive could hold it, foreign or damaged too: a class's
+// identifier, its fields, its uid, the records nested in it and the level above its own.
 struct ForgedRecord {
   unsigned int typeId;
   std::vector<std::pair<const char*, cls_Value>> fields;
   cls_Uid uid = cls_Uid();
+  std::vector<std::pair<const char*, ForgedRecord>> nested = {};
+  const ForgedRecord* parent = nullptr;
   void DBWrite(const cls_WriteVisitor& writer) const {
     writer.StartWrite(typeId, uid);
+    if (parent) parent->DBWrite(cls_WriteVisitor(writer, parent->typeId));
     for (const auto& [name, value] : fields) writer.Write(name, value);
+    for (const auto& [name, record] : nested) writer.WriteObject(name, record);
   }
 };
