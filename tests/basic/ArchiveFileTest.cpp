@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "GenerationRecord.h"
+#include "GenerationArchive.h"
 #include "RaisedText.h"
 #include "TestArchive.h"
 
@@ -63,7 +63,7 @@ int GenerationIn(const fs::path& path, std::size_t payloadBytes) {
   const cls_Archive archive = cls_Archive::Load(path);
   const cls_ReadVisitor r = archive.Root(0);
   const int generation = r.Get<int>("generation");
-  EXPECT_EQ(r.Get<cow_String>("payload"), GenerationRecord::Payload(generation, payloadBytes))
+  EXPECT_EQ(r.Get<cow_String>("payload"), GenerationPayload(generation, payloadBytes))
       << "generation " << generation;
   return generation;
 }

@@ -11,6 +11,7 @@
 #include <omu_PrimList.h>
 #include <omu_PrimWrapper.h>
 
+#include <cmath>
 #include <random>
 #include <variant>
 
@@ -49,9 +50,13 @@ Dictionary RandomDictionary(Rng& rng) {
 Item Make(Rng& r) {
   switch (Pick(r, std::variant_size_v<Item>)) {
     case 0: {
-      mdl_PropertyTable table(1 + Pick(r, 4), 1 + Pick(r, 3));
+      // Special doubles too: a table reads back bit for bit.
+      const double special[] = {std::nan(""), -0.0, 1e-310, -HUGE_VAL};
+      mdl_PropertyTable table(Pick(r, 5), 1 + Pick(r, 3));
+      table.SetAllowEmptyFirstRow(Pick(r, 2) == 0);
       for (int row = 0; row < table.Rows(); ++row) {
-        for (int c = 0; c < table.Columns(); ++c) table.Set(row, c, Number(r));
+        for (int c = 0; c < table.Columns(); ++c)
+          table.Set(row, c, Pick(r, 4) ? Number(r) : special[Pick(r, 4)]);
       }
       return table;
     }
@@ -91,7 +96,7 @@ Item Make(Rng& r) {
 
 // New contents in place, same identities, where a class has a way.
 void Change(mdl_PropertyTable& t, Rng& r) {
-  if (Pick(r, 2) == 0) return t.Sort(1);
+  if (Pick(r, 2) == 0 || t.Rows() == 0) return t.Sort(1);
   t.Set(Pick(r, t.Rows()), Pick(r, t.Columns()), Number(r));
 }
 void Change(mdl_PropAttr<double>& a, Rng& r) {

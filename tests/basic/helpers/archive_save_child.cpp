@@ -1,5 +1,5 @@
 // archive_save_child PATH GENERATION PAYLOAD_BYTES [FILE_SIZE_LIMIT [KILL_AFTER_MICROSECONDS]]
-// Saves a GenerationRecord archive to PATH in a process the file tests can limit or kill. A
+// Saves a GenerationArchive to PATH in a process the file tests can limit or kill. A
 // limit of 0 sets none; a kill time ends the process that long after the save began, saved or
 // not, as a crash would (SIGKILL; TerminateProcess on Windows). Prints the error text if the save
 // raises. Exit status: 0 saved, 1 the save raised, 2 bad arguments, 3 the limit cannot be set.
@@ -12,7 +12,7 @@
 #include <string>
 #include <thread>
 
-#include "../GenerationRecord.h"
+#include "../GenerationArchive.h"
 
 #if defined(_WIN32)
 #include <windows.h>  // last: its min and max macros would break the headers above
