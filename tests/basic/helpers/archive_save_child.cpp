@@ -3,6 +3,8 @@
 // limit of 0 sets none; a kill time ends the process that long after the save began, saved or
 // not, as a crash would (SIGKILL; TerminateProcess on Windows). Prints the error text if the save
 // raises. Exit status: 0 saved, 1 the save raised, 2 bad arguments, 3 the limit cannot be set.
+#include "../GenerationArchive.h"
+
 #include <nex_TextException.h>
 
 #include <chrono>
@@ -11,8 +13,6 @@
 #include <iostream>
 #include <string>
 #include <thread>
-
-#include "../GenerationArchive.h"
 
 #if defined(_WIN32)
 #include <windows.h>  // last: its min and max macros would break the headers above
