@@ -1,3 +1,5 @@
+#include "../OnThreads.h"
+
 #include <gtest/gtest.h>
 #include <mem_BlockPool.h>
 
@@ -11,8 +13,6 @@
 #include <thread>
 #include <utility>
 #include <vector>
-
-#include "../OnThreads.h"
 
 namespace {
 unsigned char Mark(std::size_t thread, std::size_t i) {

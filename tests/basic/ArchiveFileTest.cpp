@@ -1,3 +1,7 @@
+#include "GenerationArchive.h"
+#include "RaisedText.h"
+#include "TestArchive.h"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -10,10 +14,6 @@
 #include <system_error>
 #include <utility>
 #include <vector>
-
-#include "GenerationArchive.h"
-#include "RaisedText.h"
-#include "TestArchive.h"
 
 #if defined(_WIN32)
 #include <process.h>

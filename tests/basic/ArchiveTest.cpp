@@ -1,21 +1,22 @@
+#include "ArchiveBytes.h"
+#include "OnThreads.h"
+#include "RaisedText.h"
+#include "TestArchive.h"
+
 #include <QRLBasCoreUtils.h>
 #include <QRLCvuBasicUtils.h>
 #include <cls_Archive.h>
 #include <cls_MetadataRegistrar.h>
-#include <gtest/gtest.h>
 #include <nex_AssertException.h>
 #include <nex_TextException.h>
+
+#include <gtest/gtest.h>
 
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <sstream>
 #include <vector>
-
-#include "ArchiveBytes.h"
-#include "OnThreads.h"
-#include "RaisedText.h"
-#include "TestArchive.h"
 
 namespace {
 class BasicLibrary : public ::testing::Environment {

@@ -1,12 +1,13 @@
-#include <gtest/gtest.h>
+#include "OnThreads.h"
+
 #include <nex_TextException.h>
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
-
-#include "OnThreads.h"
 
 namespace {
 // Longer than any in-place string buffer, so a rebuilt text would move to new storage.

@@ -1,10 +1,10 @@
 #pragma once
 // The archive the file tests save, here and from archive_save_child: a generation number and a
 // payload that follows from it, so a loaded file shows which save it holds, complete.
+#include "../TestArchive.h"
+
 #include <cstddef>
 #include <string>
-
-#include "../TestArchive.h"
 
 inline std::string GenerationPayload(int generation, std::size_t bytes) {
   std::string text(bytes, ' ');

@@ -1,7 +1,9 @@
 // Identities in archives: a copy keeps its identity, yet no two objects with different
 // contents ever share a record; archive bytes depend only on what is saved; objects read back
 // take identities that cannot collide with the process's own.
-#include <gtest/gtest.h>
+#include "LibraryEnvironment.h"
+#include "TestArchive.h"
+
 #include <mdl_JaggedArray.h>
 #include <mdl_PropagatingAttribute.h>
 #include <mdl_PropertyTable.h>
@@ -11,12 +13,11 @@
 #include <omu_PrimList.h>
 #include <omu_PrimWrapper.h>
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <random>
 #include <variant>
-
-#include "LibraryEnvironment.h"
-#include "TestArchive.h"
 
 namespace {
 using Rng = std::mt19937;

@@ -1,15 +1,16 @@
-#include <gtest/gtest.h>
+#include "LibraryEnvironment.h"
+#include "PropertyTableReference.h"
+#include "RaisedText.h"
+#include "TestArchive.h"
+
 #include <nex_TextException.h>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <limits>
 #include <random>
 #include <string>
-
-#include "LibraryEnvironment.h"
-#include "PropertyTableReference.h"
-#include "RaisedText.h"
-#include "TestArchive.h"
 
 namespace {
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();

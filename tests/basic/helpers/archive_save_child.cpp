@@ -48,11 +48,7 @@ int Save(const cls_Archive& archive, const char* path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 4 || argc > 6) {
-    std::cerr << "usage: " << argv[0]
-              << " PATH GENERATION PAYLOAD_BYTES [FILE_SIZE_LIMIT [KILL_AFTER_MICROSECONDS]]\n";
-    return 2;
-  }
+  if (argc < 4 || argc > 6) return 2;  // the usage is above
   const unsigned long long limit = argc > 4 ? std::strtoull(argv[4], nullptr, 10) : 0;
   if (limit && !LimitFileSize(limit)) return 3;
   const cls_Archive archive =
