@@ -18,7 +18,7 @@
 #include <utility>
 #include <vector>
 
-TEST(CowList, CopiesShareUntilTheFirstWrite) {
+TEST(CowList, CopiesShareUntilTheFirstWriteAndEditsLookUpAndClear) {
   const cow_List<int> original(std::vector<int>(1'000'000, 7));
   cow_List<int> copy(original);
   EXPECT_TRUE(copy.SharesWith(original));
@@ -29,9 +29,7 @@ TEST(CowList, CopiesShareUntilTheFirstWrite) {
   EXPECT_EQ(original[10], 7);
   EXPECT_EQ(copy[10], 8);
   EXPECT_FALSE(copy == original);
-}
 
-TEST(CowList, EditingOperationsAndLookup) {
   cow_List<cow_String> list{"b", "c"};
   list.Insert(0, "a");
   list.Append("d");
@@ -80,12 +78,9 @@ TEST(CowTextMap, FindsWhatAnOrderedMapHolds) {
     const char* prefix;
     int keys;
     int removeEvery;  // removes keys i with i % removeEvery == 0, then puts back every third
-  } cases[] = {{"one key", "", 1, 1},
-               {"until the first growth", "", 6, 2},
-               {"across growths", "", 100, 3},
-               {"every key out and partly back", "k", 500, 1},
-               {"every seventh", "", 2000, 7},
-               {"one long prefix", "argument", 1000, 2}};
+  } cases[] = {{"one key", "", 1, 1},          {"until the first growth", "", 6, 2},
+               {"across growths", "", 100, 3}, {"every key out and partly back", "k", 500, 1},
+               {"every seventh", "", 2000, 7}, {"one long prefix", "argument", 1000, 2}};
   for (const auto& c : cases) {
     const auto key = [&c](int i) { return c.prefix + std::to_string(i); };
     cow_TextMap<int> map;

@@ -138,18 +138,16 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
   }
 }
 
-namespace {
-// An mdl_PropInt record as a foreign or damaged archive could hold it.
-ForgedRecord PropInt(cls_Value val, const char* state) {
-  return {mdl_PropAttr<int>::TypeId(), {{"val", val}, {"state", cls_EnumName{state}}}, cls_Uid(99)};
-}
-}  // namespace
-
 // The enumeration's message is checked with the enumerations.
 TEST(PropAttrPersistence, AnUnknownStateOrAValueOfTheWrongKindIsRefused) {
-  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(std::int32_t{3}, "set")),
+  // An mdl_PropInt record as a foreign or damaged archive could hold it.
+  const auto propInt = [](cls_Value val, const char* state) {
+    return ForgedRecord{
+        mdl_PropAttr<int>::TypeId(), {{"val", val}, {"state", cls_EnumName{state}}}, cls_Uid(99)};
+  };
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(propInt(std::int32_t{3}, "set")),
                omu_ValueErrorException);
   for (const cls_Value& val : {cls_Value(2.5), cls_Value()}) {
-    EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(val, "SET")), nex_TextException);
+    EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(propInt(val, "SET")), nex_TextException);
   }
 }
