@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -73,12 +74,31 @@ int GenerationIn(const fs::path& path, std::size_t payloadBytes) {
 // nothing).
 std::pair<int, std::string> SaveInAChild(const fs::path& path, std::vector<std::string> arguments) {
 #if defined(_WIN32)
+  // A kill comes from here once the child signals that its save begins: a process that ends
+  // itself while another of its threads runs can hang under wine.
+  const std::string ready = "cvx-save-ready-" + std::to_string(::GetCurrentProcessId());
+  const HANDLE event = ::CreateEventA(nullptr, FALSE, FALSE, ready.c_str());
+  const bool kill = arguments.size() == 4;
+  const auto delay = std::chrono::microseconds(kill ? std::stol(arguments[3]) : 0);
+  if (kill) arguments[3] = ready;
   arguments.insert(arguments.begin(),
                    {"\"" CVX_ARCHIVE_SAVE_CHILD "\"", '"' + path.string() + '"'});
   std::vector<const char*> argv;
   for (const std::string& word : arguments) argv.push_back(word.c_str());
   argv.push_back(nullptr);
-  return {static_cast<int>(::_spawnv(_P_WAIT, CVX_ARCHIVE_SAVE_CHILD, argv.data())), ""};
+  const auto child =
+      reinterpret_cast<HANDLE>(::_spawnv(_P_NOWAIT, CVX_ARCHIVE_SAVE_CHILD, argv.data()));
+  const HANDLE either[] = {event, child};
+  if (kill && ::WaitForMultipleObjects(2, either, FALSE, INFINITE) == WAIT_OBJECT_0) {
+    std::this_thread::sleep_for(delay);
+    ::TerminateProcess(child, 128 + 9);  // as a shell reports SIGKILL
+  }
+  ::WaitForSingleObject(child, INFINITE);
+  DWORD status = 0;
+  ::GetExitCodeProcess(child, &status);
+  ::CloseHandle(child);
+  ::CloseHandle(event);
+  return {static_cast<int>(status), ""};
 #else
   std::string command = "exec '" CVX_ARCHIVE_SAVE_CHILD "' '" + path.string() + "'";
   for (const std::string& word : arguments) command += ' ' + word;

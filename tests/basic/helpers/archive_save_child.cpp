@@ -1,8 +1,9 @@
 // archive_save_child PATH GENERATION PAYLOAD_BYTES [FILE_SIZE_LIMIT [KILL_AFTER_MICROSECONDS]]
 // Saves a GenerationArchive to PATH in a process the file tests can limit or kill. A
 // limit of 0 sets none; a kill time ends the process that long after the save began, saved or
-// not, as a crash would (SIGKILL; TerminateProcess on Windows). Prints the error text if the save
-// raises. Exit status: 0 saved, 1 the save raised, 2 bad arguments, 3 the limit cannot be set.
+// not, as a crash would (SIGKILL). On Windows the last argument names an event instead, signalled
+// as the save begins, and the test kills the process. Prints the error text if the save raises.
+// Exit status: 0 saved, 1 the save raised, 2 bad arguments, 3 the limit cannot be set.
 #include "../GenerationArchive.h"
 
 #include <nex_TextException.h>
@@ -25,14 +26,12 @@ namespace {
 #if defined(_WIN32)
 // Windows has no limit on the size of the files a process writes.
 bool LimitFileSize(unsigned long long) { return false; }
-void Crash() { ::TerminateProcess(::GetCurrentProcess(), 128 + 9); }  // as a shell reports SIGKILL
 #else
 // A save past the limit fails with "File too large" instead of being killed by SIGXFSZ.
 bool LimitFileSize(unsigned long long bytes) {
   const rlimit value{bytes, bytes};
   return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && ::setrlimit(RLIMIT_FSIZE, &value) == 0;
 }
-void Crash() { ::kill(::getpid(), SIGKILL); }
 #endif
 
 // The exit status: 0 saved, 1 the save raised (its text printed).
@@ -54,12 +53,17 @@ int main(int argc, char** argv) {
   const cls_Archive archive =
       GenerationArchive(std::atoi(argv[2]), std::strtoull(argv[3], nullptr, 10));
   if (argc < 6) return Save(archive, argv[1]);
+#if defined(_WIN32)
+  ::SetEvent(::OpenEventA(EVENT_MODIFY_STATE, FALSE, argv[5]));
+  return Save(archive, argv[1]);
+#else
   // The crash comes from a thread of its own while the save runs or waits for it: no thread ends
-  // before it (wine hangs when one does as the process ends).
+  // before it.
   std::thread crash([after = std::chrono::microseconds(std::atoll(argv[5]))] {
     std::this_thread::sleep_for(after);
-    Crash();
+    ::kill(::getpid(), SIGKILL);
   });
   Save(archive, argv[1]);
   crash.join();  // never returns
+#endif
 }
