@@ -10,15 +10,13 @@
 #include <utility>
 #include <vector>
 
-inline std::filesystem::path TestFolder() {
-  const char* folder = std::getenv("CVX_TEST_TMP");
-  return folder ? std::filesystem::path(folder) : std::filesystem::temp_directory_path();
-}
-
-// Test binaries run in parallel: each process gets names of its own.
+// A file in the build's test folder (or the system's). Test binaries run in parallel: each
+// process gets names of its own.
 inline std::filesystem::path TestFile(const std::string& name) {
   static const std::string token = std::to_string(std::random_device()());
-  return TestFolder() / (name + "-" + token + ".cvxarch");
+  const char* folder = std::getenv("CVX_TEST_TMP");
+  return (folder ? std::filesystem::path(folder) : std::filesystem::temp_directory_path()) /
+         (name + "-" + token + ".cvxarch");
 }
 
 // Saves the archive to a file and loads it back.

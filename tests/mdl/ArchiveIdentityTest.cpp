@@ -24,10 +24,6 @@ using Rng = std::mt19937;
 using Dictionary = omu_PrimDictionary<cow_String>;
 
 int Pick(Rng& rng, int count) { return std::uniform_int_distribution<int>(0, count - 1)(rng); }
-template <class V>
-auto& Any(Rng& rng, V& items) {
-  return items[static_cast<std::size_t>(Pick(rng, static_cast<int>(items.size())))];
-}
 double Number(Rng& rng) { return std::uniform_int_distribution<int>(-50, 50)(rng) / 4.0; }
 cow_String Text(const char* prefix, Rng& rng) {
   return atr_StringBase::Format("%s%d", prefix, Pick(rng, 9));
@@ -119,6 +115,9 @@ std::string Contents(const Item& item) {
 }
 
 using Model = std::vector<Item>;
+Item& Any(Rng& rng, Model& model) {
+  return model[static_cast<std::size_t>(Pick(rng, static_cast<int>(model.size())))];
+}
 
 // Saves the whole model in one archive file and reads it back, checking every object.
 Model SaveAndLoadChecked(const Model& model, int step) {

@@ -58,9 +58,7 @@ TEST(PropertyTable, SortGivesTheInsertionSortsExactResultOnRandomTables) {
     ASSERT_TRUE(SameBits(table, expected))
         << "trial " << trial << ": " << rows << "x" << columns << " keys " << keys;
   }
-}
-
-TEST(PropertyTable, SortingACopyLeavesTheSharedOriginalAlone) {
+  // Sorting a copy leaves the original it shares cells with alone.
   const mdl_PropertyTableHld original(Table(1, {2, 1}));
   mdl_PropertyTableHld copy = original;
   copy.Get()->Sort(1);
