@@ -10,15 +10,13 @@
 #include <utility>
 #include <vector>
 
-inline std::filesystem::path TestFolder() {
-  const char* folder = std::getenv("CVX_TEST_TMP");
-  return folder ? std::filesystem::path(folder) : std::filesystem::temp_directory_path();
-}
-
-// Test binaries run in parallel: each process gets names of its own.
+// A file in the build's test folder (or the system's). Test binaries run in parallel: each
+// process gets names of its own.
 inline std::filesystem::path TestFile(const std::string& name) {
   static const std::string token = std::to_string(std::random_device()());
-  return TestFolder() / (name + "-" + token + ".cvxarch");
+  const char* folder = std::getenv("CVX_TEST_TMP");
+  return (folder ? std::filesystem::path(folder) : std::filesystem::temp_directory_path()) /
+         (name + "-" + token + ".cvxarch");
 }
 
 // Saves the archive to a file and loads it back.
@@ -46,13 +44,18 @@ std::string SoloBytes(const T& object) {
   return archive.ToBytes();
 }
 
-// A record as a foreign or damaged archive could hold it: a class's identifier and any fields.
+// A record of any class as an archive could hold it, foreign or damaged too: a class's
+// identifier, its fields, its uid, the records nested in it and the level above its own.
 struct ForgedRecord {
   unsigned int typeId;
   std::vector<std::pair<const char*, cls_Value>> fields;
   cls_Uid uid = cls_Uid();
+  std::vector<std::pair<const char*, ForgedRecord>> nested = {};
+  const ForgedRecord* parent = nullptr;
   void DBWrite(const cls_WriteVisitor& writer) const {
     writer.StartWrite(typeId, uid);
+    if (parent) parent->DBWrite(cls_WriteVisitor(writer, parent->typeId));
     for (const auto& [name, value] : fields) writer.Write(name, value);
+    for (const auto& [name, record] : nested) writer.WriteObject(name, record);
   }
 };

@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-TEST(AtrString, CopiesShareAndWritesUnshare) {
+TEST(AtrString, CopiesShareWritesUnshareAndEditsClipAtTheEnds) {
   atr_StringBase a("shared text");
   atr_StringBase b(a);
   EXPECT_TRUE(a.IsShared());
@@ -15,9 +15,7 @@ TEST(AtrString, CopiesShareAndWritesUnshare) {
   EXPECT_EQ(a, "shared text");
   EXPECT_EQ(b, "shared text!");
   EXPECT_FALSE(a.IsShared());
-}
 
-TEST(AtrString, EditsClipAtTheEndsAndFindAnswersTheLengthWhenAbsent) {
   atr_StringBase text("abcdef");
   text.Erase(4, 100);
   EXPECT_EQ(text, "abcd");
@@ -32,7 +30,7 @@ TEST(AtrString, EditsClipAtTheEndsAndFindAnswersTheLengthWhenAbsent) {
   EXPECT_EQ(text.ReplaceAll("X", "--"), ">a--YZda--");
   EXPECT_EQ(text.Substr(2, 3), "--Y");
   EXPECT_EQ(text.Find("YZ"), 4);
-  EXPECT_EQ(text.Find("zz"), text.Length());  // absent: the length, from any start
+  EXPECT_EQ(text.Find("zz"), text.Length());  // absent: Find answers the length, from any start
   EXPECT_EQ(text.Find('>', 3), text.Length());
   EXPECT_EQ(atr_StringBase().Find("x"), 0);
 }
@@ -60,4 +58,3 @@ TEST(AioOstream, RedirectsTheErrorStream) {
   aio_cerr().Redirect(previous);
   EXPECT_EQ(captured.str(), "n=3 x2.5");
 }
-

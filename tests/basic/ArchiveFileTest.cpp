@@ -1,36 +1,36 @@
-#include "GenerationRecord.h"
+#include "GenerationArchive.h"
 #include "RaisedText.h"
 #include "TestArchive.h"
 
 #include <gtest/gtest.h>
 
-#if defined(_WIN32)
-#include "helpers/WindowsSaveChild.h"
-#else
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/sysmacros.h>
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
-
 #include <chrono>
-#include <csignal>
+#include <cstdio>
 #include <fstream>
 #include <optional>
 #include <random>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
+
+#if defined(_WIN32)
+#include <process.h>
+#include <windows.h>  // last: its min and max macros would break the headers above
+#else
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/wait.h>
+#endif
 
 namespace fs = std::filesystem;
 
 namespace {
 // A folder of the test's own, removed with what is in it.
 class Scratch {
-public:
+ public:
   Scratch() : m_Folder(TestFile("files").replace_extension()) {
     fs::remove_all(m_Folder);
     fs::create_directories(m_Folder / "sub");
@@ -51,7 +51,7 @@ public:
     return found;
   }
 
-private:
+ private:
   fs::path m_Folder;
 };
 
@@ -64,65 +64,54 @@ int GenerationIn(const fs::path& path, std::size_t payloadBytes) {
   const cls_Archive archive = cls_Archive::Load(path);
   const cls_ReadVisitor r = archive.Root(0);
   const int generation = r.Get<int>("generation");
-  EXPECT_EQ(r.Get<cow_String>("payload"), GenerationRecord::Payload(generation, payloadBytes))
+  EXPECT_EQ(r.Get<cow_String>("payload"), GenerationPayload(generation, payloadBytes))
       << "generation " << generation;
   return generation;
 }
 
-#if !defined(_WIN32)
-// archive_save_child started with fork and exec (so it runs under every sanitizer), its
-// standard output read through a pipe. Killed and reaped at the latest when destroyed.
-class SaveChild {
-public:
-  explicit SaveChild(const std::vector<std::string>& arguments) {
-    std::vector<std::string> words{CVX_ARCHIVE_SAVE_CHILD};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> argv;
-    for (std::string& word : words) argv.push_back(word.data());
-    argv.push_back(nullptr);
-    int pipe[2];
-    if (::pipe2(pipe, O_CLOEXEC) != 0) throw std::system_error(errno, std::system_category());
-    m_Pid = ::fork();
-    if (m_Pid == 0) {
-      ::dup2(pipe[1], STDOUT_FILENO);
-      ::execv(argv[0], argv.data());
-      ::_exit(127);
-    }
-    ::close(pipe[1]);
-    m_Output = pipe[0];
+// Runs archive_save_child on path with the arguments after it: the exit status (128 + the
+// signal that ended it) and what it printed (on Windows, where it prints to the test's output,
+// nothing).
+std::pair<int, std::string> SaveInAChild(const fs::path& path, std::vector<std::string> arguments) {
+#if defined(_WIN32)
+  // A kill comes from here once the child signals that its save begins: a process that ends
+  // itself while another of its threads runs can hang under wine.
+  const std::string ready = "cvx-save-ready-" + std::to_string(::GetCurrentProcessId());
+  const HANDLE event = ::CreateEventA(nullptr, FALSE, FALSE, ready.c_str());
+  const bool kill = arguments.size() == 4;
+  const auto delay = std::chrono::microseconds(kill ? std::stol(arguments[3]) : 0);
+  if (kill) arguments[3] = ready;
+  arguments.insert(arguments.begin(),
+                   {"\"" CVX_ARCHIVE_SAVE_CHILD "\"", '"' + path.string() + '"'});
+  std::vector<const char*> argv;
+  for (const std::string& word : arguments) argv.push_back(word.c_str());
+  argv.push_back(nullptr);
+  const auto child =
+      reinterpret_cast<HANDLE>(::_spawnv(_P_NOWAIT, CVX_ARCHIVE_SAVE_CHILD, argv.data()));
+  const HANDLE either[] = {event, child};
+  if (kill && ::WaitForMultipleObjects(2, either, FALSE, INFINITE) == WAIT_OBJECT_0) {
+    std::this_thread::sleep_for(delay);
+    ::TerminateProcess(child, 128 + 9);  // as a shell reports SIGKILL
   }
-  SaveChild(const SaveChild&) = delete;
-  SaveChild& operator=(const SaveChild&) = delete;
-  ~SaveChild() {
-    if (m_Pid > 0) {
-      Kill();
-      Wait();
-    }
-    ::close(m_Output);
-  }
-
-  // The output up to the next newline or the end, without the newline.
-  std::string ReadLine() {
-    std::string line;
-    char c;
-    while (::read(m_Output, &c, 1) == 1 && c != '\n') line += c;
-    return line;
-  }
-  void Kill() { ::kill(m_Pid, SIGKILL); }
-  // The exit status, or 128 + the signal that ended the child.
-  int Wait() {
-    int status = 0;
-    while (::waitpid(m_Pid, &status, 0) < 0 && errno == EINTR) {
-    }
-    m_Pid = -1;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-  }
-
-private:
-  pid_t m_Pid = -1;
-  int m_Output = -1;
-};
+  ::WaitForSingleObject(child, INFINITE);
+  DWORD status = 0;
+  ::GetExitCodeProcess(child, &status);
+  ::CloseHandle(child);
+  ::CloseHandle(event);
+  return {static_cast<int>(status), ""};
 #else
+  std::string command = "exec '" CVX_ARCHIVE_SAVE_CHILD "' '" + path.string() + "'";
+  for (const std::string& word : arguments) command += ' ' + word;
+  FILE* output = ::popen(command.c_str(), "r");
+  if (!output) throw std::system_error(errno, std::system_category());
+  std::string printed;
+  for (int c; (c = std::fgetc(output)) != EOF;) printed += static_cast<char>(c);
+  const int status = ::pclose(output);
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), printed};
+#endif
+}
+
+#if defined(_WIN32)
 // The system's text for an error code, as a refusal quotes it (wine words some differently).
 std::string SystemReason(DWORD error) {
   char text[512] = {};
@@ -270,14 +259,10 @@ TEST(ArchiveFile, AFullFileSystemFailsClearlyAndKeepsTheOldFile) {
   const fs::path path = scratch / "full.cvxarch";
   GenerationArchive(1, 100).Save(path);
   // The new file would be far past the limit; the old one is well within it.
-  SaveChild child({path.string(), "2", "100000", "20000"});
-  const std::string ready = child.ReadLine();
-  const std::string message = child.ReadLine();
-  const int status = child.Wait();
+  const auto [status, printed] = SaveInAChild(path, {"2", "100000", "20000"});
   if (status == 3) GTEST_SKIP() << "no file size limit can be set here";
-  EXPECT_EQ(ready, "ready");
   EXPECT_EQ(status, 1);
-  EXPECT_EQ(message, Refusal(path, "cannot be written: File too large"));
+  EXPECT_EQ(printed, Refusal(path, "cannot be written: File too large") + "\n");
   EXPECT_EQ(GenerationIn(path, 100), 1);
   EXPECT_EQ(scratch.Temporaries(), std::vector<std::string>());
 }
@@ -298,11 +283,8 @@ TEST(ArchiveFile, ASaveKilledAtAnyMomentLeavesTheOldOrTheNewFileComplete) {
   int held = 0;
   int replaced = 0;
   for (int round = 0; round < kRounds; ++round) {
-    SaveChild child({path.string(), std::to_string(held + 1), std::to_string(kPayload)});
-    ASSERT_EQ(child.ReadLine(), "ready");
-    std::this_thread::sleep_for(std::chrono::microseconds(delay(random)));
-    child.Kill();
-    child.Wait();
+    SaveInAChild(path, {std::to_string(held + 1), std::to_string(kPayload), "0",
+                        std::to_string(delay(random))});
     int found = -1;
     ASSERT_EQ(RaisedText([&] { found = GenerationIn(path, kPayload); }), "ok")
         << "round " << round << ", seed " << seed;

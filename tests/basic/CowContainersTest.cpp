@@ -18,7 +18,7 @@
 #include <utility>
 #include <vector>
 
-TEST(CowList, CopiesShareUntilTheFirstWrite) {
+TEST(CowList, CopiesShareUntilTheFirstWriteEvenOnThreadsAndEditsLookUpAndClear) {
   const cow_List<int> original(std::vector<int>(1'000'000, 7));
   cow_List<int> copy(original);
   EXPECT_TRUE(copy.SharesWith(original));
@@ -29,9 +29,7 @@ TEST(CowList, CopiesShareUntilTheFirstWrite) {
   EXPECT_EQ(original[10], 7);
   EXPECT_EQ(copy[10], 8);
   EXPECT_FALSE(copy == original);
-}
 
-TEST(CowList, EditingOperationsAndLookup) {
   cow_List<cow_String> list{"b", "c"};
   list.Insert(0, "a");
   list.Append("d");
@@ -41,9 +39,8 @@ TEST(CowList, EditingOperationsAndLookup) {
   EXPECT_EQ(list.Find("c"), -1);
   list.Clear();
   EXPECT_TRUE(list.IsEmpty());
-}
 
-TEST(CowList, ConcurrentCopiesOfOneListStayConsistent) {
+  // Concurrent copies of one list, each written, leave it as it was.
   const cow_List<int> shared(std::vector<int>(1000, 1));
   OnThreads(4, [&shared](int t) {
     for (int i = 0; i < 2000; ++i) {
@@ -80,12 +77,9 @@ TEST(CowTextMap, FindsWhatAnOrderedMapHolds) {
     const char* prefix;
     int keys;
     int removeEvery;  // removes keys i with i % removeEvery == 0, then puts back every third
-  } cases[] = {{"one key", "", 1, 1},
-               {"until the first growth", "", 6, 2},
-               {"across growths", "", 100, 3},
-               {"every key out and partly back", "k", 500, 1},
-               {"every seventh", "", 2000, 7},
-               {"one long prefix", "argument", 1000, 2}};
+  } cases[] = {{"one key", "", 1, 1},          {"until the first growth", "", 6, 2},
+               {"across growths", "", 100, 3}, {"every key out and partly back", "k", 500, 1},
+               {"every seventh", "", 2000, 7}, {"one long prefix", "argument", 1000, 2}};
   for (const auto& c : cases) {
     const auto key = [&c](int i) { return c.prefix + std::to_string(i); };
     cow_TextMap<int> map;
@@ -117,17 +111,6 @@ TEST(CowTextMap, FindsWhatAnOrderedMapHolds) {
     auto order = expected.begin();
     for (const auto& [k, v] : map) EXPECT_EQ(k, (order++)->first) << c.name;
   }
-}
-
-TEST(Cow2DArray, IsRowMajorAndResizesToFill) {
-  cow_2DArray<double> array(2, 3, 0.5);
-  array.Set(1, 2, 9.0);
-  EXPECT_EQ(array.Cells()[5], 9.0);
-  const cow_2DArray<double> copy(array);
-  array.Resize(1, 1, 4.0);
-  EXPECT_EQ(copy(1, 2), 9.0);
-  EXPECT_EQ(array.Rows() * array.Columns(), 1);
-  EXPECT_EQ(array(0, 0), 4.0);
 }
 
 namespace {
@@ -212,7 +195,15 @@ TEST(CowList, AnIndexOutsideIsRefusedAndChangesNothing) {
   }
 }
 
-TEST(Cow2DArray, ARowOrColumnOutsideIsRefusedAndChangesNothing) {
+TEST(Cow2DArray, IsRowMajorResizesToFillAndRefusesARowOrColumnOutside) {
+  cow_2DArray<double> grid(2, 3, 0.5);
+  grid.Set(1, 2, 9.0);
+  EXPECT_EQ(grid.Cells()[5], 9.0);
+  const cow_2DArray<double> copy(grid);
+  grid.Resize(1, 1, 4.0);
+  EXPECT_EQ(copy(1, 2), 9.0);
+  EXPECT_EQ(grid.Rows() * grid.Columns(), 1);
+  EXPECT_EQ(grid(0, 0), 4.0);
   using Operation = void (*)(cow_2DArray<double>&, int, int);
   const struct {
     const char* name;
@@ -246,9 +237,8 @@ TEST(CowEquality, ANaNIsNeverEqualEvenOnSharedStorage) {
     return container == std::remove_cvref_t<decltype(container)>(container);
   };
   constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
-  constexpr float kFloatNaN = std::numeric_limits<float>::quiet_NaN();
   EXPECT_FALSE(equalToACopy(cow_List<double>{1.0, NaN}));
-  EXPECT_FALSE(equalToACopy(cow_List<float>{kFloatNaN}));
+  EXPECT_FALSE(equalToACopy(cow_List<float>{std::numeric_limits<float>::quiet_NaN()}));
   EXPECT_FALSE(equalToACopy(cow_List<std::pair<int, double>>{{1, NaN}}));
   EXPECT_FALSE(equalToACopy(cow_Map<cow_String, double>{{"a", NaN}}));
   EXPECT_FALSE(equalToACopy(cow_Map<double, int>{{NaN, 1}}));

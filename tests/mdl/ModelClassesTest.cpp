@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ModelClasses, ExtensionsAndRepositoriesRoundTrip) {
+TEST(ModelClasses, ExtensionsAndRepositoriesRoundTripAndAForeignRowIsRefused) {
   mdl_Repository repository("parts");
   EXPECT_TRUE(repository.AddKey("Part-1"));
   EXPECT_TRUE(repository.AddKey("Part-2"));
@@ -16,10 +16,8 @@ TEST(ModelClasses, ExtensionsAndRepositoriesRoundTrip) {
   ASSERT_EQ(loaded->DynTypeId(), mdl_Repository::TypeId());
   EXPECT_EQ(static_cast<const mdl_Repository&>(*loaded), repository);
   EXPECT_EQ(*RoundTrip<mdl_Extension>(mdl_Extension("ext")), mdl_Extension("ext"));
-}
-
-// Ragged and empty rows round trip in the model-wide identity test.
-TEST(ModelClasses, ARowOfTheWrongKindIsRefused) {
+  // A jagged array's row of the wrong kind is refused (ragged and empty rows round trip in the
+  // model-wide identity test).
   const ForgedRecord rows{mdl_JaggedArray::TypeId(),
                           {{"rows", cls_Value::List{cls_Value::List{1.0}, cow_String("x")}}}};
   EXPECT_THROW(RoundTrip<mdl_JaggedArray>(rows), nex_TextException);

@@ -24,13 +24,6 @@ PropString Holder(mdl_PropAttributeStateEnm state, const char* value = "abc") {
 }
 }  // namespace
 
-TEST(PropAttr, AValueGivenAtConstructionIsNoSetAndCopiesKeepTheUid) {
-  const PropString given(cow_String("steel"));
-  EXPECT_EQ(given, Holder(UNSET, "steel"));
-  EXPECT_NE(given.Uid(), PropString().Uid());
-  EXPECT_EQ(PropString(given).Uid(), given.Uid());
-}
-
 // Holders compare by value and state (checked below), so each outcome is one holder.
 TEST(PropAttr, StateMachineCoversEveryStateAndTransition) {
   for (mdl_PropAttributeStateEnm before : kStates) {
@@ -62,9 +55,13 @@ TEST(PropAttr, StateMachineCoversEveryStateAndTransition) {
   }
 }
 
-// Holders made apart have different identities.
+// Holders made apart have different identities; a value given at construction is no SET, and
+// copies keep the uid.
 TEST(PropAttr, EqualityComparesValueAndStateButNotTheUid) {
-  EXPECT_EQ(Holder(SET), Holder(SET));
+  const PropString given(cow_String("steel"));
+  EXPECT_EQ(given, Holder(UNSET, "steel"));
+  EXPECT_NE(given.Uid(), PropString().Uid());
+  EXPECT_EQ(PropString(given).Uid(), given.Uid());
   EXPECT_NE(Holder(SET), Holder(UNCHANGED));
   EXPECT_NE(Holder(SET, "a"), Holder(SET, "b"));
   EXPECT_TRUE(Holder(SET) == SET && Holder(SET) != FREED);
@@ -132,10 +129,7 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
     holder.ForceState(state);
     cls_Archive archive;
     archive.Add(holder);
-    const cls_Value* written =
-        archive.RootValue(0).As<std::shared_ptr<cls_Record>>()->get()->Find("state");
-    ASSERT_NE(written, nullptr);
-    EXPECT_EQ(written->As<cls_EnumName>()->name, mdl_PropAttributeState(state).Name());
+    EXPECT_EQ(archive.Root(0).ReadEnum("state"), mdl_PropAttributeState(state).Name());
     const auto read = SaveAndLoad(archive, "propattr").template Read<mdl_PropAttr<TypeParam>>(0);
     ASSERT_NE(read, nullptr);
     EXPECT_EQ(*read, holder) << state;
@@ -144,18 +138,16 @@ TYPED_TEST(PropAttrPersistence, RoundTripsThroughAnArchiveFileWithItsStateByName
   }
 }
 
-namespace {
-// An mdl_PropInt record as a foreign or damaged archive could hold it.
-ForgedRecord PropInt(cls_Value val, const char* state) {
-  return {mdl_PropAttr<int>::TypeId(), {{"val", val}, {"state", cls_EnumName{state}}}, cls_Uid(99)};
-}
-}  // namespace
-
 // The enumeration's message is checked with the enumerations.
 TEST(PropAttrPersistence, AnUnknownStateOrAValueOfTheWrongKindIsRefused) {
-  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(std::int32_t{3}, "set")),
+  // An mdl_PropInt record as a foreign or damaged archive could hold it.
+  const auto propInt = [](cls_Value val, const char* state) {
+    return ForgedRecord{
+        mdl_PropAttr<int>::TypeId(), {{"val", val}, {"state", cls_EnumName{state}}}, cls_Uid(99)};
+  };
+  EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(propInt(std::int32_t{3}, "set")),
                omu_ValueErrorException);
   for (const cls_Value& val : {cls_Value(2.5), cls_Value()}) {
-    EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(PropInt(val, "SET")), nex_TextException);
+    EXPECT_THROW(RoundTrip<mdl_PropAttr<int>>(propInt(val, "SET")), nex_TextException);
   }
 }
