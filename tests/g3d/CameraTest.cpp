@@ -311,14 +311,10 @@ TEST(CameraTest, UnprojectInvertsToWindow) {
   }
 }
 
-// Every operation clears the user mark; long runs of everyday operations, which once left the
-// float range, stay finite.
+// Every operation clears the user mark and leaves the camera finite. The long runs that once left
+// the float range are the camera fuzzer's named seeds (dolly-out, clipping, fov-without-near,
+// near-beyond-target, pan-at-tiny-near), which CI replays under the same finiteness check.
 TEST(CameraTest, OperationsClearTheUserMarkAndStayFinite) {
-  const auto repeat = [](int n, const std::function<void(g3d_Camera&)>& step) {
-    return [=](g3d_Camera& c) {
-      for (int i = 0; i < n; ++i) step(c);
-    };
-  };
   const struct {
     const char* what;
     std::function<void(g3d_Camera&)> run;
@@ -328,27 +324,11 @@ TEST(CameraTest, OperationsClearTheUserMarkAndStayFinite) {
       {"near and far", [](g3d_Camera& c) { c.SetNearFar(0.5f, 100); }},
       {"projection", [](g3d_Camera& c) { c.SetProjection(PARALLEL_PROJECTION); }},
       {"zoom", [](g3d_Camera& c) { c.Zoom(10, false); }},
+      {"zoom to a point", [](g3d_Camera& c) { c.ZoomTo(0.1f, 0.1f, 20, false, false); }},
       {"field of view", [](g3d_Camera& c) { c.SetFieldOfView(40, true); }},
       {"pan", [](g3d_Camera& c) { c.Pan(0.1f, 0, 0, false); }},
       {"rotate", [](g3d_Camera& c) { c.Rotate(10, g3d_Vector(0, 1, 0), false); }},
       {"fit", [](g3d_Camera& c) { c.Fit(g3d_Sphere()); }},
-      {"zoom to a point without a near plane (its pans once divided by zero)",
-       [](g3d_Camera& c) { c.SetNearFar(0, -7.875f).ZoomTo(-16, -16, -128, false, false); }},
-      {"switch without a near plane, then a zero field of view",
-       [](g3d_Camera& c) { c.SetNearFar(0, -7.875f).MakeParallel().SetFieldOfView(0, false); }},
-      {"dolly out", repeat(20, [](g3d_Camera& c) { c.Zoom(-99, true); })},
-      {"near far beyond a close target, then a zero field of view",
-       [&](g3d_Camera& c) {
-         repeat(3, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
-         c.SetNearFar(99.6f, 992);
-         repeat(10, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
-         c.SetFieldOfView(0, false);
-       }},
-      {"a tiny near plane, then a pan",
-       [&](g3d_Camera& c) {
-         repeat(22, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
-         c.SetLocation({0, 0, 80}, {0, 0, 0}, {0, 1, 0}).Pan(20, 20, 0, false);
-       }},
   };
   for (const auto& c : cases) {
     g3d_Camera camera;

@@ -1,4 +1,5 @@
 // Colours: packing, text, HSV, names, palettes and ramps.
+#include "G3dTestSupport.h"
 #include "OnThreads.h"
 #include "RaisedText.h"
 
@@ -17,12 +18,8 @@
 namespace {
 constexpr float kByte = 0.003921568859368563f;
 
-void ExpectColor(const g3d_Color& c, float r, float g, float b, float a, float tol = 1e-6f) {
-  EXPECT_NEAR(c.r, r, tol);
-  EXPECT_NEAR(c.g, g, tol);
-  EXPECT_NEAR(c.b, b, tol);
-  EXPECT_NEAR(c.a, a, tol);
-}
+// The channels as a point, for ExpectNear.
+g3d_Point Rgba(const g3d_Color& c) { return {c.r, c.g, c.b, c.a}; }
 
 TEST(ColorTest, PackingTruncatesAndPresetsTakeTheAlpha) {
   EXPECT_EQ(g3d_Color().Set(0xFF800000u), g3d_Color(1, 128 * kByte, 0, 0));
@@ -63,8 +60,9 @@ TEST(ColorTest, NamesResolveOrRaiseColorError) {
 // Run alone, as ctest runs each test, the threads are the map's first users; under
 // ThreadSanitizer this fails if they race to make it.
 TEST(ColorTest, NamesResolveOnSeveralThreadsAtOnce) {
-  OnThreads(2,
-            [](int) { ExpectColor(g3d_ColorMap::Instance().Lookup("Sky blue"), 0, 0.8f, 1, 1); });
+  OnThreads(2, [](int) {
+    ExpectNear(Rgba(g3d_ColorMap::Instance().Lookup("Sky blue")), {0, 0.8f, 1, 1});
+  });
 }
 
 TEST(ColorTest, HsvBothWays) {
@@ -87,11 +85,11 @@ TEST(ColorTest, HsvBothWays) {
       {{nan, 1, 1}, start, "a NaN hue leaves the colour"}};
   for (const auto& [hsv, expected, what] : sets) {
     SCOPED_TRACE(what);
-    ExpectColor(g3d_Color(start).SetHSV(hsv), expected.r, expected.g, expected.b, expected.a);
+    ExpectNear(Rgba(g3d_Color(start).SetHSV(hsv)), Rgba(expected));
   }
   for (const g3d_Color c : {g3d_Color(0.2f, 0.7f, 0.1f), g3d_Color(0.9f, 0.3f, 0.5f),
                             g3d_Color(0.1f, 0.4f, 0.8f), g3d_Color(1, 1, 0)}) {
-    ExpectColor(g3d_Color().SetHSV(c.GetHSV()), c.r, c.g, c.b, 1, 1e-6f);
+    ExpectNear(Rgba(g3d_Color().SetHSV(c.GetHSV())), Rgba(c));
   }
 }
 
