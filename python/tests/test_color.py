@@ -11,16 +11,12 @@ BYTE = f32(1) / f32(255)  # the library's byte scale
 NAMES = ColorMap.names()
 
 
-def components(*values):
-    return tuple(float(f32(v)) for v in values)
-
-
 # The table's colours, hex texts and HSV are tests/g3d/ColorTest.cpp's; here the calls that reach them.
 def test_table_lists_its_names_once_each_in_byte_order_and_names_and_texts_give_their_colours():
     assert NAMES == sorted(set(NAMES)) and ColorMap.count() == len(NAMES) > 0
-    assert ColorMap.lookup("Sky blue").components == components(0, 0.8, 1, 1)
+    assert ColorMap.lookup("Sky blue") == Color(0, 0.8, 1, 1)
     assert ColorMap.find("Gold") == Color.from_name("Gold") == Color(1, 0.844, 0, 1)
-    assert Color.from_name("#0A", 0.5).components == components(10 * BYTE, 0, 0, 0.5)
+    assert Color.from_name("#0A", 0.5) == Color(10 * BYTE, 0, 0, 0.5)
 
 
 @pytest.mark.parametrize("call", [

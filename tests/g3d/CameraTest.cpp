@@ -92,7 +92,8 @@ TEST(CameraTest, WindowLimits) {
   }
 }
 
-TEST(CameraTest, ZoomPercentagesAndLimits) {
+// A plain zoom scales the window within its limits; a dolly zoom moves the eye instead.
+TEST(CameraTest, ZoomPercentagesLimitsAndDolly) {
   const struct {
     float percent, scale;
   } cases[] = {{50, 0.5f}, {-50, 2}, {150, 0.01f}, {-150, 100}, {99, 0.01f}, {0, 1}};
@@ -101,9 +102,6 @@ TEST(CameraTest, ZoomPercentagesAndLimits) {
     EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 2 * c.scale) << c.percent;
     EXPECT_FLOAT_EQ(camera.GetWindowHeight(), c.scale) << c.percent;
   }
-}
-
-TEST(CameraTest, DollyZoomMovesTheEyeAndKeepsTheFieldOfView) {
   g3d_Camera camera = Looking({0, 0, 10}).SetNearFar(1, 20);
   const float fov = camera.GetFieldOfView();
   const auto spot = OnScreen(camera, {0.5f, 0, 0});

@@ -140,7 +140,7 @@ TEST(ColorArrayTest, PaletteStoresClampedPackedColors) {
   EXPECT_EQ(palette.Length(), 0);
 }
 
-TEST(ColorRampTest, RainbowRunsRedToBlue) {
+TEST(ColorRampTest, RainbowGreysWrapAndInterpolation) {
   const g3d_Color red(1, 0, 0, 0.5f), green(0, 1, 0, 0.5f), blue(0, 0, 1, 0.5f);
   g3d_Color ramp[3];
   g3d_Utils::Rainbow(ramp, 3, false, 0.5f);
@@ -152,9 +152,6 @@ TEST(ColorRampTest, RainbowRunsRedToBlue) {
   g3d_Color one[1];
   g3d_Utils::Rainbow(one, 1, false, 1);
   EXPECT_EQ(one[0], g3d_Color(1, 0, 0));
-}
-
-TEST(ColorRampTest, GreysWrapAndInterpolation) {
   g3d_Color greys[5];
   g3d_Utils::BlackToWhite(greys, 5, false, 1);
   const g3d_Color black(0, 0, 0), grey(0.5f, 0.5f, 0.5f), white(1, 1, 1);

@@ -53,23 +53,19 @@ protected:
   }
 };
 
-TEST_F(GeomUtilsTest, ToleranceAndStrictComparison) {
+// Strict comparison; a vector shorter than the tolerance is not normalized; collinearity uses
+// the absolute area; the tolerance is read on every call.
+TEST_F(GeomUtilsTest, Tolerances) {
   EXPECT_FALSE(EqualValue(1, 1 + 1e-5, 1e-5));
   EXPECT_TRUE(EqualValue(1, 1 + 0.9e-5, 1e-5));
   EXPECT_FALSE(EqualPoint(S(0, 0, 0), S(0, 0, 2e-5), 1e-5));
-}
-
-TEST_F(GeomUtilsTest, NormalizeVectorBelowToleranceIsUnchanged) {
   EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1e-6f, 0, 0));
   EXPECT_EQ(g3d_NormalizeVector({0, 2, 0}), g3d_Vector(0, 1, 0));
-  setTolerance(1e-7);
-  EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1, 0, 0));
-}
-
-TEST_F(GeomUtilsTest, CollinearityUsesAbsoluteArea) {
   EXPECT_TRUE(PointsCollinear(S(0, 0, 0), S(1, 1, 1), S(3, 3, 3)));
   EXPECT_FALSE(PointsCollinear(S(0, 0, 0), S(1, 0, 0), S(0, 1e-4, 0)));
-  setTolerance(1e-3);  // the tolerance is read on every call
+  setTolerance(1e-7);
+  EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1, 0, 0));
+  setTolerance(1e-3);
   EXPECT_TRUE(PointsCollinear(P(0, 0, 0), P(1, 0, 0), P(0, 1e-4f, 0)));
 }
 

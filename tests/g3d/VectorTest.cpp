@@ -32,10 +32,7 @@ TEST(VectorTest, FloatResults) {
   for (const auto& c : cases) EXPECT_EQ(c.got, c.expected) << c.what;
   EXPECT_TRUE(std::isinf((g3d_Vector(0.1f, 0.2f, 0.3f) / 0.0f).x));  // unguarded
   EXPECT_EQ(g3d_TripleProduct(g3d_Vector(1, 0, 0), g3d_Vector(0, 1, 0), g3d_Vector(0, 0, 2)), 2.0f);
-}
-
-TEST(VectorTest, NormalizeLeavesUnitVectorsBitForBit) {
-  g3d_Vector unit(0.6f, 0.8f, 0.0f);  // 1/L * v would perturb it
+  g3d_Vector unit(0.6f, 0.8f, 0.0f);  // normalized bit for bit: 1/L * v would perturb it
   ASSERT_EQ(unit.Length(), 1.0f);
   const g3d_Vector before = unit;
   EXPECT_EQ(std::memcmp(&unit.Normalize(), &before, sizeof before), 0);
