@@ -10,7 +10,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <limits>
 #include <utility>
 
@@ -315,7 +314,7 @@ TEST(CameraTest, UnprojectInvertsToWindow) {
 TEST(CameraTest, OperationsClearTheUserMarkAndStayFinite) {
   const struct {
     const char* what;
-    std::function<void(g3d_Camera&)> run;
+    void (*run)(g3d_Camera&);
   } cases[] = {
       {"set location",
        [](g3d_Camera& c) { c.SetLocation(g3d_Point(0, 0, 3), {}, g3d_Vector(0, 1, 0)); }},

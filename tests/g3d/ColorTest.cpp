@@ -32,7 +32,8 @@ TEST(ColorTest, PackingTruncatesAndPresetsTakeTheAlpha) {
   EXPECT_EQ(g3d_Color(c).Set(static_cast<g3d_PresetColorEnum>(17), 1.0f), c);
 }
 
-TEST(ColorTest, HexText) {
+// A hex text is read as far as it scans and anything else is left; a name resolves or raises.
+TEST(ColorTest, HexTextsAndNames) {
   const g3d_Color untouched(0.25f, 0.25f, 0.25f, 0.25f);
   const struct {
     const char* text;
@@ -47,9 +48,6 @@ TEST(ColorTest, HexText) {
   for (const auto& c : cases) {
     EXPECT_EQ(g3d_Color(untouched).Set(cow_String(c.text), 1.0f), c.expected) << c.text;
   }
-}
-
-TEST(ColorTest, NamesResolveOrRaiseColorError) {
   EXPECT_EQ(g3d_Color().SetByName("Gold", 0.5f), g3d_Color(1, 0.844f, 0, 0.5f));
   EXPECT_EQ(g3d_Color().SetByName("#0000FF", 1), g3d_Color(0, 0, 1, 1));
   // The class's message and script name are checked with the scripting errors.

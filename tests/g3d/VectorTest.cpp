@@ -1,4 +1,5 @@
-// Vectors, points, the double-precision helpers, and archive round trips of vectors and points.
+// Vectors, points, the double-precision helpers, printing, and archive round trips of vectors and
+// points.
 #include "G3dTestSupport.h"
 #include "LibraryEnvironment.h"
 #include "TestArchive.h"
@@ -71,9 +72,12 @@ TEST(StorageTest, DoubleHelpers) {
   EXPECT_GT(g3d_AngleWith(x, g3d_Storage(1, 1e-3, 0), false, 0), 0.0);
 }
 
-TEST(VectorTest, PrintsComponentsAsDoubles) {
+// Components as doubles; a transform's rows in braces.
+TEST(G3dPrintTest, VectorsPointsAndTransforms) {
   EXPECT_EQ(Printed(g3d_Vector(1, -2.5f, 0)) + " " + Printed(g3d_Point(0.5f, 0, 0)),
             "(1, -2.5, 0) (0.5, 0, 0, 1)");
+  EXPECT_EQ(Printed(g3d_XForm().SetTranslate(g3d_Vector(0.5f, 0, -2))),
+            "\n{\n  1 0 0 0.5\n  0 1 0 0\n  0 0 1 -2\n  0 0 0 1\n}\n");
 }
 
 // The colour error round trips with the scripting errors in omu.
