@@ -39,10 +39,6 @@ cls_Archive Rewrite(const cls_Archive& archive) {
   }
   return rewritten;
 }
-
-void Check(bool holds) {
-  if (!holds) __builtin_trap();
-}
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -57,9 +53,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::ostringstream dump;
     archive.Dump(dump);
     const std::string saved = archive.ToBytes();
-    Check(cls_Archive::FromBytes(saved).ToBytes() == saved);
+    if (cls_Archive::FromBytes(saved).ToBytes() != saved) __builtin_trap();
     const std::string objects = Rewrite(archive).ToBytes();
-    Check(Rewrite(cls_Archive::FromBytes(objects)).ToBytes() == objects);
+    if (Rewrite(cls_Archive::FromBytes(objects)).ToBytes() != objects) __builtin_trap();
   } catch (const nex_Exception&) {
   }
   return 0;

@@ -18,13 +18,6 @@ g3d_Point Point(FuzzInput& in) { return {Number(in, 100), Number(in, 100), Numbe
 g3d_Vector Vector(FuzzInput& in) { return {Number(in, 1), Number(in, 1), Number(in, 1)}; }
 bool Flag(FuzzInput& in) { return in.Byte() % 2 != 0; }
 
-void Check(const g3d_Camera& camera, int step) {
-  if (const char* broken = NotFinitePart(camera)) {
-    std::fprintf(stderr, "camera %s not finite after step %d\n", broken, step);
-    __builtin_trap();
-  }
-}
-
 // The operations, chosen by a step's first byte; the seeds rely on their order. Arguments are
 // read into locals first, as a call's arguments have no order of evaluation.
 using Step = void (*)(g3d_Camera&, FuzzInput&);
@@ -106,7 +99,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   g3d_Camera camera;
   for (int step = 0; !in.Empty() && step < 64; ++step) {
     kSteps[in.Byte() % std::size(kSteps)](camera, in);
-    Check(camera, step);
+    if (const char* broken = NotFinitePart(camera)) {
+      std::fprintf(stderr, "camera %s not finite after step %d\n", broken, step);
+      __builtin_trap();
+    }
   }
   return 0;
 }

@@ -11,10 +11,8 @@
 #include <cstdint>
 
 namespace {
-g3d_Point Point(FuzzInput& in) {
-  const float x = in.Raw<float>(), y = in.Raw<float>(), z = in.Raw<float>();
-  return {x, y, z};
-}
+// A braced list evaluates in order: x, y, z.
+g3d_Point Point(FuzzInput& in) { return {in.Raw<float>(), in.Raw<float>(), in.Raw<float>()}; }
 
 cow_List<g3d_Point> Polygon(FuzzInput& in) {
   cow_List<g3d_Point> polygon;

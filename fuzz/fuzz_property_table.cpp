@@ -23,11 +23,8 @@ double Value(std::uint8_t byte) {
 
 bool HasZeroRow(const cow_2DArray<double>& cells, bool allowEmptyFirstRow) {
   for (int row = allowEmptyFirstRow ? 1 : 0; row < cells.Rows(); ++row) {
-    bool allZero = true;
-    for (int column = 0; column < cells.Columns(); ++column) {
-      allZero = allZero && cells(row, column) == 0.0;
-    }
-    if (allZero) return true;
+    const auto first = cells.Cells().begin() + row * cells.Columns();
+    if (std::all_of(first, first + cells.Columns(), [](double v) { return v == 0.0; })) return true;
   }
   return false;
 }

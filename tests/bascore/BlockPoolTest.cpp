@@ -18,10 +18,6 @@ namespace {
 unsigned char Mark(std::size_t thread, std::size_t i) {
   return static_cast<unsigned char>(thread * 31 + i);
 }
-
-bool Intact(const unsigned char* block, std::size_t size, unsigned char mark) {
-  return std::all_of(block, block + size, [mark](unsigned char byte) { return byte == mark; });
-}
 }  // namespace
 
 TEST(BlockPool, AFreedBlockIsReusedAndBlocksStayDistinctAcrossThreadsAndFreeAnywhere) {
@@ -98,7 +94,7 @@ TEST(BlockPool, ConcurrentChurnKeepsBlocksDistinctAndIntact) {
     std::vector<std::vector<Marked>> mailboxes(kThreads);
     std::atomic<std::size_t> faults{0};
     const auto release = [&](const Marked& block) {
-      faults += !Intact(block.first, size, block.second);
+      faults += std::count(block.first, block.first + size, block.second) != std::ptrdiff_t(size);
       mem_BlockPool::Free(block.first, size);
     };
     OnThreads(kThreads, [&](int t) {

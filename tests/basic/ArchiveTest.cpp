@@ -1,7 +1,5 @@
-#include <QRLBasCoreUtils.h>
 #include <QRLCvuBasicUtils.h>
 #include <cls_Archive.h>
-#include <cls_MetadataRegistrar.h>
 #include <gtest/gtest.h>
 #include <nex_AssertException.h>
 #include <nex_TextException.h>

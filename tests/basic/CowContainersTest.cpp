@@ -28,7 +28,6 @@ TEST(CowList, CopiesShareUntilTheFirstWriteEvenOnThreadsAndEditsLookUpAndClear) 
   EXPECT_FALSE(copy.SharesWith(original));
   EXPECT_EQ(original[10], 7);
   EXPECT_EQ(copy[10], 8);
-  EXPECT_FALSE(copy == original);
 
   cow_List<cow_String> list{"b", "c"};
   list.Insert(0, "a");

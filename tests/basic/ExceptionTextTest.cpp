@@ -22,17 +22,14 @@ std::unique_ptr<nex_Exception> Caught(const std::function<void()>& raise) {
   }
   return nullptr;
 }
-
-std::string Expected(const nex_Exception& e) {
-  return std::string(kText) + " [cow/impl/cow_Test:" + std::to_string(e.SourceLine()) + "]";
-}
 }  // namespace
 
 TEST(ExceptionText, WhatStaysPutOnTheOriginalAndItsCopies) {
   const auto raised = Caught([] { NEX_THROW(nex_TextException(kText), "cow/impl/cow_Test"); });
   const auto& original = dynamic_cast<const nex_TextException&>(*raised);
   // Under ThreadSanitizer this fails if what(), first called here, writes to the exception.
-  const std::string expected = Expected(original);
+  const std::string expected =
+      std::string(kText) + " [cow/impl/cow_Test:" + std::to_string(original.SourceLine()) + "]";
   OnThreads(4, [&original, &expected](int) {
     for (int i = 0; i < 200; ++i) ASSERT_EQ(original.what(), expected);
   });

@@ -29,7 +29,7 @@ TEST(SphereTest, Unions) {
   }
 }
 
-TEST(BoundingVolumeTest, DefaultCubeAndGrowth) {
+TEST(BoundingVolumeTest, DefaultCubeGrowthAndExtent) {
   g3d_BoundingVolume volume;
   EXPECT_EQ(volume.Count(), 0u);
   volume.Reset();
@@ -48,17 +48,12 @@ TEST(BoundingVolumeTest, DefaultCubeAndGrowth) {
   EXPECT_EQ(std::tuple(big.Count(), big.Vertexes()[16]), std::tuple(17u, g3d_Point(-1, -1, -1)));
   volume.Reset();
   EXPECT_TRUE(volume.IsDefault());
-}
-
-TEST(BoundingVolumeTest, BoxAndExtent) {
-  g3d_BoundingVolume box;
-  box.SetToRectangleBox({0, 0, 0}, {2, 4, 4});
   g3d_Sphere extent;
-  box.GetExtent(extent);
-  EXPECT_EQ(extent, g3d_Sphere(g3d_Point(1, 2, 2), 3));
-  g3d_BoundingVolume empty;
-  empty.GetExtent(extent);
+  g3d_BoundingVolume().GetExtent(extent);
   EXPECT_TRUE(extent.IsEmpty());
+  volume.SetToRectangleBox({0, 0, 0}, {2, 4, 4});
+  volume.GetExtent(extent);
+  EXPECT_EQ(extent, g3d_Sphere(g3d_Point(1, 2, 2), 3));
 }
 
 TEST(LightTest, LatitudeAndLongitude) {

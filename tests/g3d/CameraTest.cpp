@@ -10,7 +10,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <limits>
 #include <utility>
 
@@ -92,7 +91,8 @@ TEST(CameraTest, WindowLimits) {
   }
 }
 
-TEST(CameraTest, ZoomPercentagesAndLimits) {
+// A plain zoom scales the window within its limits; a dolly zoom moves the eye instead.
+TEST(CameraTest, ZoomPercentagesLimitsAndDolly) {
   const struct {
     float percent, scale;
   } cases[] = {{50, 0.5f}, {-50, 2}, {150, 0.01f}, {-150, 100}, {99, 0.01f}, {0, 1}};
@@ -101,9 +101,6 @@ TEST(CameraTest, ZoomPercentagesAndLimits) {
     EXPECT_FLOAT_EQ(camera.GetWindowWidth(), 2 * c.scale) << c.percent;
     EXPECT_FLOAT_EQ(camera.GetWindowHeight(), c.scale) << c.percent;
   }
-}
-
-TEST(CameraTest, DollyZoomMovesTheEyeAndKeepsTheFieldOfView) {
   g3d_Camera camera = Looking({0, 0, 10}).SetNearFar(1, 20);
   const float fov = camera.GetFieldOfView();
   const auto spot = OnScreen(camera, {0.5f, 0, 0});
@@ -311,44 +308,24 @@ TEST(CameraTest, UnprojectInvertsToWindow) {
   }
 }
 
-// Every operation clears the user mark; long runs of everyday operations, which once left the
-// float range, stay finite.
+// Every operation clears the user mark and leaves the camera finite. The long runs that once left
+// the float range are the camera fuzzer's named seeds (dolly-out, clipping, fov-without-near,
+// near-beyond-target, pan-at-tiny-near), which CI replays under the same finiteness check.
 TEST(CameraTest, OperationsClearTheUserMarkAndStayFinite) {
-  const auto repeat = [](int n, const std::function<void(g3d_Camera&)>& step) {
-    return [=](g3d_Camera& c) {
-      for (int i = 0; i < n; ++i) step(c);
-    };
-  };
   const struct {
     const char* what;
-    std::function<void(g3d_Camera&)> run;
+    void (*run)(g3d_Camera&);
   } cases[] = {
       {"set location",
        [](g3d_Camera& c) { c.SetLocation(g3d_Point(0, 0, 3), {}, g3d_Vector(0, 1, 0)); }},
       {"near and far", [](g3d_Camera& c) { c.SetNearFar(0.5f, 100); }},
       {"projection", [](g3d_Camera& c) { c.SetProjection(PARALLEL_PROJECTION); }},
       {"zoom", [](g3d_Camera& c) { c.Zoom(10, false); }},
+      {"zoom to a point", [](g3d_Camera& c) { c.ZoomTo(0.1f, 0.1f, 20, false, false); }},
       {"field of view", [](g3d_Camera& c) { c.SetFieldOfView(40, true); }},
       {"pan", [](g3d_Camera& c) { c.Pan(0.1f, 0, 0, false); }},
       {"rotate", [](g3d_Camera& c) { c.Rotate(10, g3d_Vector(0, 1, 0), false); }},
       {"fit", [](g3d_Camera& c) { c.Fit(g3d_Sphere()); }},
-      {"zoom to a point without a near plane (its pans once divided by zero)",
-       [](g3d_Camera& c) { c.SetNearFar(0, -7.875f).ZoomTo(-16, -16, -128, false, false); }},
-      {"switch without a near plane, then a zero field of view",
-       [](g3d_Camera& c) { c.SetNearFar(0, -7.875f).MakeParallel().SetFieldOfView(0, false); }},
-      {"dolly out", repeat(20, [](g3d_Camera& c) { c.Zoom(-99, true); })},
-      {"near far beyond a close target, then a zero field of view",
-       [&](g3d_Camera& c) {
-         repeat(3, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
-         c.SetNearFar(99.6f, 992);
-         repeat(10, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
-         c.SetFieldOfView(0, false);
-       }},
-      {"a tiny near plane, then a pan",
-       [&](g3d_Camera& c) {
-         repeat(22, [](g3d_Camera& c) { c.Zoom(99, true); })(c);
-         c.SetLocation({0, 0, 80}, {0, 0, 0}, {0, 1, 0}).Pan(20, 20, 0, false);
-       }},
   };
   for (const auto& c : cases) {
     g3d_Camera camera;

@@ -1,4 +1,5 @@
 // Colours: packing, text, HSV, names, palettes and ramps.
+#include "G3dTestSupport.h"
 #include "OnThreads.h"
 #include "RaisedText.h"
 
@@ -17,12 +18,8 @@
 namespace {
 constexpr float kByte = 0.003921568859368563f;
 
-void ExpectColor(const g3d_Color& c, float r, float g, float b, float a, float tol = 1e-6f) {
-  EXPECT_NEAR(c.r, r, tol);
-  EXPECT_NEAR(c.g, g, tol);
-  EXPECT_NEAR(c.b, b, tol);
-  EXPECT_NEAR(c.a, a, tol);
-}
+// The channels as a point, for ExpectNear.
+g3d_Point Rgba(const g3d_Color& c) { return {c.r, c.g, c.b, c.a}; }
 
 TEST(ColorTest, PackingTruncatesAndPresetsTakeTheAlpha) {
   EXPECT_EQ(g3d_Color().Set(0xFF800000u), g3d_Color(1, 128 * kByte, 0, 0));
@@ -35,7 +32,8 @@ TEST(ColorTest, PackingTruncatesAndPresetsTakeTheAlpha) {
   EXPECT_EQ(g3d_Color(c).Set(static_cast<g3d_PresetColorEnum>(17), 1.0f), c);
 }
 
-TEST(ColorTest, HexText) {
+// A hex text is read as far as it scans and anything else is left; a name resolves or raises.
+TEST(ColorTest, HexTextsAndNames) {
   const g3d_Color untouched(0.25f, 0.25f, 0.25f, 0.25f);
   const struct {
     const char* text;
@@ -50,9 +48,6 @@ TEST(ColorTest, HexText) {
   for (const auto& c : cases) {
     EXPECT_EQ(g3d_Color(untouched).Set(cow_String(c.text), 1.0f), c.expected) << c.text;
   }
-}
-
-TEST(ColorTest, NamesResolveOrRaiseColorError) {
   EXPECT_EQ(g3d_Color().SetByName("Gold", 0.5f), g3d_Color(1, 0.844f, 0, 0.5f));
   EXPECT_EQ(g3d_Color().SetByName("#0000FF", 1), g3d_Color(0, 0, 1, 1));
   // The class's message and script name are checked with the scripting errors.
@@ -63,8 +58,9 @@ TEST(ColorTest, NamesResolveOrRaiseColorError) {
 // Run alone, as ctest runs each test, the threads are the map's first users; under
 // ThreadSanitizer this fails if they race to make it.
 TEST(ColorTest, NamesResolveOnSeveralThreadsAtOnce) {
-  OnThreads(2,
-            [](int) { ExpectColor(g3d_ColorMap::Instance().Lookup("Sky blue"), 0, 0.8f, 1, 1); });
+  OnThreads(2, [](int) {
+    ExpectNear(Rgba(g3d_ColorMap::Instance().Lookup("Sky blue")), {0, 0.8f, 1, 1});
+  });
 }
 
 TEST(ColorTest, HsvBothWays) {
@@ -87,11 +83,11 @@ TEST(ColorTest, HsvBothWays) {
       {{nan, 1, 1}, start, "a NaN hue leaves the colour"}};
   for (const auto& [hsv, expected, what] : sets) {
     SCOPED_TRACE(what);
-    ExpectColor(g3d_Color(start).SetHSV(hsv), expected.r, expected.g, expected.b, expected.a);
+    ExpectNear(Rgba(g3d_Color(start).SetHSV(hsv)), Rgba(expected));
   }
   for (const g3d_Color c : {g3d_Color(0.2f, 0.7f, 0.1f), g3d_Color(0.9f, 0.3f, 0.5f),
                             g3d_Color(0.1f, 0.4f, 0.8f), g3d_Color(1, 1, 0)}) {
-    ExpectColor(g3d_Color().SetHSV(c.GetHSV()), c.r, c.g, c.b, 1, 1e-6f);
+    ExpectNear(Rgba(g3d_Color().SetHSV(c.GetHSV())), Rgba(c));
   }
 }
 
@@ -142,7 +138,7 @@ TEST(ColorArrayTest, PaletteStoresClampedPackedColors) {
   EXPECT_EQ(palette.Length(), 0);
 }
 
-TEST(ColorRampTest, RainbowRunsRedToBlue) {
+TEST(ColorRampTest, RainbowGreysWrapAndInterpolation) {
   const g3d_Color red(1, 0, 0, 0.5f), green(0, 1, 0, 0.5f), blue(0, 0, 1, 0.5f);
   g3d_Color ramp[3];
   g3d_Utils::Rainbow(ramp, 3, false, 0.5f);
@@ -154,9 +150,6 @@ TEST(ColorRampTest, RainbowRunsRedToBlue) {
   g3d_Color one[1];
   g3d_Utils::Rainbow(one, 1, false, 1);
   EXPECT_EQ(one[0], g3d_Color(1, 0, 0));
-}
-
-TEST(ColorRampTest, GreysWrapAndInterpolation) {
   g3d_Color greys[5];
   g3d_Utils::BlackToWhite(greys, 5, false, 1);
   const g3d_Color black(0, 0, 0), grey(0.5f, 0.5f, 0.5f), white(1, 1, 1);

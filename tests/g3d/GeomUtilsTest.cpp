@@ -53,36 +53,30 @@ protected:
   }
 };
 
-TEST_F(GeomUtilsTest, ToleranceAndStrictComparison) {
+// Strict comparison; a vector shorter than the tolerance is not normalized; collinearity uses
+// the absolute area; the tolerance is read on every call.
+TEST_F(GeomUtilsTest, Tolerances) {
   EXPECT_FALSE(EqualValue(1, 1 + 1e-5, 1e-5));
   EXPECT_TRUE(EqualValue(1, 1 + 0.9e-5, 1e-5));
   EXPECT_FALSE(EqualPoint(S(0, 0, 0), S(0, 0, 2e-5), 1e-5));
-}
-
-TEST_F(GeomUtilsTest, NormalizeVectorBelowToleranceIsUnchanged) {
   EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1e-6f, 0, 0));
   EXPECT_EQ(g3d_NormalizeVector({0, 2, 0}), g3d_Vector(0, 1, 0));
-  setTolerance(1e-7);
-  EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1, 0, 0));
-}
-
-TEST_F(GeomUtilsTest, CollinearityUsesAbsoluteArea) {
   EXPECT_TRUE(PointsCollinear(S(0, 0, 0), S(1, 1, 1), S(3, 3, 3)));
   EXPECT_FALSE(PointsCollinear(S(0, 0, 0), S(1, 0, 0), S(0, 1e-4, 0)));
-  setTolerance(1e-3);  // the tolerance is read on every call
+  setTolerance(1e-7);
+  EXPECT_EQ(g3d_NormalizeVector({1e-6f, 0, 0}), g3d_Vector(1, 0, 0));
+  setTolerance(1e-3);
   EXPECT_TRUE(PointsCollinear(P(0, 0, 0), P(1, 0, 0), P(0, 1e-4f, 0)));
 }
 
-TEST_F(GeomUtilsTest, PointInPlaneRescalesToTheCallersVectors) {
+// A point in a plane is given in the caller's vectors; a point on a line by its parameter.
+TEST_F(GeomUtilsTest, PointInPlaneAndOnLine) {
   double s = 0, t = 0;
   ASSERT_TRUE(PointInPlane(S(3, 8, 5), S(1, 0, 5), S(2, 0, 0), S(0, 4, 0), s, t));
   EXPECT_NEAR(s, 1.0, 1e-12);
   EXPECT_NEAR(t, 2.0, 1e-12);
   EXPECT_FALSE(PointInPlane(S(3, 8, 6), S(1, 0, 5), S(2, 0, 0), S(0, 4, 0), s, t));  // off plane
   EXPECT_FALSE(PointInPlane(S(3, 8, 5), S(1, 0, 5), S(2, 0, 0), S(4, 0, 0), s, t));  // parallel
-}
-
-TEST_F(GeomUtilsTest, LinePointParameterAndDistance) {
   double param = 0;
   EXPECT_TRUE(LinePointIntersection(S(0, 0, 0), S(4, 0, 0), S(1, 0, 0), param, true));
   EXPECT_DOUBLE_EQ(param, 0.25);
@@ -130,15 +124,12 @@ TEST_F(GeomUtilsTest, Intersections) {
   for (const auto& c : cases) EXPECT_EQ(c.got, c.expected) << c.what;
 }
 
-TEST_F(GeomUtilsTest, SegmentsIn2D) {
+TEST_F(GeomUtilsTest, SegmentsPolygonRangeAndPointInside) {
   EXPECT_TRUE(SegmentsIntersect2D(P(0, 0, 0), P(2, 2, 0), P(0, 2, 0), P(2, 0, 0)));
   EXPECT_TRUE(SegmentsIntersect2D(P(0, 0, 0), P(1, 0, 0), P(1, 0, 0), P(1, 5, 0)));  // touching
   EXPECT_TRUE(SegmentsIntersect2D(P(0, 0, 0), P(2, 0, 0), P(1, 0, 0), P(3, 0, 0)));  // overlap
   EXPECT_FALSE(SegmentsIntersect2D(P(0, 0, 0), P(1, 0, 0), P(2, 0, 0), P(3, 0, 0)));
   EXPECT_FALSE(SegmentsIntersect2D(P(0, 0, 0), P(1, 1, 0), P(0, 1, 0), P(0.4f, 0.6f, 0)));
-}
-
-TEST_F(GeomUtilsTest, PolygonRangeAndPointInside) {
   const cow_List<g3d_Point> square{P(0, 0, 0), P(4, 0, 0), P(4, 4, 0), P(0, 4, 0)};
   P min, max;
   EXPECT_FALSE(RangeOfPolygon(cow_List<g3d_Point>(), min, max));

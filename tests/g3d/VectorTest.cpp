@@ -1,4 +1,5 @@
-// Vectors, points, the double-precision helpers, and archive round trips of vectors and points.
+// Vectors, points, the double-precision helpers, printing, and archive round trips of vectors and
+// points.
 #include "G3dTestSupport.h"
 #include "LibraryEnvironment.h"
 #include "TestArchive.h"
@@ -32,10 +33,7 @@ TEST(VectorTest, FloatResults) {
   for (const auto& c : cases) EXPECT_EQ(c.got, c.expected) << c.what;
   EXPECT_TRUE(std::isinf((g3d_Vector(0.1f, 0.2f, 0.3f) / 0.0f).x));  // unguarded
   EXPECT_EQ(g3d_TripleProduct(g3d_Vector(1, 0, 0), g3d_Vector(0, 1, 0), g3d_Vector(0, 0, 2)), 2.0f);
-}
-
-TEST(VectorTest, NormalizeLeavesUnitVectorsBitForBit) {
-  g3d_Vector unit(0.6f, 0.8f, 0.0f);  // 1/L * v would perturb it
+  g3d_Vector unit(0.6f, 0.8f, 0.0f);  // normalized bit for bit: 1/L * v would perturb it
   ASSERT_EQ(unit.Length(), 1.0f);
   const g3d_Vector before = unit;
   EXPECT_EQ(std::memcmp(&unit.Normalize(), &before, sizeof before), 0);
@@ -74,9 +72,12 @@ TEST(StorageTest, DoubleHelpers) {
   EXPECT_GT(g3d_AngleWith(x, g3d_Storage(1, 1e-3, 0), false, 0), 0.0);
 }
 
-TEST(VectorTest, PrintsComponentsAsDoubles) {
+// Components as doubles; a transform's rows in braces.
+TEST(G3dPrintTest, VectorsPointsAndTransforms) {
   EXPECT_EQ(Printed(g3d_Vector(1, -2.5f, 0)) + " " + Printed(g3d_Point(0.5f, 0, 0)),
             "(1, -2.5, 0) (0.5, 0, 0, 1)");
+  EXPECT_EQ(Printed(g3d_XForm().SetTranslate(g3d_Vector(0.5f, 0, -2))),
+            "\n{\n  1 0 0 0.5\n  0 1 0 0\n  0 0 1 -2\n  0 0 0 1\n}\n");
 }
 
 // The colour error round trips with the scripting errors in omu.

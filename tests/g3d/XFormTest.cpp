@@ -1,4 +1,5 @@
-// Transforms: composition order, rotation sense, inversion, projections, equality, stack.
+// Transforms: composition order, rotation sense, inversion, projections, equality, stack (their
+// printing is VectorTest.cpp's).
 #include "G3dTestSupport.h"
 
 #include <g3d_XFormStack.h>
@@ -39,7 +40,8 @@ TEST(XFormTest, DegenerateInputsLeaveTheMatrixAsItWas) {
   EXPECT_EQ(g3d_XForm(singular).Invert(), g3d_XForm(singular));
 }
 
-TEST(XFormTest, FactorsApplyRightToLeft) {
+// A translation by a point divides by its w.
+TEST(XFormTest, TranslationsAndFactorsApplyRightToLeft) {
   // Translated in the scaled frame; rotated first, then translated.
   EXPECT_EQ(Through(g3d_XForm().SetScale(2, 2, 2).Translate(1, 0, 0), {0, 0, 0}),
             g3d_Point(2, 0, 0));
@@ -48,9 +50,6 @@ TEST(XFormTest, FactorsApplyRightToLeft) {
   const g3d_XForm product =
       g3d_XForm().SetTranslate(g3d_Vector(5, 0, 0)) * g3d_XForm().SetRotate(90, {0, 0, 1});
   ExpectNear(Through(product, {1, 0, 0}), {5, 1, 0, 1});
-}
-
-TEST(XFormTest, TranslateByPointDividesByW) {
   const g3d_XForm m = g3d_XForm().SetTranslate(g3d_Point(2, 4, 6, 2));
   EXPECT_EQ(std::tuple(m.GetM(0, 3), m.GetM(1, 3), m.GetM(2, 3)), std::tuple(1.0f, 2.0f, 3.0f));
   EXPECT_EQ(g3d_XForm().SetTranslate(g3d_Point(2, 4, 6, 0)).GetM(2, 3), 6.0f);  // w 0: as is
@@ -136,11 +135,6 @@ TEST(XFormTest, TransposeColumnMajorExportAndFrames) {
   const g3d_XForm framed = g3d_XForm().Set({1, 2, 3}, {4, 5, 6}, {7, 8, 9});  // vectors as columns
   EXPECT_EQ(std::tuple(framed.GetM(1, 0), framed.GetM(0, 2), framed.GetM(3, 3)),
             std::tuple(2.0f, 7.0f, 1.0f));
-}
-
-TEST(XFormTest, PrintsRowsInBraces) {
-  EXPECT_EQ(Printed(g3d_XForm().SetTranslate(g3d_Vector(0.5f, 0, -2))),
-            "\n{\n  1 0 0 0.5\n  0 1 0 0\n  0 0 1 -2\n  0 0 0 1\n}\n");
 }
 
 TEST(XFormStackTest, PushPostMultipliesAndResetRebases) {

@@ -107,8 +107,8 @@ void Change(omu_PrimWrapper& w, Rng& r) { w.MemberDict().Put(Pick(r, 7), "count"
 void Change(omu_PrimList& l, Rng& r) {
   if (l.Size() < 8) l.Put(Number(r));
 }
-void Change(mdl_Repository&, Rng&) {}
-void Change(omu_PrimArray&, Rng&) {}
+template <class T>  // a repository or an array: no contents to change in place
+void Change(T&, Rng&) {}
 
 std::string Contents(const Item& item) {
   return std::visit([](const auto& object) { return SoloBytes(object); }, item);

@@ -66,6 +66,8 @@ TEST(PropertyTable, SortGivesTheInsertionSortsExactResultOnRandomTables) {
   EXPECT_TRUE(SameBits(*copy, Table(1, {1, 2})));
 }
 
+// The exact refusal and what the table fuzzer's palette and shapes cannot reach; its oracle and
+// seeds cover later zero rows, NaN beside zeros and tables without rows.
 TEST(PropertyTable, AssertValidRefusesTheFirstAllZeroRow) {
   struct Case {
     const char* name;
@@ -76,10 +78,7 @@ TEST(PropertyTable, AssertValidRefusesTheFirstAllZeroRow) {
   const Case cases[] = {
       {"zero first row", Table(3, {0, 0, 0}), false, false},
       {"zero first row allowed", Table(3, {0, -0.0, 0}), true, true},
-      {"second zero row", Table(2, {0, 0, 0, 0}), true, false},
-      {"NaN and zeros", Table(3, {0, NaN, 0}), false, true},
       {"one non-zero", Table(2, {0, 1e-300, 4, 0}), false, true},
-      {"no rows", mdl_PropertyTable(), false, true},
       {"rows without columns", mdl_PropertyTable(1, 0), false, false},
   };
   const std::string refusal =
