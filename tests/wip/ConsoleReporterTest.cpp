@@ -117,8 +117,7 @@ TEST(Progress, AnInterruptStopsTheTaskOnceAndCommandDoneForgetsIt) {
       progress.Advance();
       ++finished;
     }
-  } catch (const wip_InterruptException& e) {
-    EXPECT_EQ(e.Text(), "Operation interrupted by the user.");
+  } catch (const wip_InterruptException&) {  // its text is python/tests/test_progress.py's
   }
   EXPECT_EQ(finished, 4);
   EXPECT_FALSE(progress.Interrupted());
