@@ -110,8 +110,7 @@ TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
 
 // Keywords are looked up through an index of the stored ones, which a Put must not leave stale.
 TEST(Arguments, KeywordsStoredDuringAReadingCountFromTheNextBegin) {
-  omu_Arguments args = Call({});
-  args.Put(1, "a");
+  omu_Arguments args = Call({}, {{"a", 1}});
   int a = 0, b = 0;
   args.Begin();
   args.Get(a, "a");
