@@ -10,12 +10,6 @@
 #include <variant>
 
 namespace {
-// The message of the error End raises, or "ok". Each is a TypeError to a script, which
-// python/tests/test_commands.py checks.
-std::string Outcome(omu_Arguments& args) {
-  return Raised<nex_CommandException>([&] { args.End(""); });
-}
-
 using Value = std::variant<int, double, cow_String, cow_List<double>, cow_List<int>,
                            cow_2DArray<double>, omu_PrimTuple>;
 
@@ -73,7 +67,8 @@ std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> re
 }
 }  // namespace
 
-// The messages and most of their order are in python/tests/test_commands.py (probe).
+// The messages and most of their order are in python/tests/test_commands.py (probe), with
+// their script type, TypeError.
 TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
   omu_PrimTuple ragged(2);
   ragged.Put(cow_List<double>{1, 2, 3});
