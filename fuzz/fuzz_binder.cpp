@@ -19,13 +19,7 @@ const char* Keyword(FuzzInput& in) { return kKeywords[in.Byte() % std::size(kKey
 
 // Stores one random value, by position (keyword null) or by keyword.
 void PutValue(omu_Arguments& args, FuzzInput& in, const char* keyword) {
-  auto put = [&](const auto& value) {
-    if (keyword) {
-      args.Put(value, keyword);
-    } else {
-      args.Put(value);
-    }
-  };
+  auto put = [&](const auto& value) { keyword ? args.Put(value, keyword) : args.Put(value); };
   switch (in.Byte() % 7) {
     case 0: put(static_cast<int>(static_cast<std::int8_t>(in.Byte()))); break;
     case 1: put(in.Byte() / 8.0); break;

@@ -9,9 +9,7 @@
 #include <string>
 
 inline std::string Message(const nex_TextException& e) { return e.Text().StdString(); }
-inline std::string Message(const nex_CommandException& e) {
-  return e.JournalMessage().StdString();
-}
+inline std::string Message(const nex_CommandException& e) { return e.JournalMessage().StdString(); }
 
 template <class E = nex_TextException, class Call>
 std::string Raised(Call&& call, const char* source = nullptr) {
@@ -27,6 +25,4 @@ std::string Raised(Call&& call, const char* source = nullptr) {
 }
 
 template <class Call>
-std::string RaisedText(Call&& call) {
-  return Raised(call);
-}
+std::string RaisedText(Call&& call) { return Raised(call); }

@@ -54,10 +54,10 @@ def test_handles_on_one_object_are_equal_by_path_and_share_it(material, section)
     again = cvxutils.echo(material)
     assert again is not material and again == material and hash(again) == hash(material)
     assert material != cvxutils.createMaterial("Iron", material.elastic, 1) and material != "Steel"
-    back = cvxutils.echo({"m": material, "s": (section,)})
+    back, thing = cvxutils.echo({"m": material, "s": (section,)}), object()
     assert back["m"] == material
-    back["s"][0].thickness = 4.0
-    assert section.thickness == 4.0
+    back["s"][0].thickness, back["s"][0].userData = 4.0, {"thing": thing}  # user data as it is
+    assert section.thickness == 4.0 and section.userData["thing"] is thing
 
 
 def test_a_deleted_object_prints_and_fails_as_the_library_says(material, failure):
@@ -67,13 +67,6 @@ def test_a_deleted_object_prints_and_fails_as_the_library_says(material, failure
     for use in (lambda: material.name, lambda: other.name, lambda: setattr(material, "elastic", ()),
                 other.validate):
         assert failure(use) == (cvxutils.AccessError, (f"{STEEL} no longer exists",))
-
-
-def test_user_data_is_carried_as_it_is(section):
-    thing = object()
-    section.userData = {"thing": thing}
-    assert section.userData["thing"] is thing
-    assert cvxutils.echo(section).userData["thing"] is thing
 
 
 def test_script_objects_the_library_holds_at_exit_are_let_go_safely():

@@ -24,15 +24,9 @@ class Recorder:
         return False
 
 
-@pytest.fixture
-def recorder():
-    recorder = Recorder()
-    with cvxutils.install_reporter(recorder):
-        yield recorder
-
-
-def test_python_reporter_receives_the_reports_in_order(material, recorder):
-    assert cvxutils.densifyMaterial("Steel", 3) == 5
+def test_python_reporter_receives_the_reports_in_order(material):
+    with cvxutils.install_reporter(Recorder()) as recorder:
+        assert cvxutils.densifyMaterial("Steel", 3) == 5
     step = lambda done: ("progress", "densifyMaterial Steel", "rows", done, 3)
     asked = ("interrupted",)
     assert recorder.reports == [step(0), asked, step(1), asked, step(2), asked, step(3)]

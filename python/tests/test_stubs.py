@@ -8,15 +8,9 @@ STUBS = pathlib.Path(__file__).resolve().parents[1] / "cvxutils.pyi"
 
 
 def stub_names(body):
-    names = set()
-    for node in body:
-        if isinstance(node, (ast.ClassDef, ast.FunctionDef)):
-            names.add(node.name)
-        elif isinstance(node, ast.AnnAssign):
-            names.add(node.target.id)
-        elif isinstance(node, ast.Assign):
-            names.update(target.id for target in node.targets)
-    return names
+    names = {node.name for node in body if isinstance(node, (ast.ClassDef, ast.FunctionDef))}
+    names.update(node.target.id for node in body if isinstance(node, ast.AnnAssign))
+    return names | {target.id for node in body if isinstance(node, ast.Assign) for target in node.targets}
 
 
 def public(names):

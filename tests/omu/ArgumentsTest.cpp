@@ -7,24 +7,9 @@
 #include <omu_Get.h>
 
 #include <algorithm>
-#include <type_traits>
 #include <variant>
 
 namespace {
-std::string Failure(const nex_CommandException& e) {
-  return e.PythonType().StdString() + ": " + e.JournalMessage().StdString();
-}
-
-// The script-level error End raises, as "TypeName: message", or "ok".
-std::string Outcome(omu_Arguments& args) {
-  try {
-    args.End("");
-  } catch (const nex_CommandException& e) {
-    return Failure(e);
-  }
-  return "ok";
-}
-
 using Value = std::variant<int, double, cow_String, cow_List<double>, cow_List<int>,
                            cow_2DArray<double>, omu_PrimTuple>;
 
@@ -41,33 +26,11 @@ omu_Arguments Call(std::initializer_list<Value> positional,
   return args;
 }
 
-struct Irregular {
-  cow_2DArray<double> rows;
-};
-
-// Collections through omu_Get and omu_GetIrregular, single values through the arguments.
-template <class T>
-void Get(omu_Arguments& args, T& value, std::string_view keyword) {
-  if constexpr (std::is_same_v<T, Irregular>) {
-    omu_GetIrregular(args, value.rows, cow_String(keyword));
-  } else if constexpr (requires { omu_Get(args, value, cow_String(keyword)); }) {
-    omu_Get(args, value, cow_String(keyword));
-  } else {
-    args.Get(value, keyword);
-  }
-}
-
-// A value read, in the library's text.
-template <class T>
-std::string Show(const T& value) {
-  return Text(*omu_PrimMake(value));
-}
-std::string Show(const Irregular& value) { return Show(value.rows); }
-
-template <class T>
-std::string ReadOne(omu_Arguments& args, std::string_view keyword, T value) {
-  Get(args, value, keyword);
-  return Show(value) + (args.ErrorOnPrevious() ? "! " : " ");
+// A value read, in the library's text, "!" after it when the read failed.
+template <class T, class Read>
+std::string ReadOne(omu_Arguments& args, T value, const Read& read) {
+  read(value);
+  return Text(*omu_PrimMake(value)) + (args.ErrorOnPrevious() ? "! " : " ");
 }
 
 // Reads the call, one token each: "?" makes the rest optional, "|" retries the read before it;
@@ -80,18 +43,22 @@ std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> re
   try {
     for (std::string_view read : reads) {
       const std::string_view keyword = read.substr(std::min<std::size_t>(2, read.size()));
+      const cow_String key(keyword);
+      const auto single = [&](auto& value) { args.Get(value, keyword); };
+      const auto many = [&](auto& values) { omu_Get(args, values, key); };
+      const auto ragged = [&](cow_2DArray<double>& rows) { omu_GetIrregular(args, rows, key); };
       if (read == "?") args.Optional();
       if (read == "|") text += args.Alternative() ? "retry " : "no-retry ";
-      if (read[0] == 'i') text += ReadOne(args, keyword, -1);
-      if (read[0] == 'f') text += ReadOne(args, keyword, -1.0);
-      if (read[0] == 's') text += ReadOne(args, keyword, cow_String("-"));
-      if (read[0] == 'L') text += ReadOne(args, keyword, cow_List<double>{9});
-      if (read[0] == 'I') text += ReadOne(args, keyword, cow_List<int>{9});
-      if (read[0] == 'T') text += ReadOne(args, keyword, cow_2DArray<double>());
-      if (read[0] == 'R') text += ReadOne(args, keyword, Irregular());
+      if (read[0] == 'i') text += ReadOne(args, -1, single);
+      if (read[0] == 'f') text += ReadOne(args, -1.0, single);
+      if (read[0] == 's') text += ReadOne(args, cow_String("-"), single);
+      if (read[0] == 'L') text += ReadOne(args, cow_List<double>{9}, many);
+      if (read[0] == 'I') text += ReadOne(args, cow_List<int>{9}, many);
+      if (read[0] == 'T') text += ReadOne(args, cow_2DArray<double>(), many);
+      if (read[0] == 'R') text += ReadOne(args, cow_2DArray<double>(), ragged);
     }
   } catch (const nex_CommandException& e) {
-    return text + "raises " + Failure(e);
+    return text + "raises " + Message(e);
   }
   const bool error = args.Error();
   const std::string outcome = Outcome(args);
@@ -100,50 +67,45 @@ std::string Reads(omu_Arguments args, std::initializer_list<std::string_view> re
 }
 }  // namespace
 
-// The messages and most of their order are in python/tests/test_commands.py (probe).
+// The messages and most of their order are in python/tests/test_commands.py (probe), with
+// their script type, TypeError.
 TEST(Arguments, ReadsMarkTheirFailuresAndEndReportsTheFirst) {
   omu_PrimTuple ragged(2);
   ragged.Put(cow_List<double>{1, 2, 3});
   ragged.Put(cow_List<double>{4});
-  const struct {
-    std::string got;
-    const char* expected;
-  } cases[] = {
+  const std::pair<std::string, const char*> cases[] = {
       {Reads(Call({1}), {"i:a", "?", "i:c"}), "1 -1! ok"},  // did not read, though it is no error
       // An unclaimed keyword before a positional type error, before a keyword type error.
-      {Reads(Call({"s"}, {{"zzz", 1}}), {"i:a"}), "-1! TypeError: keyword error on zzz"},
+      {Reads(Call({"s"}, {{"zzz", 1}}), {"i:a"}), "-1! keyword error on zzz"},
       {Reads(Call({"s"}, {{"b", "t"}}), {"i:a", "i:b"}),
-       "-1! -1! TypeError: arg1; found string, expecting int"},  // b not read after the error
+       "-1! -1! arg1; found string, expecting int"},  // b not read after the error
       // The first unclaimed in key order, not in the order given.
-      {Reads(Call({}, {{"zeta", 1}, {"alpha", 2}}), {}), "TypeError: keyword error on alpha"},
+      {Reads(Call({}, {{"zeta", 1}, {"alpha", 2}}), {}), "keyword error on alpha"},
       // A keyword stored again gives its last value and counts once.
       {Reads(Call({}, {{"b", 1}, {"a", 2}, {"b", 3}}), {"i:b", "i:a"}), "3 2 ok"},
-      {Reads(Call({}, {{"size", "big"}}), {"f:size"}),
-       "-1.0! TypeError: size; found string, expecting float"},
+      {Reads(Call({}, {{"size", "big"}}), {"f:size"}), "-1.0! size; found string, expecting float"},
       {Reads(Call({}, {{"mesh", "fine"}}), {"|", "f:mesh", "|", "s:mesh"}),
        "no-retry -1.0! retry 'fine' ok"},
       {Reads(Call({4, 5}), {"i:a", "|", "s:b", "|", "i:b"}), "4 no-retry '-'! retry 5 ok"},
       // Lists and tables are read element by element from a nested tuple.
       {Reads(Call({cow_List<double>{1, 2, 3.5}}, {{"ids", cow_List<int>{1, 2}}}),
              {"L:values", "I:ids", "I:more"}),
-       "(1.0, 2.0, 3.5) (1, 2) (9,)! "
-       "TypeError: not all required arguments specified; expected 3, got 2"},
+       "(1.0, 2.0, 3.5) (1, 2) (9,)! not all required arguments specified; expected 3, got 2"},
       {Reads(Call({TupleOf({new omu_PrimNumber(1.0), StringOf("x")})}), {"L:points"}),
-       "raises TypeError: arg2; found string, expecting float"},
+       "raises arg2; found string, expecting float"},
       {Reads(Call({cow_2DArray<double>(2, 3, 1.5)}), {"T:table"}),
        "((1.5, 1.5, 1.5), (1.5, 1.5, 1.5)) ok"},
       {Reads(Call({ragged}), {"T:rows"}),
-       "raises TypeError: not all required arguments specified; expected 3, got 1"},
+       "raises not all required arguments specified; expected 3, got 1"},
       // Ragged rows padded, each led by its length.
       {Reads(Call({ragged}), {"R:rows"}), "((3.0, 1.0, 2.0, 3.0), (1.0, 4.0, 0.0, 0.0)) ok"},
   };
-  for (const auto& c : cases) EXPECT_EQ(c.got, c.expected);
+  for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
 }
 
 // Keywords are looked up through an index of the stored ones, which a Put must not leave stale.
 TEST(Arguments, KeywordsStoredDuringAReadingCountFromTheNextBegin) {
-  omu_Arguments args = Call({});
-  args.Put(1, "a");
+  omu_Arguments args = Call({}, {{"a", 1}});
   int a = 0, b = 0;
   args.Begin();
   args.Get(a, "a");
@@ -166,7 +128,7 @@ TEST(Arguments, EveryKeywordOfALargeCallIsFoundOnceWhateverItsSlot) {
       args.Get(value, "k" + std::to_string(i));
       EXPECT_EQ(value, i) << count;
     }
-    EXPECT_EQ(Outcome(args), "TypeError: keyword error on k0") << count;
+    EXPECT_EQ(Outcome(args), "keyword error on k0") << count;
     EXPECT_EQ(args.Keywords().Length(), count);
   }
 }
@@ -183,7 +145,7 @@ TEST(Arguments, ResetGivesAFreshListAndLeavesCopiesAlone) {
   EXPECT_EQ(args.AsString(0), "(7)");
   EXPECT_EQ(Reads(args, {"i:a", "?", "i:k"}), "7 -1! ok");
   EXPECT_EQ(copy.AsString(0), "('s', k=2.5)");
-  EXPECT_EQ(Reads(copy, {"i:a", "f:k"}), "-1! -1.0! TypeError: arg1; found string, expecting int");
+  EXPECT_EQ(Reads(copy, {"i:a", "f:k"}), "-1! -1.0! arg1; found string, expecting int");
 }
 
 TEST(Arguments, DeprecatedKeywordsOnlyWhileAllowed) {
@@ -216,5 +178,5 @@ TEST(Arguments, TextShowsPositionsThenKeywordsAndObjectsAreReadByScriptType) {
   ASSERT_NE(part, nullptr);
   EXPECT_EQ(part->TypeString(), "Part");
   EXPECT_EQ(objects.Get("Part", nullptr, "other"), nullptr);  // a Feature is not a Part
-  EXPECT_EQ(Outcome(objects), "TypeError: other; found Feature, expecting Part");
+  EXPECT_EQ(Outcome(objects), "other; found Feature, expecting Part");
 }

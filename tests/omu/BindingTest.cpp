@@ -24,10 +24,6 @@ struct omu_Binding<Celsius> {
 };
 
 namespace {
-std::string Outcome(omu_PrimTuple& values) {
-  return Raised<nex_CommandException>([&] { values.End(""); });
-}
-
 std::string Read(const Celsius& first, const Celsius& second) {
   return std::to_string(first.degrees) + " " + std::to_string(second.degrees) + " ";
 }

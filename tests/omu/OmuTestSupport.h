@@ -38,3 +38,9 @@ inline omu_PrimList ListOf(std::initializer_list<int> values) {
 inline omu_PrimString* StringOf(const char* text) { return new omu_PrimString(cow_String(text)); }
 
 inline std::string Text(const omu_Primitive& value) { return value.AsString(0).StdString(); }
+
+// The message of the scripting error values.End raises, or "ok".
+template <class Values>
+std::string Outcome(Values& values) {
+  return Raised<nex_CommandException>([&] { values.End(""); });
+}

@@ -11,18 +11,15 @@ std::string Read(const StrDict& dict, const char* key, T value = T()) {
 }
 }  // namespace
 
-// BindingTest reads every number kind through a dictionary, here the other kinds; copies and
+// BindingTest reads every number kind through a dictionary, fuzz_dictionary ints and texts
+// against a map (missing keys, a kind read as the other), here the other kinds; copies and
 // their identities are tests/mdl/ArchiveIdentityTest.cpp's.
 TEST(PrimDictionary, TypedReadsTakeOnlyTheirKindsAndEqualityAndTextIgnoreInsertionOrder) {
   StrDict dict;
-  dict.Put(3, "int");
   dict.Put(cow_String("it's"), "text");
   dict.Put(cow_List<int>{1, 2}, "ints");
   dict.Put(omi_complex(1, 2), "complex");
   const std::pair<std::string, const char*> cases[] = {
-      {Read(dict, "missing", -1), "0 -1"},
-      {Read<cow_String>(dict, "int"), "0 ''"},
-      {Read<cow_String>(dict, "text"), "1 \"it's\""},
       {Read<const char*>(dict, "text", ""), "1 \"it's\""},
       {Read<cow_List<double>>(dict, "ints"), "1 (1.0, 2.0)"},
       {Read<omu_PrimList>(dict, "ints"), "1 (1, 2)"},

