@@ -225,6 +225,11 @@ TEST(CameraTest, PanMovesEyeAndTargetInWindowUnits) {
   EXPECT_FLOAT_EQ(camera.GetEye().z, 5);
   EXPECT_LT(camera.GetFar(), 10);
   EXPECT_GT(camera.GetFar(), 5 + std::sqrt(3.0f));
+  // In perspective, a near plane at or behind the eye has no distance ratio: units at the target.
+  for (const float near : {0.0f, -2.0f}) {
+    const g3d_Camera noNear = Looking({0, 0, 10}).SetNearFar(near, 20).Pan(1, 2, 0, false);
+    EXPECT_EQ(noNear.GetTarget(), g3d_Point(1, 2, 0)) << "near " << near;
+  }
 }
 
 TEST(CameraTest, LayerModeScalesAboutTheTarget) {
