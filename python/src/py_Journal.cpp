@@ -83,7 +83,6 @@ void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t
     m_Calls.push_back({Py_NewRef(command), Py_XNewRef(kwnames), static_cast<std::uint32_t>(mark),
                        static_cast<std::uint32_t>(count)});
   } catch (...) {
-    for (std::size_t i = mark; i < m_Arguments.size(); ++i) Py_XDECREF(m_Arguments[i].Object());
     m_Arguments.erase(m_Arguments.begin() + static_cast<std::ptrdiff_t>(mark), m_Arguments.end());
     throw;
   }
@@ -140,8 +139,7 @@ void py_Journal::Clear() {
     Py_XDECREF(call.command);
     Py_XDECREF(call.kwnames);
   }
-  for (const Argument& argument : arguments) Py_XDECREF(argument.Object());
-}
+}  // the arguments release theirs as their list goes
 
 namespace {
 py::list ReadLines(const py::object& source) {

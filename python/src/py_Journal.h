@@ -50,9 +50,9 @@ public:
   void Clear();
 
 private:
-  // An argument: a Python object that cannot change, kept by a reference the journal gives
-  // back, or a copy of the primitive it became, owned. One word, its low bit telling which
-  // (both are aligned), since the journal's growth costs a page fault per page it fills.
+  // An argument: a Python object that cannot change, or a copy of the primitive it became,
+  // either owned (the object by a reference, released with the GIL held). One word, its low bit
+  // telling which (both are aligned), since the journal's growth costs a page fault per page.
   class Argument {
   public:
     explicit Argument(PyObject* object) noexcept
@@ -64,7 +64,10 @@ private:
       std::swap(m_Word, other.m_Word);
       return *this;
     }
-    ~Argument() { delete Snapshot(); }
+    ~Argument() {
+      Py_XDECREF(Object());
+      delete Snapshot();
+    }
     PyObject* Object() const noexcept {
       return m_Word & 1 ? nullptr : reinterpret_cast<PyObject*>(m_Word);
     }

@@ -49,3 +49,13 @@ def test_arrays_handed_back_keep_the_numbers_alive_and_let_them_go():
     assert [float(b[2]) for b in back[::250]] == [0.0, 250.0, 500.0, 750.0]
     base = back[0].base
     assert sys.getrefcount(base) == 3  # the array, the local and getrefcount's argument
+
+
+def test_journal_keeps_one_reference_a_call_and_gives_them_back_when_cleared():
+    text = "".join(["journal", "ed text"])  # not interned
+    before = sys.getrefcount(text)
+    for _ in range(1000):
+        cvxutils.probe(1, 2.5, text)
+    assert sys.getrefcount(text) == before + 1000
+    cvxutils.clear_journal()
+    assert sys.getrefcount(text) == before
