@@ -13,7 +13,7 @@
 //               error set
 //
 // Casters hold no state; call them with the GIL held.
-#include "py_InternedTexts.h"
+#include "py_KeptTexts.h"
 
 #include <Python.h>
 #include <cow_String.h>
@@ -79,7 +79,7 @@ struct py_Caster<bool> {
 template <>
 struct py_Caster<cow_String> {
   static bool Accepts(PyObject* object) { return PyUnicode_Check(object); }
-  static cow_String FromPython(PyObject* object) { return py_InternedTexts::Text(object); }
+  static cow_String FromPython(PyObject* object) { return py_KeptTexts::Text(object); }
   static PyObject* ToPython(const cow_String& value) {
     const std::string_view text = value.View();
     return PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace");

@@ -16,6 +16,16 @@ TEST(AtrString, CopiesShareWritesUnshareAndEditsClipAtTheEnds) {
   EXPECT_EQ(b, "shared text!");
   EXPECT_FALSE(a.IsShared());
 
+  // A permanent text outlives every copy, written or dropped, unchanged.
+  static const auto& kept = *new atr_StringBase(atr_StringBase::Permanent("kept"));
+  for (int i = 0; i < 3; ++i) {
+    atr_StringBase copy(kept);
+    copy = kept;
+    copy.Append("!");
+    EXPECT_EQ(copy, "kept!");
+  }
+  EXPECT_EQ(kept, "kept");
+
   atr_StringBase text("abcdef");
   text.Erase(4, 100);
   EXPECT_EQ(text, "abcd");

@@ -26,6 +26,11 @@ public:
   ///@}
   /// Adopts a text built elsewhere without copying its characters.
   atr_StringBase(std::string&& text);
+  /// A text whose buffer is never freed and never counted, so that copying and dropping it
+  /// costs no atomic operation: for tables of texts made once and kept for the life of the
+  /// process (the names a script passes again and again), reached from a static so that leak
+  /// checkers do not report the buffer. Writing a copy unshares it as usual.
+  static atr_StringBase Permanent(std::string_view text);
   /// Numbers as decimal text; a double takes its shortest form that reads back exactly.
   ///@{
   explicit atr_StringBase(int value);
@@ -37,21 +42,24 @@ public:
   /// Copies share the buffer (a counted reference, no allocation); a move leaves the source empty.
   /// Assigning a text that already shares this one's buffer changes and counts nothing.
   ///@{
-  atr_StringBase(const atr_StringBase& other) noexcept;
+  atr_StringBase(const atr_StringBase& other) noexcept : m_Rep(other.m_Rep) {
+    if (Counted()) m_Rep->refs.fetch_add(1, std::memory_order_relaxed);
+  }
   atr_StringBase(atr_StringBase&& other) noexcept : m_Rep(other.m_Rep) { other.m_Rep = nullptr; }
   atr_StringBase& operator=(const atr_StringBase& other) noexcept;
   atr_StringBase& operator=(atr_StringBase&& other) noexcept {
     if (this != &other) {
-      if (m_Rep) Release();
+      if (Counted()) Release();
       m_Rep = other.m_Rep;
       other.m_Rep = nullptr;
     }
     return *this;
   }
   ///@}
-  /// Drops the reference; the last one frees the buffer. Inline: an empty text ends at no cost.
+  /// Drops the reference; the last one frees the buffer. Inline: an empty or permanent text
+  /// ends at no cost.
   ~atr_StringBase() {
-    if (m_Rep) Release();
+    if (Counted()) Release();
   }
 
   /// printf-style formatting into a new text, with the C99 conversions (`%zu`, `%lld`) on every
@@ -136,11 +144,18 @@ public:
   }
 
 private:
+  // A count no counted text reaches: a permanent text's, which copies leave alone.
+  static constexpr int PermanentRefs = 1 << 30;
   struct Rep {
     std::atomic<int> refs{1};
     std::string text;
   };
   std::string& Mutable();
+  // Whether a copy counts a reference: not for the empty text nor a permanent one.
+  bool Counted() const noexcept {
+    return m_Rep && m_Rep->refs.load(std::memory_order_relaxed) < PermanentRefs;
+  }
+  // Drops a counted reference.
   void Release() noexcept;
 
   Rep* m_Rep = nullptr;  ///< null is the empty text

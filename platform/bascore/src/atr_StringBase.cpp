@@ -33,6 +33,12 @@ atr_StringBase::atr_StringBase(std::string&& text) {
   if (!text.empty()) m_Rep = new Rep{1, std::move(text)};
 }
 
+atr_StringBase atr_StringBase::Permanent(std::string_view text) {
+  atr_StringBase permanent(text);
+  if (permanent.m_Rep) permanent.m_Rep->refs.store(PermanentRefs, std::memory_order_relaxed);
+  return permanent;
+}
+
 atr_StringBase::atr_StringBase(int value) {
   std::array<char, 40> buffer;
   *this = atr_StringBase(ToChars(buffer, value));
@@ -53,22 +59,18 @@ atr_StringBase::atr_StringBase(double value) {
   *this = atr_StringBase(ToChars(buffer, value));
 }
 
-atr_StringBase::atr_StringBase(const atr_StringBase& other) noexcept : m_Rep(other.m_Rep) {
-  if (m_Rep) m_Rep->refs.fetch_add(1, std::memory_order_relaxed);
-}
-
 atr_StringBase& atr_StringBase::operator=(const atr_StringBase& other) noexcept {
   // Already sharing the buffer (a value read again into the same variable): counting a
   // reference up and down would only cost two atomic operations.
   if (m_Rep == other.m_Rep) return *this;
-  if (other.m_Rep) other.m_Rep->refs.fetch_add(1, std::memory_order_relaxed);
-  Release();
+  if (other.Counted()) other.m_Rep->refs.fetch_add(1, std::memory_order_relaxed);
+  if (Counted()) Release();
   m_Rep = other.m_Rep;
   return *this;
 }
 
 void atr_StringBase::Release() noexcept {
-  if (m_Rep && m_Rep->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) delete m_Rep;
+  if (m_Rep->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) delete m_Rep;
   m_Rep = nullptr;
 }
 
@@ -77,7 +79,7 @@ std::string& atr_StringBase::Mutable() {
     m_Rep = new Rep;
   } else if (m_Rep->refs.load(std::memory_order_acquire) > 1) {
     Rep* own = new Rep{1, m_Rep->text};
-    Release();
+    if (Counted()) Release();
     m_Rep = own;
   }
   return m_Rep->text;

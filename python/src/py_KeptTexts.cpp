@@ -1,0 +1,55 @@
+#include "py_KeptTexts.h"
+
+#include <pybind11/pybind11.h>
+
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace {
+// Open addressing over a table twice the capacity, so that a probe stays short; an empty text
+// marks a free slot. Lives as long as the process.
+struct Entry {
+  Py_hash_t hash = 0;
+  cow_String text;
+};
+constexpr std::size_t kSlots = 2 * py_KeptTexts::Capacity;
+static_assert(std::has_single_bit(kSlots));
+
+std::size_t Home(Py_hash_t hash) noexcept {
+  return static_cast<std::size_t>((static_cast<std::uint64_t>(hash) * 0x9E3779B97F4A7C15ULL) >>
+                                  (64 - std::countr_zero(kSlots)));
+}
+}  // namespace
+
+cow_String py_KeptTexts::Text(PyObject* string) {
+  static auto& table = *new std::array<Entry, kSlots>();
+  static std::size_t kept = 0;
+  const std::string_view text = Utf8(string);
+  if (text.empty() || text.size() > ShortBytes) return cow_String(text);
+  const Py_hash_t hash = Hash(string);
+  std::size_t at = Home(hash);
+  for (; !table[at].text.IsEmpty(); at = (at + 1) % kSlots) {
+    if (table[at].hash == hash && table[at].text.View() == text) return table[at].text;
+  }
+  if (kept == Capacity) return cow_String(text);
+  table[at] = {hash, cow_String::Permanent(text)};
+  ++kept;
+  return table[at].text;
+}
+
+Py_hash_t py_KeptTexts::Hash(PyObject* string) noexcept {
+  const Py_hash_t cached = reinterpret_cast<PyASCIIObject*>(string)->hash;
+  return cached != -1 ? cached : PyObject_Hash(string);  // a str's hash cannot fail
+}
+
+std::string_view py_KeptTexts::Utf8(PyObject* string) {
+  if (PyUnicode_IS_COMPACT_ASCII(string)) {
+    return {static_cast<const char*>(PyUnicode_DATA(string)),
+            static_cast<std::size_t>(PyUnicode_GET_LENGTH(string))};
+  }
+  Py_ssize_t length = 0;
+  const char* text = PyUnicode_AsUTF8AndSize(string, &length);
+  if (!text) throw pybind11::error_already_set();
+  return {text, static_cast<std::size_t>(length)};
+}
