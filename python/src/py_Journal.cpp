@@ -69,21 +69,22 @@ void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t
                            PyObject* kwnames, const omu_Arguments& arguments) {
   const Py_ssize_t positional = PyVectorcall_NARGS(nargsf);
   const Py_ssize_t count = positional + (kwnames ? PyTuple_GET_SIZE(kwnames) : 0);
-  const std::size_t mark = m_Arguments.size();
+  std::pmr::deque<Argument>& kept = m_Entries->arguments;
+  const std::size_t mark = kept.size();
   try {
     for (Py_ssize_t i = 0; i < count; ++i) {
       const omu_Primitive* converted =
           Settled(args[i]) ? nullptr : Converted(arguments, positional, i);
       if (converted) {
-        m_Arguments.emplace_back(std::unique_ptr<omu_Primitive>(converted->Copy()));
+        kept.emplace_back(std::unique_ptr<omu_Primitive>(converted->Copy()));
       } else {
-        m_Arguments.emplace_back(Py_NewRef(args[i]));
+        kept.emplace_back(args[i]);
       }
     }
-    m_Calls.push_back({Py_NewRef(command), Py_XNewRef(kwnames), static_cast<std::uint32_t>(mark),
-                       static_cast<std::uint32_t>(count)});
+    m_Entries->calls.emplace_back(command, kwnames, static_cast<std::uint32_t>(mark),
+                                  static_cast<std::uint32_t>(count));
   } catch (...) {
-    m_Arguments.erase(m_Arguments.begin() + static_cast<std::ptrdiff_t>(mark), m_Arguments.end());
+    while (kept.size() > mark) kept.pop_back();
     throw;
   }
 }
@@ -103,8 +104,10 @@ void py_Journal::Failed(PyObject* command, PyObject* const* args, std::size_t na
           return py::reinterpret_borrow<py::object>(args[i]);
         });
     text += "  -> " + ErrorText(value ? value : type);
-    m_Comments.push_back(std::move(text));
-    m_Calls.push_back({nullptr, nullptr, static_cast<std::uint32_t>(m_Comments.size() - 1), 0});
+    std::vector<std::string>& comments = m_Entries->comments;
+    comments.push_back(std::move(text));
+    m_Entries->calls.emplace_back(nullptr, nullptr, static_cast<std::uint32_t>(comments.size() - 1),
+                                  0);
   } catch (py::error_already_set&) {
     // An argument whose repr raised: the failure goes unrecorded, the script's error stands.
   } catch (const std::bad_alloc&) {
@@ -113,9 +116,9 @@ void py_Journal::Failed(PyObject* command, PyObject* const* args, std::size_t na
 }
 
 std::string py_Journal::Text(const Call& call) const {
-  if (!call.command) return m_Comments[call.first];
+  if (!call.command) return m_Entries->comments[call.first];
   return CallText(call.command, call.kwnames, call.count, [&](std::uint32_t i) {
-    const Argument& argument = m_Arguments[call.first + i];
+    const Argument& argument = m_Entries->arguments[call.first + i];
     if (PyObject* object = argument.Object()) return py::reinterpret_borrow<py::object>(object);
     return py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(argument.Snapshot()));
   });
@@ -123,23 +126,16 @@ std::string py_Journal::Text(const Call& call) const {
 
 std::vector<std::string> py_Journal::Lines() const {
   std::vector<std::string> lines;
-  lines.reserve(m_Calls.size());
-  for (const Call& call : m_Calls) lines.push_back(Text(call));
+  lines.reserve(m_Entries->calls.size());
+  for (const Call& call : m_Entries->calls) lines.push_back(Text(call));
   return lines;
 }
 
 void py_Journal::Clear() {
-  // Emptied first: releasing a reference may run Python code that calls a command.
-  auto calls = std::move(m_Calls);
-  auto arguments = std::move(m_Arguments);
-  m_Calls.clear();
-  m_Arguments.clear();
-  m_Comments.clear();
-  for (const Call& call : calls) {
-    Py_XDECREF(call.command);
-    Py_XDECREF(call.kwnames);
-  }
-}  // the arguments release theirs as their list goes
+  // Replaced before the old entries go: releasing a reference may run Python code that calls
+  // a command.
+  const std::unique_ptr<Entries> old = std::exchange(m_Entries, std::make_unique<Entries>());
+}
 
 namespace {
 py::list ReadLines(const py::object& source) {

@@ -23,6 +23,8 @@
 //                        raises stops the replay with its error
 //
 // One journal per process, used with the GIL held.
+#include "py_JournalArena.h"
+
 #include <Python.h>
 #include <omu_Arguments.h>
 #include <pybind11/pybind11.h>
@@ -30,6 +32,7 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <utility>
 #include <vector>
@@ -56,14 +59,11 @@ private:
   class Argument {
   public:
     explicit Argument(PyObject* object) noexcept
-        : m_Word(reinterpret_cast<std::uintptr_t>(object)) {}
+        : m_Word(reinterpret_cast<std::uintptr_t>(Py_NewRef(object))) {}
     explicit Argument(std::unique_ptr<omu_Primitive> copy) noexcept
         : m_Word(reinterpret_cast<std::uintptr_t>(copy.release()) | 1) {}
-    Argument(Argument&& other) noexcept : m_Word(std::exchange(other.m_Word, 0)) {}
-    Argument& operator=(Argument&& other) noexcept {
-      std::swap(m_Word, other.m_Word);
-      return *this;
-    }
+    Argument(const Argument&) = delete;
+    Argument& operator=(const Argument&) = delete;
     ~Argument() {
       Py_XDECREF(Object());
       delete Snapshot();
@@ -79,19 +79,33 @@ private:
   private:
     std::uintptr_t m_Word;
   };
-  // A call that succeeded: command, kwnames (null when none) and count arguments from first.
-  // A failed one: a null command, and first is the index of its comment, made when it failed.
+  // A call that succeeded: command, kwnames (null when none) and count arguments from first,
+  // holding a reference to each of the two. A failed one: a null command, and first is the
+  // index of its comment, made when it failed.
   struct Call {
+    Call(PyObject* command, PyObject* kwnames, std::uint32_t first, std::uint32_t count) noexcept
+        : command(Py_XNewRef(command)), kwnames(Py_XNewRef(kwnames)), first(first), count(count) {}
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+    ~Call() {
+      Py_XDECREF(command);
+      Py_XDECREF(kwnames);
+    }
     PyObject* command;
     PyObject* kwnames;
     std::uint32_t first;
     std::uint32_t count;
   };
+  // What the journal holds, dropped whole by Clear. Blocks, not one array: a growing journal
+  // never moves what it holds.
+  struct Entries {
+    py_JournalArena arena;  // first, so that it outlives the lists it holds
+    std::pmr::deque<Call> calls{&arena};
+    std::pmr::deque<Argument> arguments{&arena};
+    std::vector<std::string> comments;
+  };
 
   std::string Text(const Call& call) const;
 
-  // Blocks, not one array: a growing journal never moves what it holds.
-  std::deque<Call> m_Calls;
-  std::deque<Argument> m_Arguments;
-  std::vector<std::string> m_Comments;
+  std::unique_ptr<Entries> m_Entries = std::make_unique<Entries>();
 };
