@@ -4,9 +4,9 @@
 // given), which the native side binds with Begin/Get/End, so a wrong call gets the library's
 // own messages in the library's order. Call with the GIL held.
 //
-// The argument lists are reused: each thread keeps the lists its finished calls gave back
-// (one per depth of calls made from inside a command, up to Spare), reset and with their
-// storage, so that a call allocates only its values.
+// The argument lists are reused: the lists finished calls gave back are kept (one per depth of
+// calls made from inside a command, up to Spare), reset and with their storage, so that a call
+// allocates only its values.
 #include "py_ErrorTranslator.h"
 #include "py_ValueConverter.h"
 
