@@ -7,6 +7,8 @@
 #include <omu_PrimEnumBase.h>
 #include <pybind11/eval.h>
 
+#include <utility>
+
 namespace py = pybind11;
 using namespace pybind11::literals;
 

@@ -34,7 +34,6 @@
 #include <memory>
 #include <memory_resource>
 #include <string>
-#include <utility>
 #include <vector>
 
 class py_Journal {

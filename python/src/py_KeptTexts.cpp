@@ -26,7 +26,10 @@ cow_String py_KeptTexts::Text(PyObject* string) {
   static auto& table = *new std::array<Entry, kSlots>();
   static std::size_t kept = 0;
   const std::string_view text = Utf8(string);
-  if (text.empty() || text.size() > ShortBytes) return cow_String(text);
+  // A subclass's hash is its own code's, which may raise or run anything.
+  if (!PyUnicode_CheckExact(string) || text.empty() || text.size() > ShortBytes) {
+    return cow_String(text);
+  }
   const Py_hash_t hash = Hash(string);
   std::size_t at = Home(hash);
   for (; !table[at].text.IsEmpty(); at = (at + 1) % kSlots) {

@@ -35,6 +35,9 @@ def test_strings_cross_as_themselves_past_the_texts_kept_for_them():
     for _ in range(2):
         assert [cvxutils.echo(name) for name in names] == names
         assert cvxutils.echo({name: 1 for name in names[::7]}) == {name: 1 for name in names[::7]}
+    class Unhashable(str):
+        __hash__ = None  # its text is read, never its hash
+    assert cvxutils.echo(Unhashable("".join(["never", "hashed"]))) == "neverhashed"
 
 
 def test_nan_round_trips_as_nan():
