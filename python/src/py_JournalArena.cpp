@@ -26,7 +26,7 @@ void* py_JournalArena::do_allocate(std::size_t bytes, std::size_t alignment) {
 }
 
 void* py_JournalArena::Take(std::size_t bytes) {
-  m_Chunks.reserve(m_Chunks.size() + 1);
+  m_Chunks.reserve(m_Chunks.size() + 1);  // first: a mapping made is never lost to a failed push
   void* base = Map(bytes);
   m_Chunks.push_back({base, bytes});
   return base;

@@ -26,10 +26,7 @@ cow_String py_KeptTexts::Text(PyObject* string) {
   static auto& table = *new std::array<Entry, kSlots>();
   static std::size_t kept = 0;
   const std::string_view text = Utf8(string);
-  // A subclass's hash is its own code's, which may raise or run anything.
-  if (!PyUnicode_CheckExact(string) || text.empty() || text.size() > ShortBytes) {
-    return cow_String(text);
-  }
+  if (text.empty() || text.size() > ShortBytes) return cow_String(text);
   const Py_hash_t hash = Hash(string);
   std::size_t at = Home(hash);
   for (; !table[at].text.IsEmpty(); at = (at + 1) % kSlots) {
@@ -42,8 +39,10 @@ cow_String py_KeptTexts::Text(PyObject* string) {
 }
 
 Py_hash_t py_KeptTexts::Hash(PyObject* string) noexcept {
+  // str's own hash of the characters, which cannot fail, even for a subclass whose __hash__
+  // is other code.
   const Py_hash_t cached = reinterpret_cast<PyASCIIObject*>(string)->hash;
-  return cached != -1 ? cached : PyObject_Hash(string);  // a str's hash cannot fail
+  return cached != -1 ? cached : PyUnicode_Type.tp_hash(string);
 }
 
 std::string_view py_KeptTexts::Utf8(PyObject* string) {

@@ -2,10 +2,10 @@
 // The texts of the short strings scripts pass again and again (keyword names, string constants,
 // the names of things), kept by content: a call then shares a text instead of converting and
 // allocating it. The texts are kept for good and are permanent (cow_String::Permanent), so that
-// sharing one costs no atomic operation. A string is found by its Python hash, which the string
-// caches, and its UTF-8 bytes. Strings longer than ShortBytes, instances of str's subclasses,
-// and new strings once Capacity texts are kept, convert on every call, so that a script making
-// endless distinct names cannot grow the table. Call with the GIL held.
+// sharing one costs no atomic operation. A string is found by str's hash of its characters,
+// which the string caches, and its UTF-8 bytes. Strings longer than ShortBytes, and new strings
+// once Capacity texts are kept, convert on every call, so that a script making endless distinct
+// names cannot grow the table. Call with the GIL held.
 #include <Python.h>
 #include <cow_String.h>
 
