@@ -18,10 +18,10 @@ constexpr const char* kUndetermined = "Undetermined";
 
 omu_Arguments::omu_Arguments(int size) : omu_PrimLeaf(size, '(') {}
 
-void omu_Arguments::Store(const cow_String& keyword, omu_PrimOwner value) {
+void omu_Arguments::Store(const cow_String& keyword, omu_PrimHandle value) {
   m_Index.Clear();
   m_Keywords.reset();
-  m_Stored.emplace_back(keyword, omu_KeywordIndex::Stored::second_type(std::move(value)));
+  m_Stored.emplace_back(keyword, std::move(value));
 }
 
 const omu_PrimDictionary<cow_String>& omu_Arguments::Keywords() const {

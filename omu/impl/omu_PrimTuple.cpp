@@ -197,13 +197,13 @@ bool omu_PrimTuple::operator==(const omu_Primitive& other) const {
 
 // --- Put --------------------------------------------------------------------------------
 
-void omu_PrimTuple::Store(std::unique_ptr<omu_Primitive> value) {
+void omu_PrimTuple::Store(omu_PrimHandle value) {
   if (m_Cursor >= m_Size) {
     if (m_Cursor >= Capacity()) NEX_THROW(nex_TextException("PrimTuple Put past its size"), kSource);
     m_Size = m_Cursor + 1;
     m_PrimVector.Resize(m_Size);
   }
-  m_PrimVector.Get(m_Cursor) = omu_PrimHandle(std::move(value));
+  m_PrimVector.Get(m_Cursor) = std::move(value);
   ++m_Cursor;
 }
 

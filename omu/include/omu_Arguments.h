@@ -70,8 +70,10 @@ public:
   template <class T>
     requires requires(const T& value) { omu_PrimOwn(value); }
   void Put(const T& value, const cow_String& keyword) {
-    Store(keyword, omu_PrimOwn(value));
+    Store(keyword, omu_PrimHandle(omu_PrimOwn(value)));
   }
+  /// Stores a share of value under keyword, as Put(omu_PrimHandle) does by position.
+  void Put(omu_PrimHandle value, const cow_String& keyword) { Store(keyword, std::move(value)); }
 
   /// Right after a Get of the same parameter that failed, and while deprecated arguments are
   /// allowed: reads the parameter again by the old keyword and gives the deprecation notice
@@ -116,7 +118,7 @@ public:
   cow_String AsRepr() const override { return AsString(0); }
 
 private:
-  void Store(const cow_String& keyword, omu_PrimOwner value);
+  void Store(const cow_String& keyword, omu_PrimHandle value);
   /// Builds the keyword index unless it is current.
   void IndexKeywords();
   template <class T, class ByPosition>

@@ -95,6 +95,9 @@ public:
   virtual void Put(signed char value);
   ///@}
 
+  /// Stores a share of value at the cursor: no copy until one side writes it.
+  void Put(omu_PrimHandle value) { Store(std::move(value)); }
+
   /// Each Get reads the element at the cursor into its output, as its type's binding takes it
   /// by position, and moves the cursor on. The wrapper is lent (null when refused).
   virtual const omu_PyObjectWrapper* Get(const omu_PyObjectWrapper*);
@@ -201,9 +204,12 @@ public:
 protected:
   /// The upper bound on slots that Put may grow the tuple to (a list's maximum size).
   virtual int Capacity() const noexcept { return m_Size; }
-  /// Stores value at the cursor and moves on; past the size it grows the tuple up to Capacity(),
-  /// beyond which it raises nex_TextException.
-  void Store(std::unique_ptr<omu_Primitive> value);
+  /// Stores value (shared, or owned from now on) at the cursor and moves on; past the size it
+  /// grows the tuple up to Capacity(), beyond which it raises nex_TextException.
+  ///@{
+  void Store(omu_PrimHandle value);
+  void Store(std::unique_ptr<omu_Primitive> value) { Store(omu_PrimHandle(std::move(value))); }
+  ///@}
   /// Makes slot index share handle.
   void SetHandle(int index, const omu_PrimHandle& handle);
   /// Slice, Repeat and Concat into a new sequence of type Result; a missing element
