@@ -32,13 +32,12 @@ void py_CallArguments::Lease::Fill(PyObject* const* args, std::size_t nargsf, Py
   omu_Arguments& arguments = *m_Arguments;
   arguments.Reset(static_cast<int>(positional));
   for (Py_ssize_t i = 0; i < positional; ++i) {
-    arguments.Put(py_ValueConverter::ToPrimitive(args[i]).release());
+    arguments.Put(py_ValueConverter::ToHandle(args[i]));
   }
   const Py_ssize_t keywords = kwnames ? PyTuple_GET_SIZE(kwnames) : 0;
   if (keywords > 0) arguments.ReserveKeywords(static_cast<int>(keywords));
   for (Py_ssize_t i = 0; i < keywords; ++i) {
     const cow_String keyword = py_Caster<cow_String>::FromPython(PyTuple_GET_ITEM(kwnames, i));
-    omu_Primitive* value = py_ValueConverter::ToPrimitive(args[positional + i]).release();
-    arguments.Put(value, keyword);
+    arguments.Put(py_ValueConverter::ToHandle(args[positional + i]), keyword);
   }
 }

@@ -1,12 +1,13 @@
 #pragma once
 // A Python call handed to native code: the positional and keyword arguments of a vectorcall
-// become one omu_Arguments (each value through py_ValueConverter, keywords in the order
-// given), which the native side binds with Begin/Get/End, so a wrong call gets the library's
+// become one omu_Arguments (each value through py_ValueConverter::ToHandle, which shares the
+// primitives of the constants a script passes again and again; keywords in the order given),
+// which the native side binds with Begin/Get/End, so a wrong call gets the library's
 // own messages in the library's order. Call with the GIL held.
 //
 // The argument lists are reused: the lists finished calls gave back are kept (one per depth of
 // calls made from inside a command, up to Spare), reset and with their storage, so that a call
-// allocates only its values.
+// allocates only the values it has not met lately.
 #include "py_ErrorTranslator.h"
 #include "py_ValueConverter.h"
 

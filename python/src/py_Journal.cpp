@@ -4,7 +4,6 @@
 #include "py_JournalText.h"
 #include "py_ValueConverter.h"
 
-#include <omu_PrimEnumBase.h>
 #include <pybind11/eval.h>
 
 #include <utility>
@@ -14,13 +13,6 @@ using namespace pybind11::literals;
 
 namespace {
 // A value no script can change after the call, kept by reference.
-bool Settled(PyObject* value) {
-  const PyTypeObject* type = Py_TYPE(value);
-  return type == &PyLong_Type || type == &PyFloat_Type || type == &PyUnicode_Type ||
-         type == &PyBool_Type || value == Py_None || type == &PyComplex_Type ||
-         py::isinstance<omu_PrimEnumBase>(value);
-}
-
 // Keyword arguments were stored in the order of the call's names, which never repeat.
 const omu_Primitive* Converted(const omu_Arguments& arguments, Py_ssize_t positional,
                                Py_ssize_t index) {
@@ -76,7 +68,7 @@ void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t
   try {
     for (Py_ssize_t i = 0; i < count; ++i) {
       const omu_Primitive* converted =
-          Settled(args[i]) ? nullptr : Converted(arguments, positional, i);
+          py_ValueConverter::Immutable(args[i]) ? nullptr : Converted(arguments, positional, i);
       if (converted) {
         kept.emplace_back(std::unique_ptr<omu_Primitive>(converted->Copy()));
       } else {

@@ -1,5 +1,7 @@
 #include "py_KeptTexts.h"
 
+#include "py_IdentityCache.h"
+
 #include <pybind11/pybind11.h>
 
 #include <array>
@@ -20,19 +22,35 @@ std::size_t Home(Py_hash_t hash) noexcept {
   return static_cast<std::size_t>((static_cast<std::uint64_t>(hash) * 0x9E3779B97F4A7C15ULL) >>
                                   (64 - std::countr_zero(kSlots)));
 }
+
+py_IdentityCache<cow_String, py_KeptTexts::Seen>& Known() {
+  static auto& known = *new py_IdentityCache<cow_String, py_KeptTexts::Seen>();
+  return known;
+}
 }  // namespace
 
 cow_String py_KeptTexts::Text(PyObject* string) {
-  static auto& table = *new std::array<Entry, kSlots>();
-  static std::size_t kept = 0;
+  if (const cow_String* known = Known().Find(string)) return *known;
   const std::string_view text = Utf8(string);
   if (text.empty() || text.size() > ShortBytes) return cow_String(text);
+  cow_String kept = KeptText(string, text);
+  if (kept.IsEmpty()) return cow_String(text);
+  // A subclass instance is not held: its lifetime is its script's.
+  if (PyUnicode_CheckExact(string)) Known().Keep(string, kept);
+  return kept;
+}
+
+void py_KeptTexts::Forget() noexcept { Known().Forget(); }
+
+cow_String py_KeptTexts::KeptText(PyObject* string, std::string_view text) {
+  static auto& table = *new std::array<Entry, kSlots>();
+  static std::size_t kept = 0;
   const Py_hash_t hash = Hash(string);
   std::size_t at = Home(hash);
   for (; !table[at].text.IsEmpty(); at = (at + 1) % kSlots) {
     if (table[at].hash == hash && table[at].text.View() == text) return table[at].text;
   }
-  if (kept == Capacity) return cow_String(text);
+  if (kept == Capacity) return {};
   table[at] = {hash, cow_String::Permanent(text)};
   ++kept;
   return table[at].text;

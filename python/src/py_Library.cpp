@@ -1,5 +1,8 @@
 #include "py_Library.h"
 
+#include "py_KeptTexts.h"
+#include "py_ValueConverter.h"
+
 #include <UTI_CaeUtils.h>
 #include <pybind11/pybind11.h>
 
@@ -17,6 +20,8 @@ void py_Library::Start() {
   // are let go without touching the interpreter from then on.
   pybind11::module_::import("atexit").attr("register")(pybind11::cpp_function([] {
     g_Alive = false;
+    py_KeptTexts::Forget();
+    py_ValueConverter::Forget();
     UTI_CaeUtils_finalize(g_StartCount);
   }));
 }

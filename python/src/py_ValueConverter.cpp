@@ -2,10 +2,12 @@
 
 #include "py_ArrayConverter.h"
 #include "py_Caster.h"
+#include "py_IdentityCache.h"
 #include "py_ScalarTable.h"
 #include "py_ScriptObject.h"
 
 #include <omu_InterfaceObj.h>
+#include <omu_PrimEnumBase.h>
 #include <omu_PrimArray.h>
 #include <omu_PrimDictionary.h>
 #include <omu_PrimList.h>
@@ -163,7 +165,29 @@ PyObject* Checked(PyObject* result) {
   if (!result) throw py::error_already_set();
   return result;
 }
+// The primitives of the immutable objects converted lately: a script passes the same
+// constants and names call after call.
+py_IdentityCache<omu_PrimHandle, 256>& KeptPrimitives() {
+  static auto& kept = *new py_IdentityCache<omu_PrimHandle, 256>();
+  return kept;
+}
 }  // namespace
+
+omu_PrimHandle py_ValueConverter::ToHandle(PyObject* value) {
+  if (const omu_PrimHandle* kept = KeptPrimitives().Find(value)) return *kept;
+  omu_PrimHandle made(ToPrimitive(value));
+  if (Immutable(value)) KeptPrimitives().Keep(value, made);
+  return made;
+}
+
+bool py_ValueConverter::Immutable(PyObject* value) {
+  const PyTypeObject* type = Py_TYPE(value);
+  return type == &PyLong_Type || type == &PyFloat_Type || type == &PyUnicode_Type ||
+         type == &PyBool_Type || value == Py_None || type == &PyComplex_Type ||
+         py::isinstance<omu_PrimEnumBase>(value);
+}
+
+void py_ValueConverter::Forget() noexcept { KeptPrimitives().Forget(); }
 
 omu_PrimOwner py_ValueConverter::ToPrimitive(PyObject* value) {
   if (omu_PrimOwner scalar = py_ScalarTable::ToPrimitive(value)) return scalar;

@@ -18,14 +18,24 @@
 //
 // A container that holds itself raises ValueError; failures raise Python errors as
 // pybind11::error_already_set, never a crash. Call with the GIL held. Cost: one primitive
-// per value, no per-element work for arrays.
+// per value, no per-element work for arrays; ToHandle shares the primitive of an immutable
+// value it met lately (KeptPrimitives of them) instead of making another.
 #include <Python.h>
 #include <omu_Binding.h>
+#include <omu_PrimTuple.h>
 
 class py_ValueConverter {
 public:
   // The primitive carrying value, owned by the caller.
   static omu_PrimOwner ToPrimitive(PyObject* value);
+  // The same primitive, shared with the conversions of the same object before it when the
+  // object is immutable.
+  static omu_PrimHandle ToHandle(PyObject* value);
+  // True for the objects that cannot change (None, bool, int, float, complex, str and
+  // enumeration constants, subclasses excluded), whose primitive therefore never changes.
+  static bool Immutable(PyObject* value);
+  // Lets go of the objects ToHandle holds; called as the interpreter exits.
+  static void Forget() noexcept;
   // The Python value of a primitive (None for null), a new reference.
   static PyObject* ToPython(const omu_Primitive* value);
 };

@@ -61,6 +61,15 @@ def test_accepted_calls_answer(call, result):
     assert call() == result
 
 
+def test_each_call_sees_its_own_values_as_objects_die_between_calls():
+    def validated(i):
+        name = "".join(["n", str(i)])  # held by a name, as a value met again would be
+        answer = cvxutils.validateName(name)
+        cvxutils.clear_journal()  # nothing else holds it: the next value may take its address
+        return answer
+    assert [validated(i) for i in range(5000)] == [f"n{i}" for i in range(5000)]
+
+
 def shell():
     return cvxutils.createSection("Shell-1", 2.0)
 
