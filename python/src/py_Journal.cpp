@@ -12,7 +12,6 @@ namespace py = pybind11;
 using namespace pybind11::literals;
 
 namespace {
-// A value no script can change after the call, kept by reference.
 // Keyword arguments were stored in the order of the call's names, which never repeat.
 const omu_Primitive* Converted(const omu_Arguments& arguments, Py_ssize_t positional,
                                Py_ssize_t index) {
@@ -67,6 +66,7 @@ void py_Journal::Succeeded(PyObject* command, PyObject* const* args, std::size_t
   const std::size_t mark = kept.size();
   try {
     for (Py_ssize_t i = 0; i < count; ++i) {
+      // A value no script can change is kept by reference, any other as the command got it.
       const omu_Primitive* converted =
           py_ValueConverter::Immutable(args[i]) ? nullptr : Converted(arguments, positional, i);
       if (converted) {

@@ -31,8 +31,8 @@ public:
   // The same primitive, shared with the conversions of the same object before it when the
   // object is immutable.
   static omu_PrimHandle ToHandle(PyObject* value);
-  // True for the objects that cannot change (None, bool, int, float, complex, str and
-  // enumeration constants, subclasses excluded), whose primitive therefore never changes.
+  // True for the objects that cannot change, whose primitive therefore never changes: None,
+  // and bool, int, float, complex and str of exactly those types, and enumeration constants.
   static bool Immutable(PyObject* value);
   // Lets go of the objects ToHandle holds; called as the interpreter exits.
   static void Forget() noexcept;
