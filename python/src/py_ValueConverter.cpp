@@ -7,9 +7,9 @@
 #include "py_ScriptObject.h"
 
 #include <omu_InterfaceObj.h>
-#include <omu_PrimEnumBase.h>
 #include <omu_PrimArray.h>
 #include <omu_PrimDictionary.h>
+#include <omu_PrimEnumBase.h>
 #include <omu_PrimList.h>
 #include <omu_PyObjectWrapper.h>
 
