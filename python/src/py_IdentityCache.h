@@ -2,16 +2,16 @@
 // What was made from an immutable Python object, known by the object's identity, so that
 // finding it again is one load and one comparison. Each entry holds a reference to its
 // object, so that the address names no other object while the entry lasts; a new entry
-// takes the place of the one in its slot. Slots is a power of two.
+// takes the place of the one in its slot. Slots is a power of two (py_HomeSlot).
 //
 // Call with the GIL held. Forget before the interpreter finalises, while the objects can still
 // be released; nothing is kept after that.
+#include "py_HomeSlot.h"
 #include "py_Library.h"
 
 #include <Python.h>
 
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -19,8 +19,6 @@
 template <class V, std::size_t Slots>
 class py_IdentityCache {
 public:
-  static_assert(std::has_single_bit(Slots));
-
   // The value kept for object, or null.
   const V* Find(PyObject* object) const noexcept {
     const Entry& entry = m_Entries[Home(object)];
@@ -51,9 +49,7 @@ private:
   };
 
   static std::size_t Home(PyObject* object) noexcept {
-    const auto address = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(object));
-    return static_cast<std::size_t>((address * 0x9E3779B97F4A7C15ULL) >>
-                                    (64 - std::countr_zero(Slots)));
+    return py_HomeSlot<Slots>(reinterpret_cast<std::uintptr_t>(object));
   }
 
   std::array<Entry, Slots> m_Entries{};

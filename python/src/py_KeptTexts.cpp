@@ -1,12 +1,11 @@
 #include "py_KeptTexts.h"
 
+#include "py_HomeSlot.h"
 #include "py_IdentityCache.h"
 
 #include <pybind11/pybind11.h>
 
 #include <array>
-#include <bit>
-#include <cstdint>
 
 namespace {
 // Open addressing over a table twice the capacity, so that a probe stays short; an empty text
@@ -16,12 +15,6 @@ struct Entry {
   cow_String text;
 };
 constexpr std::size_t kSlots = 2 * py_KeptTexts::Capacity;
-static_assert(std::has_single_bit(kSlots));
-
-std::size_t Home(Py_hash_t hash) noexcept {
-  return static_cast<std::size_t>((static_cast<std::uint64_t>(hash) * 0x9E3779B97F4A7C15ULL) >>
-                                  (64 - std::countr_zero(kSlots)));
-}
 
 py_IdentityCache<cow_String, py_KeptTexts::Seen>& Known() {
   static auto& known = *new py_IdentityCache<cow_String, py_KeptTexts::Seen>();
@@ -46,7 +39,7 @@ cow_String py_KeptTexts::KeptText(PyObject* string, std::string_view text) {
   static auto& table = *new std::array<Entry, kSlots>();
   static std::size_t kept = 0;
   const Py_hash_t hash = Hash(string);
-  std::size_t at = Home(hash);
+  std::size_t at = py_HomeSlot<kSlots>(static_cast<std::uint64_t>(hash));
   for (; !table[at].text.IsEmpty(); at = (at + 1) % kSlots) {
     if (table[at].hash == hash && table[at].text.View() == text) return table[at].text;
   }

@@ -167,8 +167,9 @@ PyObject* Checked(PyObject* result) {
 }
 // The primitives of the immutable objects converted lately: a script passes the same
 // constants and names call after call.
-py_IdentityCache<omu_PrimHandle, 256>& KeptPrimitives() {
-  static auto& kept = *new py_IdentityCache<omu_PrimHandle, 256>();
+constexpr std::size_t kKeptPrimitives = 256;
+py_IdentityCache<omu_PrimHandle, kKeptPrimitives>& KeptPrimitives() {
+  static auto& kept = *new py_IdentityCache<omu_PrimHandle, kKeptPrimitives>();
   return kept;
 }
 }  // namespace
