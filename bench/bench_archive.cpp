@@ -113,7 +113,7 @@ struct Pickle {
     dumps = PyObject_GetAttrString(module, "dumps");
     loads = PyObject_GetAttrString(module, "loads");
     Py_DECREF(module);
-    tuple = PyTuple_New(size);
+    tuple = PyTuple_New(size);  // NOLINT(cppcoreguidelines-prefer-member-initializer): after Start
     for (int i = 0; i < size; ++i) {
       PyTuple_SET_ITEM(tuple, i, PyFloat_FromDouble(Cell(static_cast<std::size_t>(i))));
     }

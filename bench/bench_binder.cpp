@@ -101,7 +101,8 @@ void BindKeywords_ours(benchmark::State& state) {
 // The parser is variadic: one pointer per keyword, expanded at compile time.
 template <std::size_t... I>
 int ParseKeywords(PyObject* args, PyObject* kwargs, const char* format, const char** keywords,
-                  int* out, std::index_sequence<I...>) {
+                  int* out,  // NOLINT(readability-non-const-parameter): written by the parser
+                  std::index_sequence<I...>) {
   return PyArg_ParseTupleAndKeywords(args, kwargs, format, const_cast<char**>(keywords),
                                      &out[I]...);
 }

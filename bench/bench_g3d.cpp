@@ -2,8 +2,8 @@
 // the camera's matrices beside GLM's lookAt and frustum.
 #include <g3d_Camera.h>
 
-#include <Eigen/Dense>
 #include <benchmark/benchmark.h>
+#include <Eigen/Dense>
 #include <glm/glm.hpp>
 #include <glm/gtc/matrix_transform.hpp>
 
@@ -94,7 +94,8 @@ const bool s_XFormRegistered = [] {
   using Runner = void (*)(benchmark::State&, std::size_t);
   const std::pair<const char*, Runner> sides[] = {
       {"ours", XForm_ours}, {"glm", XForm_glm}, {"eigen", XForm_eigen}, {"memcpy", XForm_memcpy}};
-  for (const auto& [label, n] : {std::pair{"1M", std::size_t{1} << 20}, {"16M", std::size_t{1} << 24}}) {
+  for (const auto& [label, n] :
+       {std::pair{"1M", std::size_t{1} << 20}, {"16M", std::size_t{1} << 24}}) {
     for (const auto& [side, run] : sides) {
       benchmark::RegisterBenchmark((std::string("XFormPoints") + label + "/" + side).c_str(),
                                    [run = run, n = n](benchmark::State& s) { run(s, n); })

@@ -99,23 +99,21 @@ std::unique_ptr<omu_PrimArray> ArrayOfDoubles() {
 template <class Build>
 void RegisterCase(const char* name, Build build, const char* python) {
   const std::string prefix = std::string("Memory1M") + name + "/";
-  benchmark::RegisterBenchmark((prefix + "ours").c_str(),
-                               [build](benchmark::State& s) { Ours(s, build); })
-      ->Iterations(1);
+  benchmark::RegisterBenchmark((prefix + "ours").c_str(), [build](benchmark::State& s) {
+    Ours(s, build);
+  })->Iterations(1);
   benchmark::RegisterBenchmark((prefix + "vector").c_str(), Vector)->Iterations(1);
-  benchmark::RegisterBenchmark((prefix + "cpython").c_str(),
-                               [python = std::string(python)](benchmark::State& s) {
-                                 CPython(s, python);
-                               })
-      ->Iterations(1);
+  benchmark::RegisterBenchmark((prefix + "cpython").c_str(), [python = std::string(python)](
+                                                                 benchmark::State& s) {
+    CPython(s, python);
+  })->Iterations(1);
 }
 
 const bool s_Registered = [] {
   RegisterCase("TupleOfFloats", TupleOfFloats, "tuple([i + 0.5 for i in range(N)])");
   RegisterCase("ListOfInts", ListOfInts, "[i + 1000 for i in range(N)]");
   RegisterCase("DictIntKeys", DictionaryOfFloats, "{i: i + 0.5 for i in range(N)}");
-  RegisterCase("NumericArray", ArrayOfDoubles,
-               "__import__('array').array('d', [0.5]) * N");
+  RegisterCase("NumericArray", ArrayOfDoubles, "__import__('array').array('d', [0.5]) * N");
   return true;
 }();
 }  // namespace

@@ -28,10 +28,18 @@ std::vector<double> MixedDoubles(int count) {
     const std::uint64_t bits = random();
     double value = 0;
     switch (i % 4) {
-      case 0: value = static_cast<double>(bits % 100000); break;
-      case 1: value = static_cast<double>(bits % 1000000) / 1000.0; break;
-      case 2: value = std::sqrt(static_cast<double>(bits % 1000000)) / 7.0; break;
-      default: std::memcpy(&value, &bits, sizeof value); break;
+      case 0:
+        value = static_cast<double>(bits % 100000);
+        break;
+      case 1:
+        value = static_cast<double>(bits % 1000000) / 1000.0;
+        break;
+      case 2:
+        value = std::sqrt(static_cast<double>(bits % 1000000)) / 7.0;
+        break;
+      default:
+        std::memcpy(&value, &bits, sizeof value);
+        break;
     }
     if (std::isfinite(value)) values.push_back(value);
   }
@@ -137,7 +145,8 @@ void TupleRepr_cpython(benchmark::State& state) {
   }();
   (void)started;
   PyObject* tuple = PyTuple_New(kReprElements);
-  for (int i = 0; i < kReprElements; ++i) PyTuple_SET_ITEM(tuple, i, PyFloat_FromDouble(ReprValue(i)));
+  for (int i = 0; i < kReprElements; ++i)
+    PyTuple_SET_ITEM(tuple, i, PyFloat_FromDouble(ReprValue(i)));
   for (auto _ : state) {
     PyObject* text = PyObject_Repr(tuple);
     benchmark::DoNotOptimize(text);

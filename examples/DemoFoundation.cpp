@@ -70,8 +70,8 @@ void ArchiveRoundTrip() {
 
   const auto repository = loaded.Read<mdl_Extension>(0);
   const bool same = static_cast<const mdl_Repository&>(*repository) == parts;
-  std::cout << "  repository 'parts' with " << parts.Keys().Length() << " keys: "
-            << (same ? "equal" : "DIFFERENT") << '\n';
+  std::cout << "  repository 'parts' with " << parts.Keys().Length()
+            << " keys: " << (same ? "equal" : "DIFFERENT") << '\n';
   for (std::size_t i = 0; i < values.size(); ++i) {
     const auto value = loaded.Read<omu_Primitive>(static_cast<int>(i) + 1);
     std::cout << "  " << value->AsRepr().View() << ": "

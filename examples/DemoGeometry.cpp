@@ -83,11 +83,11 @@ void WriteSvg(const std::filesystem::path& path, const g3d_Camera& camera,
   std::vector<g3d_Color> ramp(kRings);
   g3d_Utils::Rainbow(ramp.data(), kRings, false, 1.0f);
   std::ofstream svg(path);
-  svg << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << kPicture << "\" height=\""
+  svg << R"(<svg xmlns="http://www.w3.org/2000/svg" width=")" << kPicture << "\" height=\""
       << kPicture << "\">\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
   std::vector<Pixel> pixels;
   for (int i = 0; i < kRings; ++i) {
-    svg << "<polygon fill=\"none\" stroke-width=\"1.5\" stroke=\"" << Hex(ramp[i]) << "\" points=\"";
+    svg << R"(<polygon fill="none" stroke-width="1.5" stroke=")" << Hex(ramp[i]) << "\" points=\"";
     for (int j = 0; j < kRingPoints; ++j) {
       const Pixel p = ToPixel(camera, points[i * kRingPoints + j]);
       pixels.push_back(p);
@@ -95,7 +95,7 @@ void WriteSvg(const std::filesystem::path& path, const g3d_Camera& camera,
     }
     svg << "\"/>\n";
   }
-  svg << "<polygon fill=\"none\" stroke=\"black\" stroke-width=\"2\" points=\"";
+  svg << R"(<polygon fill="none" stroke="black" stroke-width="2" points=")";
   for (const Pixel& p : Hull(pixels)) svg << p.x << ',' << p.y << ' ';
   svg << "\"/>\n</svg>\n";
 }
@@ -119,8 +119,8 @@ void DemoGeometry() {
   camera.Pan(0.05f, -0.02f, 0, true);
   camera.Rotate(25, g3d_Vector(0, 1, 0), false);
   camera.Rotate(-15, g3d_Vector(1, 0, 0), true);
-  std::cout << "field of view " << camera.GetFieldOfView() << " degrees, near "
-            << camera.GetNear() << ", far " << camera.GetFar() << '\n';
+  std::cout << "field of view " << camera.GetFieldOfView() << " degrees, near " << camera.GetNear()
+            << ", far " << camera.GetFar() << '\n';
 
   aio_ostream out(&std::cout);
   out << "view matrix:" << camera.GetVOM() << "projection matrix:" << camera.GetPM();

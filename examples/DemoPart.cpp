@@ -15,7 +15,8 @@ DemoFeature::DemoFeature(const omu_Shortcut& path) : omu_InterfaceObj(path) {
 omu_Primitive* DemoFeature::Type() const { return new omu_PrimType(*this); }
 
 DemoPart::DemoPart(std::shared_ptr<DemoPartRecord> record)
-    : omu_PrimLeaf(omu_Shortcut("mdb.models['Model-1'].parts[" + omu_NameString(record->name).StdString() + "]")),
+    : omu_PrimLeaf(omu_Shortcut("mdb.models['Model-1'].parts[" +
+                                omu_NameString(record->name).StdString() + "]")),
       m_Record(std::move(record)) {
   static const methodTable methods[] = {{"setValues", &Call<DemoPart, &DemoPart::SetValues>},
                                         {nullptr, nullptr}};

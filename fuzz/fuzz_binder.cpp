@@ -21,29 +21,78 @@ const char* Keyword(FuzzInput& in) { return kKeywords[in.Byte() % std::size(kKey
 void PutValue(omu_Arguments& args, FuzzInput& in, const char* keyword) {
   auto put = [&](const auto& value) { keyword ? args.Put(value, keyword) : args.Put(value); };
   switch (in.Byte() % 7) {
-    case 0: put(static_cast<int>(static_cast<std::int8_t>(in.Byte()))); break;
-    case 1: put(in.Byte() / 8.0); break;
-    case 2: put(cow_String(in.Byte() % 2 ? "Part-1" : "bad name.")); break;
-    case 3: put(in.Byte() % 2 == 0); break;
-    case 4: put(cow_List<double>{1.0, in.Byte() / 4.0}); break;
-    case 5: put(cow_List<cow_String>{"x", "y"}); break;
-    default: put(omu_PrimNone()); break;
+    case 0:
+      put(static_cast<int>(static_cast<std::int8_t>(in.Byte())));
+      break;
+    case 1:
+      put(in.Byte() / 8.0);
+      break;
+    case 2:
+      put(cow_String(in.Byte() % 2 ? "Part-1" : "bad name."));
+      break;
+    case 3:
+      put(in.Byte() % 2 == 0);
+      break;
+    case 4:
+      put(cow_List<double>{1.0, in.Byte() / 4.0});
+      break;
+    case 5:
+      put(cow_List<cow_String>{"x", "y"});
+      break;
+    default:
+      put(omu_PrimNone());
+      break;
   }
 }
 
 void Read(omu_Arguments& args, FuzzInput& in) {
   const char* keyword = Keyword(in);
   switch (in.Byte() % 10) {
-    case 0: { int v = 0; args.Get(v, keyword); break; }
-    case 1: { double v = 0; args.Get(v, keyword); break; }
-    case 2: { cow_String v; args.Get(v, keyword); break; }
-    case 3: { bool v = false; args.Get(v, keyword); break; }
-    case 4: { cow_List<double> v; omu_Get(args, v, cow_String(keyword)); break; }
-    case 5: { omu_CorvexName v; args.Get(v, keyword); break; }
-    case 6: args.Optional(); break;
-    case 7: args.Alternative(); break;
-    case 8: (void)args.Error(); (void)args.ErrorOnPrevious(); break;
-    default: { int v = 0; args.Get(v); break; }
+    case 0: {
+      int v = 0;
+      args.Get(v, keyword);
+      break;
+    }
+    case 1: {
+      double v = 0;
+      args.Get(v, keyword);
+      break;
+    }
+    case 2: {
+      cow_String v;
+      args.Get(v, keyword);
+      break;
+    }
+    case 3: {
+      bool v = false;
+      args.Get(v, keyword);
+      break;
+    }
+    case 4: {
+      cow_List<double> v;
+      omu_Get(args, v, cow_String(keyword));
+      break;
+    }
+    case 5: {
+      omu_CorvexName v;
+      args.Get(v, keyword);
+      break;
+    }
+    case 6:
+      args.Optional();
+      break;
+    case 7:
+      args.Alternative();
+      break;
+    case 8:
+      (void)args.Error();
+      (void)args.ErrorOnPrevious();
+      break;
+    default: {
+      int v = 0;
+      args.Get(v);
+      break;
+    }
   }
 }
 }  // namespace

@@ -11,7 +11,9 @@
 
 namespace {
 // A value in [-limit, limit] in steps of limit / 32767: finite and never extreme.
-float Number(FuzzInput& in, float limit) { return in.Raw<std::int16_t>() / 32767.0f * limit; }
+float Number(FuzzInput& in, float limit) {
+  return static_cast<float>(in.Raw<std::int16_t>()) / 32767.0f * limit;
+}
 
 // Braced lists evaluate in order, so the components are read x, y, z.
 g3d_Point Point(FuzzInput& in) { return {Number(in, 100), Number(in, 100), Number(in, 100)}; }

@@ -38,13 +38,31 @@ void Run(FuzzInput& bytes, MakeKey makeKey) {
     const K key = makeKey(bytes);
     const auto at = model.find(key);
     switch (op % 5) {
-      case 0: { const int v = int(bytes.Byte()) - 128; dict.Put(v, key); model[key] = v; break; }
-      case 1: { const cow_String v(bytes.Text()); dict.Put(v, key); model[key] = v; break; }
-      case 2: if (dict.Remove(key) != (at != model.end())) __builtin_trap(); model.erase(key); break;
-      case 3: copy = dict; copyModel = model; break;
-      default: CheckRead(dict, key, at == model.end() ? nullptr : &at->second);
+      case 0: {
+        const int v = int(bytes.Byte()) - 128;
+        dict.Put(v, key);
+        model[key] = v;
+        break;
+      }
+      case 1: {
+        const cow_String v(bytes.Text());
+        dict.Put(v, key);
+        model[key] = v;
+        break;
+      }
+      case 2:
+        if (dict.Remove(key) != (at != model.end())) __builtin_trap();
+        model.erase(key);
+        break;
+      case 3:
+        copy = dict;
+        copyModel = model;
+        break;
+      default:
+        CheckRead(dict, key, at == model.end() ? nullptr : &at->second);
     }
-    if (dict.Length() != int(model.size()) || dict.Contains(key) != model.contains(key)) __builtin_trap();
+    if (dict.Length() != int(model.size()) || dict.Contains(key) != model.contains(key))
+      __builtin_trap();
   }
   auto expected = model.begin();
   for (const auto& entry : dict.GetEntries()) {

@@ -15,7 +15,8 @@
 #include <vector>
 
 namespace {
-std::unique_ptr<omu_PrimTuple> Parse(const std::uint8_t* data, std::size_t size, std::size_t& at, int depth) {
+std::unique_ptr<omu_PrimTuple> Parse(const std::uint8_t* data, std::size_t size, std::size_t& at,
+                                     int depth) {
   std::vector<std::unique_ptr<omu_Primitive>> items;
   while (at < size && data[at] != ')') {
     const std::uint8_t code = data[at++];
@@ -25,11 +26,22 @@ std::unique_ptr<omu_PrimTuple> Parse(const std::uint8_t* data, std::size_t size,
     }
     const double next = at < size ? static_cast<double>(data[at++]) - 100.0 : 0.0;
     switch (code) {
-      case 'i': items.push_back(std::make_unique<omu_PrimNumber>(static_cast<int>(next))); break;
-      case 'f': items.push_back(std::make_unique<omu_PrimNumber>(static_cast<float>(next) / 3)); break;
-      case 'd': items.push_back(std::make_unique<omu_PrimNumber>(next / 7)); break;
-      case 'u': items.push_back(std::make_unique<omu_PrimNumber>(static_cast<unsigned int>(next + 100) * 40000000u)); break;
-      default: items.push_back(std::make_unique<omu_PrimString>(cow_String("x"))); break;
+      case 'i':
+        items.push_back(std::make_unique<omu_PrimNumber>(static_cast<int>(next)));
+        break;
+      case 'f':
+        items.push_back(std::make_unique<omu_PrimNumber>(static_cast<float>(next) / 3));
+        break;
+      case 'd':
+        items.push_back(std::make_unique<omu_PrimNumber>(next / 7));
+        break;
+      case 'u':
+        items.push_back(
+            std::make_unique<omu_PrimNumber>(static_cast<unsigned int>(next + 100) * 40000000u));
+        break;
+      default:
+        items.push_back(std::make_unique<omu_PrimString>(cow_String("x")));
+        break;
     }
   }
   if (at < size) ++at;  // the closing ')'

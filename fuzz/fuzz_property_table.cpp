@@ -15,7 +15,12 @@
 namespace {
 // Few distinct values, so that ties, zeros, signed zeros and NaN keys are common.
 double Value(std::uint8_t byte) {
-  constexpr double kPalette[] = {0.0, -0.0, 1.0, -1.0, 2.5, 1e300,
+  constexpr double kPalette[] = {0.0,
+                                 -0.0,
+                                 1.0,
+                                 -1.0,
+                                 2.5,
+                                 1e300,
                                  std::numeric_limits<double>::quiet_NaN(),
                                  std::numeric_limits<double>::infinity()};
   return kPalette[byte % std::size(kPalette)];
@@ -23,7 +28,7 @@ double Value(std::uint8_t byte) {
 
 bool HasZeroRow(const cow_2DArray<double>& cells, bool allowEmptyFirstRow) {
   for (int row = allowEmptyFirstRow ? 1 : 0; row < cells.Rows(); ++row) {
-    const auto first = cells.Cells().begin() + row * cells.Columns();
+    const auto first = cells.Cells().begin() + std::ptrdiff_t{row} * cells.Columns();
     if (std::all_of(first, first + cells.Columns(), [](double v) { return v == 0.0; })) return true;
   }
   return false;

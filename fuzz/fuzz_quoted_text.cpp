@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const cow_String unquoted = omu_StringFromQString(text);
   if (unquoted.Length() > text.Length()) std::abort();
   // Quoting and unquoting agree on texts without backslashes or newlines.
-  if (!text.Contains('\\') && !text.Contains('\n') && omu_StringFromQString(omu_NameString(text)) != text) {
+  if (!text.Contains('\\') && !text.Contains('\n') &&
+      omu_StringFromQString(omu_NameString(text)) != text) {
     std::abort();
   }
   for (const char bracket : {'[', ']', '('}) {

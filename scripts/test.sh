@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds and runs every test: the suite in a normal build (then the API reference, which fails on
-# any Doxygen warning), again under ASan+UBSan and under ThreadSanitizer, then every fuzz target
+# any Doxygen warning, and the formatting and clang-tidy checks), again under ASan+UBSan and under ThreadSanitizer, then every fuzz target
 # for a short time.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -40,6 +40,8 @@ run_suite debug
 # The API reference: any Doxygen warning fails it (about a minute).
 echo "=== docs"
 cmake --build --preset debug --target docs
+# Formatting and clang-tidy over every translation unit (about 12 minutes).
+bash scripts/lint.sh
 run_consumer
 run_python_install
 run_suite asan

@@ -6,6 +6,7 @@
 template <class Work>
 void OnThreads(int threads, const Work& work) {
   std::vector<std::thread> running;
+  running.reserve(static_cast<std::size_t>(threads));
   for (int t = 0; t < threads; ++t) running.emplace_back(work, t);
   for (std::thread& thread : running) thread.join();
 }

@@ -25,4 +25,6 @@ std::string Raised(Call&& call, const char* source = nullptr) {
 }
 
 template <class Call>
-std::string RaisedText(Call&& call) { return Raised(call); }
+std::string RaisedText(Call&& call) {
+  return Raised(call);
+}

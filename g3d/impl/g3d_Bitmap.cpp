@@ -39,14 +39,14 @@ void g3d_Bitmap::SetSize(int width, int height, bool set, bool bottomUp) {
 
 int g3d_Bitmap::GetBit(int x, int y) const noexcept {
   if (x < 0 || y < 0 || x >= m_Width || y >= m_Height) return 0;
-  const unsigned char byte = m_Bits[static_cast<std::size_t>(Row(y) * RowBytes() + x / 8)];
+  const unsigned char byte = m_Bits[Offset(x, y)];
   return (byte >> (7 - x % 8)) & 1;
 }
 
 void g3d_Bitmap::SetBit(int x, int y, bool on) noexcept {
   if (x < 0 || y < 0 || x >= m_Width || y >= m_Height) return;
-  unsigned char& byte = m_Bits[static_cast<std::size_t>(Row(y) * RowBytes() + x / 8)];
-  const unsigned char mask = static_cast<unsigned char>(0x80u >> (x % 8));
+  unsigned char& byte = m_Bits[Offset(x, y)];
+  const auto mask = static_cast<unsigned char>(0x80u >> (x % 8));
   byte = on ? (byte | mask) : (byte & ~mask);
 }
 

@@ -19,9 +19,7 @@ g3d_BoundingVolume& g3d_BoundingVolume::operator=(const g3d_BoundingVolume& othe
 
 g3d_BoundingVolume::~g3d_BoundingVolume() = default;
 
-void g3d_BoundingVolume::Reset() {
-  SetToRectangleBox(g3d_Point(-1, -1, -1), g3d_Point(1, 1, 1));
-}
+void g3d_BoundingVolume::Reset() { SetToRectangleBox(g3d_Point(-1, -1, -1), g3d_Point(1, 1, 1)); }
 
 bool g3d_BoundingVolume::IsDefault() const noexcept {
   if (vertexes != inlineVertexes || count != 8) return false;
@@ -76,8 +74,8 @@ void g3d_BoundingVolume::AppendVertexes(const g3d_Point* points, unsigned int n)
 void g3d_BoundingVolume::SetToRectangleBox(g3d_Point min, g3d_Point max) {
   UseInline(8);
   for (unsigned int i = 0; i < 8; ++i) {
-    vertexes[i] = g3d_Point((i & 4) ? max.x : min.x, (i & 2) ? max.y : min.y,
-                            (i & 1) ? max.z : min.z, 1.0f);
+    vertexes[i] =
+        g3d_Point((i & 4) ? max.x : min.x, (i & 2) ? max.y : min.y, (i & 1) ? max.z : min.z, 1.0f);
   }
 }
 

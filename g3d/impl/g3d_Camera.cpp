@@ -37,7 +37,7 @@ g3d_Vector Unit(g3d_Vector v) noexcept { return v.Normalize(); }
 // The eye's axes in world space, back pointing from the target to the eye. Written through
 // references so that, inlined, the view matrix's rebuild keeps them in registers.
 inline void EyeAxes(const g3d_Point& eye, const g3d_Point& target, const g3d_Vector& upward,
-             g3d_Vector& right, g3d_Vector& up, g3d_Vector& back) noexcept {
+                    g3d_Vector& right, g3d_Vector& up, g3d_Vector& back) noexcept {
   back = Unit(eye - target);
   right = Unit(g3d_Cross(upward, back));
   up = g3d_Cross(back, right);
@@ -65,8 +65,8 @@ struct CannedView {
   g3d_Vector from, up;
 };
 constexpr CannedView kCannedViews[] = {
-    {{0, 0, 1}, {0, 1, 0}},  {{0, 0, -1}, {0, 1, 0}}, {{-1, 0, 0}, {0, 1, 0}},
-    {{1, 0, 0}, {0, 1, 0}},  {{0, 1, 0}, {0, 0, -1}}, {{0, -1, 0}, {0, 0, 1}},
+    {{0, 0, 1}, {0, 1, 0}}, {{0, 0, -1}, {0, 1, 0}}, {{-1, 0, 0}, {0, 1, 0}},
+    {{1, 0, 0}, {0, 1, 0}}, {{0, 1, 0}, {0, 0, -1}}, {{0, -1, 0}, {0, 0, 1}},
     {{1, 1, 1}, {0, 1, 0}},
 };
 }  // namespace
@@ -214,8 +214,8 @@ g3d_Camera& g3d_Camera::SetFieldOfView(float degrees, bool keepDistance) {
     }
     SetViewOffset(static_cast<float>(m_OffsetX * k), static_cast<float>(m_OffsetY * k));
   } else {
-    const double near = std::tan((180.0 - degrees) * kDegreesToRadians / 2.0) *
-                        std::max(m_Width, m_Height) / 2.0;
+    const double near =
+        std::tan((180.0 - degrees) * kDegreesToRadians / 2.0) * std::max(m_Width, m_Height) / 2.0;
     SetNearFar(static_cast<float>(near), m_Far);
   }
   ClearUserMark();
@@ -227,14 +227,14 @@ g3d_Camera& g3d_Camera::Zoom(float percent, bool dolly) {
   ClearUserMark();
   if (IsLayerMode()) {
     const g3d_Vector t = m_Target - g3d_Point();
-    const float k = static_cast<float>(1.0 / s);
+    const auto k = static_cast<float>(1.0 / s);
     g3d_XForm about;
     about.SetTranslate(t).Scale(k, k, k).Translate(-t.x, -t.y, -t.z);
     m_Layer *= about;
     m_VOMStale = true;
     return *this;
   }
-  float scale = static_cast<float>(s);
+  auto scale = static_cast<float>(s);
   if (dolly && IsPerspective()) {
     const float distance = EyeDistance();
     // The eye goes no farther than the window may grow, so that zooming out never overflows.
@@ -325,7 +325,7 @@ g3d_Camera& g3d_Camera::Rotate(float degrees, const g3d_Vector& axis, bool eyeSp
 
 g3d_Camera& g3d_Camera::Rotate(const g3d_Vector& from, const g3d_Vector& to,
                                const g3d_Point& center) {
-  const float degrees = static_cast<float>(from.AngleWith(to, false) * kRadiansToDegrees);
+  const auto degrees = static_cast<float>(from.AngleWith(to, false) * kRadiansToDegrees);
   g3d_Vector axis = g3d_Cross(from, to);
   if (degrees != 0.0f && axis == g3d_Vector()) {  // opposite: any perpendicular axis
     axis = g3d_Cross(from, g3d_Vector(1, 0, 0));
@@ -425,8 +425,8 @@ g3d_Camera& g3d_Camera::Canned(const g3d_Sphere& sphere, g3d_SavedViewIdEnum vie
   return Fit(sphere);
 }
 
-g3d_Camera& g3d_Camera::CorrectAspect(float viewportWidth, float viewportHeight, float x0,
-                                      float x1, float y0, float y1, float pixelAspect) {
+g3d_Camera& g3d_Camera::CorrectAspect(float viewportWidth, float viewportHeight, float x0, float x1,
+                                      float y0, float y1, float pixelAspect) {
   if (!(viewportWidth > 0 && viewportHeight > 0 && x1 > x0 && y1 > y0 && pixelAspect > 0)) {
     return *this;
   }

@@ -111,7 +111,8 @@ _HSV g3d_Color::GetHSV() const noexcept {
 g3d_Color& g3d_Color::SetHSV(const _HSV& hsv) noexcept {
   if (hsv.s == 0.0f) return *this = g3d_Color(hsv.v, hsv.v, hsv.v, a);
   float rgb[3];
-  if (Sector(hsv.h >= 1.0f ? 0.0f : hsv.h, hsv.s, hsv.v, rgb)) *this = g3d_Color(rgb[0], rgb[1], rgb[2], a);
+  if (Sector(hsv.h >= 1.0f ? 0.0f : hsv.h, hsv.s, hsv.v, rgb))
+    *this = g3d_Color(rgb[0], rgb[1], rgb[2], a);
   return *this;
 }
 

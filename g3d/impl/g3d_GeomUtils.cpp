@@ -188,8 +188,8 @@ bool g3d_GeomUtils::LineLineIntersection(const g3d_Point& p0, const g3d_Point& p
                                          const g3d_Point& q0, const g3d_Point& q1, double* s,
                                          double* t, int& count, bool boundFirst,
                                          bool boundSecond) noexcept {
-  return LineLineIntersection(g3d_Storage(p0), g3d_Storage(p1), g3d_Storage(q0), g3d_Storage(q1),
-                              s, t, count, boundFirst, boundSecond);
+  return LineLineIntersection(g3d_Storage(p0), g3d_Storage(p1), g3d_Storage(q0), g3d_Storage(q1), s,
+                              t, count, boundFirst, boundSecond);
 }
 
 bool g3d_GeomUtils::ParallelLineIntersection(const g3d_Storage& p0, const g3d_Storage& p1,
@@ -204,7 +204,8 @@ bool g3d_GeomUtils::ParallelLineIntersection(const g3d_Storage& p0, const g3d_St
     return true;
   }
   double a = 0.0, b = 0.0;  // the second segment's ends along the first line
-  if (!LinePointIntersection(p0, p1, q0, a, false) || !LinePointIntersection(p0, p1, q1, b, false)) {
+  if (!LinePointIntersection(p0, p1, q0, a, false) ||
+      !LinePointIntersection(p0, p1, q1, b, false)) {
     return false;
   }
   Interval overlap{-kInfinity, kInfinity};

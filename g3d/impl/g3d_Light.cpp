@@ -18,11 +18,9 @@ g3d_Light& g3d_Light::SetPositionVector(float latitudeDegrees, float longitudeDe
 }
 
 bool g3d_Light::operator==(const g3d_Light& o) const noexcept {
-  return enabled == o.enabled && ambientColor == o.ambientColor &&
-         diffuseColor == o.diffuseColor && specularColor == o.specularColor &&
-         position == o.position && weight == o.weight &&
-         constantAttenuation == o.constantAttenuation &&
-         linearAttenuation == o.linearAttenuation &&
+  return enabled == o.enabled && ambientColor == o.ambientColor && diffuseColor == o.diffuseColor &&
+         specularColor == o.specularColor && position == o.position && weight == o.weight &&
+         constantAttenuation == o.constantAttenuation && linearAttenuation == o.linearAttenuation &&
          quadraticAttenuation == o.quadraticAttenuation && latitude == o.latitude &&
          longitude == o.longitude;
 }

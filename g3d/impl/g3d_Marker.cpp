@@ -1,4 +1,3 @@
 #include <g3d_Marker.h>
 
 g3d_Marker::g3d_Marker() noexcept = default;
-g3d_Marker::~g3d_Marker() = default;

@@ -1,4 +1,3 @@
 #include <g3d_Tensor.h>
 
 g3d_Tensor::g3d_Tensor() noexcept = default;
-g3d_Tensor::~g3d_Tensor() = default;

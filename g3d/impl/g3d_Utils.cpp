@@ -12,7 +12,8 @@ constexpr float kChannelScale = 1.0f / 65535.0f;
 g3d_Color FullHue(float hue, float alpha) noexcept {
   unsigned short r = 0, g = 0, b = 0;
   g3d_Color::HSVToRGB({hue, 1.0f, 1.0f}, r, g, b);
-  return {r * kChannelScale, g * kChannelScale, b * kChannelScale, alpha};
+  return {static_cast<float>(r) * kChannelScale, static_cast<float>(g) * kChannelScale,
+          static_cast<float>(b) * kChannelScale, alpha};
 }
 
 template <class ColorAt>
@@ -45,9 +46,8 @@ void g3d_Utils::BlackToWhite(g3d_Color* out, int n, bool reverse, float alpha) {
 }
 
 void g3d_Utils::WrapAround(g3d_Color* out, int n, float alpha) {
-  Fill(out, n, false, [n, alpha](int i) {
-    return FullHue(static_cast<float>(i) / static_cast<float>(n), alpha);
-  });
+  Fill(out, n, false,
+       [n, alpha](int i) { return FullHue(static_cast<float>(i) / static_cast<float>(n), alpha); });
 }
 
 void g3d_Utils::FillInColorsAndInterpolate(const cow_List<cow_String>& names, int n,

@@ -116,9 +116,9 @@ public:
 
 private:
 #ifdef G3D_XFORM_SSE
-  __m128 m_Columns[4];
+  __m128 m_Columns[4]{};
 #else
-  float m_Columns[4][4];
+  float m_Columns[4][4]{};
 #endif
 };
 static_assert(sizeof(g3d_Point) == 4 * sizeof(float), "points are read as four packed floats");
@@ -224,7 +224,7 @@ g3d_XForm& g3d_XForm::SetRotate(float degrees, const g3d_Vector& axis) noexcept 
   SetIdentity();
   const float length = axis.Length();
   if (degrees == 0.0f || length == 0.0f) return *this;
-  const float radians = static_cast<float>(degrees * kDegreesToRadians);
+  const auto radians = static_cast<float>(degrees * kDegreesToRadians);
   const float c = std::cos(radians), s = std::sin(radians), k = 1.0f - c;
   const g3d_Vector u = axis / length;
   const float x = u.x, y = u.y, z = u.z;
@@ -300,7 +300,7 @@ namespace {
 // The projections' six variable entries, numerators over denominators in double, two to a
 // vector: each lane rounds as a scalar division does, at half the divisions' cost. The camera
 // rebuilds a projection after every change of its window.
-typedef double Pair __attribute__((vector_size(16)));
+typedef double Pair __attribute__((vector_size(16)));  // NOLINT(modernize-use-using)
 
 struct Entries {
   Pair x, y, z;  // row 0's pair, row 1's, row 2's
@@ -362,8 +362,8 @@ g3d_XForm& g3d_XForm::operator*=(const g3d_XForm& b) noexcept {
   Matrix product;
   for (int i = 0; i < 4; ++i) {
     for (int j = 0; j < 4; ++j) {
-      product[i][j] = m_M[i][0] * b.m_M[0][j] + m_M[i][1] * b.m_M[1][j] +
-                      m_M[i][2] * b.m_M[2][j] + m_M[i][3] * b.m_M[3][j];
+      product[i][j] = m_M[i][0] * b.m_M[0][j] + m_M[i][1] * b.m_M[1][j] + m_M[i][2] * b.m_M[2][j] +
+                      m_M[i][3] * b.m_M[3][j];
     }
   }
   return SetM(product);

@@ -3,11 +3,10 @@
 
 #include <algorithm>
 
-g3d_XFormStack::g3d_XFormStack(int capacity_) : capacity(capacity_) {
+g3d_XFormStack::g3d_XFormStack(int capacity_) : top(0), capacity(capacity_) {
   g3d_Utils::Assert(capacity >= 1, "capacity >= 1");
   capacity = std::max(capacity, 1);
   entries = std::make_unique<g3d_XForm[]>(static_cast<std::size_t>(capacity));
-  top = 0;
 }
 
 g3d_XFormStack::g3d_XFormStack(const g3d_XFormStack& other)

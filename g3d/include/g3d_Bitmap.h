@@ -46,6 +46,11 @@ public:
 
 private:
   int Row(int y) const noexcept { return m_BottomUp ? m_Height - 1 - y : y; }
+  // The byte holding bit (x, y), both in range.
+  std::size_t Offset(int x, int y) const noexcept {
+    return static_cast<std::size_t>(Row(y)) * static_cast<std::size_t>(RowBytes()) +
+           static_cast<std::size_t>(x / 8);
+  }
 
   int m_Width = 0;
   int m_Height = 0;

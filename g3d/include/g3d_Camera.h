@@ -43,7 +43,7 @@ public:
   /// The mode bits of GetFlags().
   enum FlagBits : unsigned char {
     FLAG_PERSPECTIVE = 0x01,
-    FLAG_USER_MARK = 0x10,   ///< set by the host; cleared by every camera operation
+    FLAG_USER_MARK = 0x10,  ///< set by the host; cleared by every camera operation
     FLAG_LAYER_XFORM = 0x20,
   };
 
@@ -141,8 +141,8 @@ public:
   /// Shows the part x0..x1, y0..y1 (fractions) of the window in a viewport of the given
   /// pixel size and pixel aspect (width over height of one pixel); the window grows on one
   /// side so that its visible part has the viewport's aspect.
-  g3d_Camera& CorrectAspect(float viewportWidth, float viewportHeight, float x0, float x1,
-                            float y0, float y1, float pixelAspect);
+  g3d_Camera& CorrectAspect(float viewportWidth, float viewportHeight, float x0, float x1, float y0,
+                            float y1, float pixelAspect);
   /// Records the model's extent (its enclosing sphere, the radius times margin when margin
   /// is above 1) for FitVP, FitCenterVP and the clipping re-fit of Pan.
   g3d_Camera& SetModelBoundingVolume(const g3d_BoundingVolume& volume, float margin);
@@ -236,7 +236,7 @@ private:
   float m_OffsetY = 0.0f;
   float m_X0 = 0.0f, m_X1 = 1.0f, m_Y0 = 0.0f, m_Y1 = 1.0f;
   float m_FitFactor = 4.0f;
-  g3d_XForm m_Layer;                  ///< the layer transform of layer-transform mode
+  g3d_XForm m_Layer;                       ///< the layer transform of layer-transform mode
   g3d_Sphere m_Model{g3d_Point(), -1.0f};  ///< the recorded model extent; empty if none
 };
 

@@ -11,7 +11,7 @@
 class aio_ostream;
 
 /// Hue, saturation and value, each in [0, 1]; a hue of 1 is a full turn.
-struct _HSV {
+struct _HSV {  // NOLINT(bugprone-reserved-identifier): the name scripts know
   /// Hue, saturation and value.
   ///@{
   float h = 0.0f;
@@ -128,7 +128,7 @@ public:
     return r == o.r && g == o.g && b == o.b && a == o.a;
   }
   int operator!=(const g3d_Color& o) const noexcept { return !(*this == o); }
-///@}
+  ///@}
 };
 
 /// Component-wise, alpha too; not clamped.

@@ -81,9 +81,9 @@ public:
   /// triangle's plane is clipped to the triangle: count 2 with the ends of the clipped part.
   /// With bound set the line parameter is limited to the segment [-1e-5, 1.00001].
   static bool LineTriIntersection(const g3d_Storage& p0, const g3d_Storage& p1,
-                                  const g3d_Storage& a, const g3d_Storage& b,
-                                  const g3d_Storage& c, double* lineParam, double* s, double* t,
-                                  int& count, bool bound) noexcept;
+                                  const g3d_Storage& a, const g3d_Storage& b, const g3d_Storage& c,
+                                  double* lineParam, double* s, double* t, int& count,
+                                  bool bound) noexcept;
 
   /// Closed 2-D segments a0-a1 and b0-b1 in x/y: true when they share a point, touching ends
   /// and collinear overlaps included.

@@ -34,7 +34,7 @@ enum g3d_LineThicknessEnum : int {
 class CVX_EXPORT g3d_Marker {
 public:
   g3d_Marker() noexcept;
-  ~g3d_Marker();
+  ~g3d_Marker() = default;
 };
 
 /// @}

@@ -54,9 +54,7 @@ constexpr g3d_Point operator+(const g3d_Point& p, const g3d_Vector& v) noexcept 
   return {p.x + v.x, p.y + v.y, p.z + v.z, p.w};
 }
 /// The point moved by -v; w is kept.
-constexpr g3d_Point operator-(const g3d_Point& p, const g3d_Vector& v) noexcept {
-  return p + -v;
-}
+constexpr g3d_Point operator-(const g3d_Point& p, const g3d_Vector& v) noexcept { return p + -v; }
 
 /// "(x, y, z, w)", each component printed as a double.
 CVX_EXPORT aio_ostream& operator<<(aio_ostream& out, const g3d_Point& p);

@@ -24,9 +24,7 @@ struct g3d_Storage {
   constexpr explicit g3d_Storage(const g3d_Point& p) noexcept : x(p.x), y(p.y), z(p.z) {}
 
   /// x, y or z for axis 0, 1 or 2 (any other axis gives z).
-  constexpr double operator[](int axis) const noexcept {
-    return axis == 0 ? x : axis == 1 ? y : z;
-  }
+  constexpr double operator[](int axis) const noexcept { return axis == 0 ? x : axis == 1 ? y : z; }
 };
 
 /// Component-wise sum, difference, and scaling by k.

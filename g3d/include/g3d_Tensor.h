@@ -9,7 +9,7 @@
 class CVX_EXPORT g3d_Tensor {
 public:
   g3d_Tensor() noexcept;
-  ~g3d_Tensor();
+  ~g3d_Tensor() = default;
 };
 
 /// @}

@@ -24,8 +24,7 @@ public:
   /// n colours interpolated linearly in RGB between the named colours (colour names or
   /// `#RRGGBB`), spread evenly from the first to the last; an unknown name raises
   /// g3d_ColorErrorException; an empty list writes nothing.
-  static void FillInColorsAndInterpolate(const cow_List<cow_String>& names, int n,
-                                         g3d_Color* out);
+  static void FillInColorsAndInterpolate(const cow_List<cow_String>& names, int n, g3d_Color* out);
 
   /// Marker edge in pixels: 5, 7, 9.
   static float ConvertMarkerSize(g3d_MarkerSizeEnum size) noexcept;

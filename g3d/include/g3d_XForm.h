@@ -73,11 +73,11 @@ public:
 
   /// Note the edge order: top before bottom. A degenerate frustum (l = r, t = b, or not
   /// far > near > 0), or one whose matrix has no finite float form, leaves the identity.
-  g3d_XForm& SetPerspectiveProjection(float left, float right, float top, float bottom,
-                                      float near, float far) noexcept;
+  g3d_XForm& SetPerspectiveProjection(float left, float right, float top, float bottom, float near,
+                                      float far) noexcept;
   /// As above, but near may be zero or negative (only far > near is required).
-  g3d_XForm& SetOrthographicProjection(float left, float right, float top, float bottom,
-                                       float near, float far) noexcept;
+  g3d_XForm& SetOrthographicProjection(float left, float right, float top, float bottom, float near,
+                                       float far) noexcept;
 
   /// M <- M b.
   g3d_XForm& operator*=(const g3d_XForm& b) noexcept;
@@ -87,7 +87,7 @@ public:
   int operator!=(const g3d_XForm& other) const noexcept { return !(*this == other); }
 
 private:
-  float m_M[4][4];
+  float m_M[4][4]{};
 };
 
 /// The product a b: b applies to points first.

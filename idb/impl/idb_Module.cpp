@@ -6,5 +6,9 @@ namespace {
 omi_UseCounter s_Uses;
 }
 
-void idb_initialize(int& count) { s_Uses.Initialize(count, [] {}); }
-void idb_finalize(int& count) { s_Uses.Finalize(count, [] {}); }
+void idb_initialize(int& count) {
+  s_Uses.Initialize(count, [] {});
+}
+void idb_finalize(int& count) {
+  s_Uses.Finalize(count, [] {});
+}

@@ -6,12 +6,12 @@
 
 mdl_JaggedArray::mdl_JaggedArray(const cls_ReadVisitor& reader) {
   for (const cls_Value& row : reader.ReadList("rows")) {
-    const cls_Value::List* cells = row.As<cls_Value::List>();
+    const auto* cells = row.As<cls_Value::List>();
     if (!cells) reader.Fail("a row of 'rows' is not a list");
     std::vector<double> values;
     values.reserve(cells->size());
     for (const cls_Value& cell : *cells) {
-      const double* value = cell.As<double>();
+      const auto* value = cell.As<double>();
       if (!value) reader.Fail("a row of 'rows' holds something other than doubles");
       values.push_back(*value);
     }
@@ -24,7 +24,8 @@ void mdl_JaggedArray::DBWrite(const cls_WriteVisitor& writer) const {
   if (!writer.StartWrite(TypeId(), m_Uid)) return;
   cls_Value::List rows;
   rows.reserve(static_cast<std::size_t>(Rows()));
-  for (const cow_List<double>& row : m_Rows) rows.emplace_back(cls_Value::List(row.begin(), row.end()));
+  for (const cow_List<double>& row : m_Rows)
+    rows.emplace_back(cls_Value::List(row.begin(), row.end()));
   writer.Write("rows", std::move(rows));
 }
 

@@ -34,4 +34,6 @@ void Start() {
 }  // namespace
 
 void mdl_initialize(int& count) { s_Uses.Initialize(count, Start); }
-void mdl_finalize(int& count) { s_Uses.Finalize(count, [] { UTI_StopModule(mdl_ModuleNumber); }); }
+void mdl_finalize(int& count) {
+  s_Uses.Finalize(count, [] { UTI_StopModule(mdl_ModuleNumber); });
+}

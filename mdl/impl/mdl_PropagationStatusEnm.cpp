@@ -11,8 +11,10 @@ bool mdl_activePropagationStatus(mdl_PropagationStatusEnm status) noexcept {
     case PROPAGATED_FROM_BASE_STATE:
     case MODIFIED_FROM_BASE_STATE:
     case BUILT_INTO_MODES:
-    case PROPAGATED_FROM_FREQUENCY: return true;
-    default: return false;
+    case PROPAGATED_FROM_FREQUENCY:
+      return true;
+    default:
+      return false;
   }
 }
 

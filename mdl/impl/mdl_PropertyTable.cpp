@@ -115,7 +115,7 @@ void mdl_PropertyTable::ReadCells(const cls_ReadVisitor& reader, const cls_Matri
   m_Table.Resize(matrix->rows, matrix->columns);
   std::vector<double>& values = m_Table.MutableCells();
   for (std::size_t i = 0; i < cells; ++i) {
-    const double* value = matrix->cells[i].As<double>();
+    const auto* value = matrix->cells[i].As<double>();
     if (!value) reader.Fail("field 'table' holds something other than doubles");
     values[i] = *value;
   }
@@ -142,7 +142,7 @@ void mdl_PropertyTable::Sort(int keyColumns) {
   cow_2DArray<double> sorted(Rows(), Columns());
   std::vector<double>& to = sorted.MutableCells();
   const std::vector<double>& from = m_Table.Cells();
-  const std::size_t width = static_cast<std::size_t>(Columns());
+  const auto width = static_cast<std::size_t>(Columns());
   for (std::size_t row = 0; row < order.size(); ++row) {
     std::copy_n(from.begin() + static_cast<std::ptrdiff_t>(order[row] * width), width,
                 to.begin() + static_cast<std::ptrdiff_t>(row * width));
@@ -151,7 +151,7 @@ void mdl_PropertyTable::Sort(int keyColumns) {
 }
 
 void mdl_PropertyTable::AssertValid() const {
-  const std::size_t width = static_cast<std::size_t>(Columns());
+  const auto width = static_cast<std::size_t>(Columns());
   const std::vector<double>& cells = m_Table.Cells();
   for (int row = m_AllowEmptyFirstRow ? 1 : 0; row < Rows(); ++row) {
     const auto first = cells.begin() + static_cast<std::ptrdiff_t>(row * width);

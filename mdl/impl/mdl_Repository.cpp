@@ -7,7 +7,7 @@
 mdl_Repository::mdl_Repository(const cls_ReadVisitor& reader)
     : mdl_Extension(cls_ReadVisitor(reader, mdl_Extension::TypeId())) {
   for (const cls_Value& key : reader.ReadList("keys")) {
-    const cow_String* text = key.As<cow_String>();
+    const auto* text = key.As<cow_String>();
     if (!text) reader.Fail("field 'keys' holds something other than texts");
     m_Keys.Append(*text);
   }

@@ -234,6 +234,8 @@ private:
   cls_Uid m_Uid;
 };
 
+// The destructor stays out of the virtual table, whose slots are DBWrite and NewUid.
+// NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
 CVX_EXTERN_TEMPLATE(mdl_PropAttr<cow_String>)
 CVX_EXTERN_TEMPLATE(mdl_PropAttr<double>)
 CVX_EXTERN_TEMPLATE(mdl_PropAttr<bool>)
@@ -242,5 +244,6 @@ CVX_EXTERN_TEMPLATE(mdl_PropAttr<int>)
 CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xp1DArrayInt>)
 CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xpListString>)
 CVX_EXTERN_TEMPLATE(mdl_PropAttr<cls_xp1DArrayListFloat>)
+// NOLINTEND(cppcoreguidelines-virtual-class-destructor)
 
 /// @}

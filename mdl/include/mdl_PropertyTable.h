@@ -18,6 +18,7 @@ struct cls_Matrix;
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): final, nothing derives
 class CVX_EXPORT mdl_PropertyTable final {
 public:
   mdl_PropertyTable() noexcept = default;

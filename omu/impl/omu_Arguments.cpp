@@ -10,6 +10,7 @@
 #include <utl_Catenator.h>
 
 #include <optional>
+#include <utility>
 
 namespace {
 constexpr const char* kSource = "omu/impl/omu_Arguments";
@@ -131,10 +132,12 @@ const omu_InterfaceObj* omu_Arguments::Get(const char* typeName, const omu_Inter
   return object;
 }
 
+// By value, as the binding API states it; the setting does not depend on the name.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool omu_Arguments::DeprecatedCheck(cow_String) const { return omu_Deprecation::IsAllowed(); }
 
 bool omu_Arguments::DeprecatedAlternative(cow_String other) {
-  return DeprecatedCheck(other) && Alternative();
+  return DeprecatedCheck(std::move(other)) && Alternative();
 }
 
 void omu_Arguments::Deprecated(std::string_view keyword, const cow_String& other) const {

@@ -32,7 +32,8 @@ bool omu_Binding<omu_PrimList>::Convert(const omu_Primitive& value, omu_PrimList
   return true;
 }
 
-omu_PrimOwner omu_Binding<cow_Map<cow_String, float>>::Make(const cow_Map<cow_String, float>& value) {
+omu_PrimOwner omu_Binding<cow_Map<cow_String, float>>::Make(
+    const cow_Map<cow_String, float>& value) {
   auto dictionary = std::make_unique<omu_PrimDictionary<cow_String>>();
   for (const auto& [key, number] : value) dictionary->Put(number, key);
   return dictionary;
@@ -41,9 +42,8 @@ omu_PrimOwner omu_Binding<cow_Map<cow_String, float>>::Make(const cow_Map<cow_St
 bool omu_Binding<cow_Map<cow_String, float>>::Convert(const omu_Primitive& value,
                                                       cow_Map<cow_String, float>& out,
                                                       omu_BindingRuleEnum) {
-  const auto* dictionary = value.IsType('{')
-                               ? dynamic_cast<const omu_PrimDictionary<cow_String>*>(&value)
-                               : nullptr;
+  const auto* dictionary =
+      value.IsType('{') ? dynamic_cast<const omu_PrimDictionary<cow_String>*>(&value) : nullptr;
   if (!dictionary) return false;
   cow_Map<cow_String, float> map;
   for (const auto& [key, entry] : dictionary->GetEntries()) {

@@ -8,9 +8,8 @@
 
 namespace {
 [[noreturn]] void Malformed(std::string_view pattern) {
-  NEX_THROW(nex_TextException(atr_StringBase::Format("not a character class: %.*s",
-                                                     static_cast<int>(pattern.size()),
-                                                     pattern.data())),
+  NEX_THROW(nex_TextException(atr_StringBase::Format(
+                "not a character class: %.*s", static_cast<int>(pattern.size()), pattern.data())),
             "omu/impl/omu_CharClass");
 }
 }  // namespace
@@ -26,7 +25,7 @@ omu_CharClass::omu_CharClass(std::string_view pattern) {
 
   omu_CharClass set;
   for (std::size_t i = 0; i < rest.size(); ++i) {
-    unsigned char first = static_cast<unsigned char>(rest[i]);
+    auto first = static_cast<unsigned char>(rest[i]);
     if (first == '\\') {
       if (++i == rest.size()) Malformed(pattern);
       first = static_cast<unsigned char>(rest[i]);

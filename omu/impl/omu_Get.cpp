@@ -122,10 +122,10 @@ void omu_GetIrregular(omu_Arguments& args, cow_2DArray<T>& out, const cow_String
   ReadNested(args, keyword, [&out](omu_PrimTuple& nested) { omu_GetIrregular(nested, out); });
 }
 
-#define OMU_GET_INSTANCES(T)                                                                    \
-  template CVX_EXPORT void omu_Get(omu_PrimTuple&, cow_List<T>&);                               \
-  template CVX_EXPORT void omu_Get(omu_Arguments&, cow_List<T>&, const cow_String&);            \
-  template CVX_EXPORT void omu_Get(omu_PrimTuple&, cow_2DArray<T>&);                            \
+#define OMU_GET_INSTANCES(T)                                                         \
+  template CVX_EXPORT void omu_Get(omu_PrimTuple&, cow_List<T>&);                    \
+  template CVX_EXPORT void omu_Get(omu_Arguments&, cow_List<T>&, const cow_String&); \
+  template CVX_EXPORT void omu_Get(omu_PrimTuple&, cow_2DArray<T>&);                 \
   template CVX_EXPORT void omu_Get(omu_Arguments&, cow_2DArray<T>&, const cow_String&);
 OMU_GET_INSTANCES(int)
 OMU_GET_INSTANCES(double)

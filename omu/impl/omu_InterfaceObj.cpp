@@ -4,11 +4,11 @@
 #include <omu_Deprecation.h>
 #include <omu_InterfaceObj.h>
 #include <omu_NameString.h>
-#include <omu_TextRepr.h>
-#include <utl_Catenator.h>
 #include <omu_PrimVisitor.h>
 #include <omu_PrimWrapper.h>
+#include <omu_TextRepr.h>
 #include <omu_TypeRegistryCache.h>
+#include <utl_Catenator.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -92,7 +92,7 @@ cow_String omu_InterfaceObj::ExposedTypeName() const {
     const cow_String& name = m_Types[static_cast<std::size_t>(i)].name;
     if (registry.IsExposed(name)) return name;
   }
-  return cow_String();
+  return {};
 }
 
 bool omu_InterfaceObj::IsA(const char* typeName) const {
@@ -152,14 +152,15 @@ omu_Primitive* omu_InterfaceObj::SetMember(const char* name, omu_Arguments& args
 }
 
 void omu_InterfaceObj::DeleteMember(const cow_String& name) const {
-  NEX_THROW(omu_AttributeErrorException(2, atr_StringBase::Format(
-                                               "'%s' object attribute '%s' cannot be deleted",
-                                               TypeString().CStr(), name.CStr())),
+  NEX_THROW(omu_AttributeErrorException(
+                2, atr_StringBase::Format("'%s' object attribute '%s' cannot be deleted",
+                                          TypeString().CStr(), name.CStr())),
             kSource);
 }
 
 template <class Row>
-void omu_InterfaceObj::CollectNames(const Row* TypeDesc::*table, cow_List<cow_String>& names) const {
+void omu_InterfaceObj::CollectNames(const Row* TypeDesc::*table,
+                                    cow_List<cow_String>& names) const {
   std::vector<cow_String>& all = names.MutableVector();
   for (int i = 0; i < m_TypeCount; ++i) {
     for (const Row* row = m_Types[static_cast<std::size_t>(i)].*table; row->name; ++row) {
@@ -314,8 +315,8 @@ cow_String omu_InterfaceObj::AsRepr() const {
   cow_String own = FullRepr();
   if (!own.IsEmpty()) return own;
   own = DefaultRepr();
-  aio_cerr() << atr_StringBase::Format("WARNING omu_InterfaceObj::AsRepr - repr not implemented: %s\n",
-                                       own.CStr());
+  aio_cerr() << atr_StringBase::Format(
+      "WARNING omu_InterfaceObj::AsRepr - repr not implemented: %s\n", own.CStr());
   return own;
 }
 

@@ -20,9 +20,9 @@
 #include <omu_PrimComplex.h>
 #include <omu_PrimDictionary.h>
 #include <omu_PrimEnumBase.h>
-#include <omu_PrimList.h>
 #include <omu_PrimException.h>
 #include <omu_PrimExpr.h>
+#include <omu_PrimList.h>
 #include <omu_PrimNone.h>
 #include <omu_PrimNumber.h>
 #include <omu_PrimPath.h>

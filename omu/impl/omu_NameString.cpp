@@ -12,15 +12,20 @@ cow_String omu_NameString(const cow_String& text) {
   out.push_back(quote);
   for (const char c : in) {
     switch (c) {
-      case '\\': out.append("\\\\"); break;
-      case '\n': out.append("\\n"); break;
+      case '\\':
+        out.append("\\\\");
+        break;
+      case '\n':
+        out.append("\\n");
+        break;
       case '\'':
         if (quote == '\'') out.push_back('\\');
         out.push_back(c);
         break;
-      default: out.push_back(c);
+      default:
+        out.push_back(c);
     }
   }
   out.push_back(quote);
-  return cow_String(std::move(out));
+  return {std::move(out)};
 }

@@ -30,9 +30,12 @@ struct StepFailed {};
 int ItemSize(DataTypeEnm dataType) noexcept {
   switch (dataType) {
     case omu_PrimNumber::INT:
-    case omu_PrimNumber::FLOAT: return 4;
-    case omu_PrimNumber::DOUBLE: return 8;
-    default: return 0;
+    case omu_PrimNumber::FLOAT:
+      return 4;
+    case omu_PrimNumber::DOUBLE:
+      return 8;
+    default:
+      return 0;
   }
 }
 
@@ -90,7 +93,8 @@ private:
     std::vector<int> dims{sequence->Size()};
     std::vector<int> first;
     for (int i = 0; i < sequence->Size(); ++i) {
-      const std::unique_ptr<const omu_Primitive> owned(sequence->IsType('o') ? sequence->Index(i) : nullptr);
+      const std::unique_ptr<const omu_Primitive> owned(sequence->IsType('o') ? sequence->Index(i)
+                                                                             : nullptr);
       const omu_Primitive* child = owned ? owned.get() : sequence->Index(i);
       if (!child) Refuse("Child not PrimSequence or PrimNumber");
       std::vector<int> childDims = DimsOf(*child, depth + 1);
@@ -125,7 +129,8 @@ private:
     }
     const auto& sequence = static_cast<const omu_PrimSequence&>(value);
     for (int i = 0; i < sequence.Size(); ++i) {
-      const std::unique_ptr<const omu_Primitive> owned(sequence.IsType('o') ? sequence.Index(i) : nullptr);
+      const std::unique_ptr<const omu_Primitive> owned(sequence.IsType('o') ? sequence.Index(i)
+                                                                            : nullptr);
       FitType(owned ? *owned : *sequence.Index(i));
     }
   }
@@ -145,7 +150,8 @@ void CopyValues(const omu_Primitive& value, DataTypeEnm dataType, std::byte*& at
   }
   const auto& sequence = static_cast<const omu_PrimSequence&>(value);
   for (int i = 0; i < sequence.Size(); ++i) {
-    const std::unique_ptr<const omu_Primitive> owned(sequence.IsType('o') ? sequence.Index(i) : nullptr);
+    const std::unique_ptr<const omu_Primitive> owned(sequence.IsType('o') ? sequence.Index(i)
+                                                                          : nullptr);
     CopyValues(owned ? *owned : *sequence.Index(i), dataType, at);
   }
 }
@@ -207,7 +213,8 @@ void omu_PrimArray::Fill(int numDims, const int* dims, DataTypeEnm dataType, con
   }
 }
 
-void omu_PrimArray::Adopt(std::vector<int> dims, DataTypeEnm dataType, std::vector<std::byte> data) {
+void omu_PrimArray::Adopt(std::vector<int> dims, DataTypeEnm dataType,
+                          std::vector<std::byte> data) {
   m_NumDims = static_cast<int>(dims.size());
   m_DataType = dataType;
   m_Shared = cow_CountedHld<omu_PrimArrayData>(
@@ -280,7 +287,8 @@ std::byte* omu_PrimArray::Address(int i, int j, int k, int l) const {
   std::byte* at = m_Data;
   for (int d = 0; d < m_NumDims; ++d) {
     if (indices[d] >= m_Dims[d]) {
-      Raise(atr_StringBase::Format("index out of range, dimension %d (%d >= %d)", d, indices[d], m_Dims[d]),
+      Raise(atr_StringBase::Format("index out of range, dimension %d (%d >= %d)", d, indices[d],
+                                   m_Dims[d]),
             __LINE__);
     }
     at += static_cast<std::ptrdiff_t>(m_Strides[d]) * indices[d];
@@ -370,7 +378,8 @@ omu_PrimSequence* omu_PrimArray::Repeat(int times) const {
 
 omu_PrimSequence* omu_PrimArray::Concat(omu_PrimSequence* other) const {
   const auto* tail = dynamic_cast<const omu_PrimArray*>(other);
-  bool fits = tail && m_NumDims > 0 && tail->m_NumDims == m_NumDims && tail->m_DataType == m_DataType;
+  bool fits =
+      tail && m_NumDims > 0 && tail->m_NumDims == m_NumDims && tail->m_DataType == m_DataType;
   for (int d = 1; fits && d < m_NumDims; ++d) fits = tail->m_Dims[d] == m_Dims[d];
   if (!fits) Raise("PrimArray Concat needs an array of the same type and shape", __LINE__);
   if (static_cast<long long>(Length()) + tail->Length() > INT_MAX / 8) {
@@ -390,7 +399,8 @@ void omu_PrimArray::AppendBody(std::string& text) const {
     if (m_NumDims == 1) {
       Read(at).AppendText(text);
     } else {
-      omu_PrimArray(m_NumDims - 1, m_Dims + 1, m_Strides + 1, const_cast<std::byte*>(at), m_DataType, m_Shared)
+      omu_PrimArray(m_NumDims - 1, m_Dims + 1, m_Strides + 1, const_cast<std::byte*>(at),
+                    m_DataType, m_Shared)
           .AppendBody(text);
     }
   }
@@ -400,14 +410,16 @@ void omu_PrimArray::AppendBody(std::string& text) const {
 cow_String omu_PrimArray::AsString(int) const {
   // The nesting is carried by the recursion, not by process-wide state, so arrays may be
   // printed on several threads at once.
-  if (m_PyType == 0 && m_DataType == omu_PrimNumber::FLOAT) aio_cerr() << "FLOAT not mapped to pyType\n";
-  if (m_PyType == 0 && m_DataType == omu_PrimNumber::DOUBLE) aio_cerr() << "DOUBLE not mapped to pyType\n";
+  if (m_PyType == 0 && m_DataType == omu_PrimNumber::FLOAT)
+    aio_cerr() << "FLOAT not mapped to pyType\n";
+  if (m_PyType == 0 && m_DataType == omu_PrimNumber::DOUBLE)
+    aio_cerr() << "DOUBLE not mapped to pyType\n";
   std::string text("array(");
   AppendBody(text);
   text.append(", '");
   text.push_back(m_PyType);
   text.append("')");
-  return cow_String(std::move(text));
+  return {std::move(text)};
 }
 
 bool omu_PrimArray::operator==(const omu_Primitive& other) const {
@@ -424,9 +436,12 @@ bool omu_PrimArray::operator==(const omu_Primitive& other) const {
 namespace {
 const char* DataName(DataTypeEnm dataType) {
   switch (dataType) {
-    case omu_PrimNumber::INT: return "intData";
-    case omu_PrimNumber::FLOAT: return "floatData";
-    default: return "doubleData";
+    case omu_PrimNumber::INT:
+      return "intData";
+    case omu_PrimNumber::FLOAT:
+      return "floatData";
+    default:
+      return "doubleData";
   }
 }
 }  // namespace
@@ -438,7 +453,7 @@ omu_PrimArray::omu_PrimArray(const cls_ReadVisitor& reader)
   if (ItemSize(dataType) == 0) reader.Fail("an array of a data type other than INT, FLOAT, DOUBLE");
   std::vector<int> dims;
   for (const cls_Value& dim : reader.ReadList("dims")) {
-    const std::int32_t* value = dim.As<std::int32_t>();
+    const auto* value = dim.As<std::int32_t>();
     if (!value || *value < 0 || dims.size() >= MaxDims) reader.Fail("bad array dimensions");
     dims.push_back(*value);
   }
@@ -476,13 +491,15 @@ void omu_PrimArray::DBWrite(const cls_WriteVisitor& writer) const {
   writer.Write("pyType", m_PyType);
   writer.Write("typeCode", static_cast<int>(m_DataType));
   const std::vector<std::byte> numbers = Numbers();
-  const std::size_t itemSize = static_cast<std::size_t>(ConstGetItemSize());
+  const auto itemSize = static_cast<std::size_t>(ConstGetItemSize());
   cls_Value::List values;
   values.reserve(itemSize ? numbers.size() / itemSize : 0);
   for (std::size_t at = 0; itemSize && at < numbers.size(); at += itemSize) {
     const omu_PrimNumber number = Read(numbers.data() + at);
-    if (m_DataType == omu_PrimNumber::INT) values.emplace_back(static_cast<std::int32_t>(number.AsInt()));
-    if (m_DataType == omu_PrimNumber::FLOAT) values.emplace_back(static_cast<float>(number.Value()));
+    if (m_DataType == omu_PrimNumber::INT)
+      values.emplace_back(static_cast<std::int32_t>(number.AsInt()));
+    if (m_DataType == omu_PrimNumber::FLOAT)
+      values.emplace_back(static_cast<float>(number.Value()));
     if (m_DataType == omu_PrimNumber::DOUBLE) values.emplace_back(number.Value());
   }
   writer.Write(DataName(m_DataType), cls_Value(std::move(values)));
@@ -490,7 +507,8 @@ void omu_PrimArray::DBWrite(const cls_WriteVisitor& writer) const {
 
 void omu_PrimArray::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimArray>("omu_PrimArray", 800, omu_PrimSequence::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimArray>("omu_PrimArray", 800, omu_PrimSequence::TypeId()))
       .AddAttribute({0, "dims"}, cls_KIND_LIST)
       .AddAttribute({1, "pyType"}, cls_KIND_CHAR)
       .AddAttribute({2, "typeCode"}, cls_KIND_INT)

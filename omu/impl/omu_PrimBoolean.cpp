@@ -21,6 +21,7 @@ void omu_PrimBoolean::DBWrite(const cls_WriteVisitor& writer) const {
 
 void omu_PrimBoolean::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimBoolean>("omu_PrimBoolean", 800, omu_Primitive::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimBoolean>("omu_PrimBoolean", 800, omu_Primitive::TypeId()))
       .AddAttribute({0, "m_value"}, cls_KIND_BOOL);
 }

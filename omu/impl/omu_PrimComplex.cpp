@@ -31,7 +31,8 @@ void omu_PrimComplex::DBWrite(const cls_WriteVisitor& writer) const {
 
 void omu_PrimComplex::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimComplex>("omu_PrimComplex", 800, omu_Primitive::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimComplex>("omu_PrimComplex", 800, omu_Primitive::TypeId()))
       .AddAttribute({0, "complexNumRe"}, cls_KIND_DOUBLE)
       .AddAttribute({1, "complexNumIm"}, cls_KIND_DOUBLE);
 }

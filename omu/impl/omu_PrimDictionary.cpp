@@ -132,17 +132,18 @@ void omu_PrimDictionary<K>::DBWrite(const cls_WriteVisitor& writer) const {
   std::vector<const typename Entries::const_iterator::value_type*> entries;
   entries.reserve(static_cast<std::size_t>(m_Dict.Length()));
   for (const auto& entry : m_Dict) entries.push_back(&entry);
-  writer.WriteObject(
-      "dict", cls_xcMap(
-                  m_DictUid, m_Dict.Length(),
-                  [&entries](int i, const cls_WriteVisitor& item) {
-                    item.WriteValue(cls_Value(entries[static_cast<std::size_t>(i)]->first));
-                  },
-                  [&entries](int i, const cls_WriteVisitor& item) {
-                    if (const omu_Primitive* value = entries[static_cast<std::size_t>(i)]->second.ConstGet()) {
-                      value->DBWrite(item);
-                    }
-                  }));
+  writer.WriteObject("dict",
+                     cls_xcMap(
+                         m_DictUid, m_Dict.Length(),
+                         [&entries](int i, const cls_WriteVisitor& item) {
+                           item.WriteValue(cls_Value(entries[static_cast<std::size_t>(i)]->first));
+                         },
+                         [&entries](int i, const cls_WriteVisitor& item) {
+                           if (const omu_Primitive* value =
+                                   entries[static_cast<std::size_t>(i)]->second.ConstGet()) {
+                             value->DBWrite(item);
+                           }
+                         }));
 }
 
 template <class K>

@@ -42,7 +42,7 @@ void omu_PrimException::DBWrite(const cls_WriteVisitor& writer) const {
 void omu_PrimException::InitializeMetadata(cls_ClassRegistrar& registrar) {
   // Ordinal 0, the exception itself, is not persisted.
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimException>("omu_PrimException", 800,
-                                                         omu_Primitive::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimException>("omu_PrimException", 800, omu_Primitive::TypeId()))
       .AddAttribute({1, "m_Traceback"}, cls_KIND_STRING);
 }

@@ -46,7 +46,7 @@ struct PowerOfTen {
   int exponent;
 };
 constexpr int kLeastPower = -294, kGreatestPower = 322;
-__extension__ typedef unsigned __int128 Wide;  // GCC and Clang, MinGW included
+__extension__ using Wide = unsigned __int128;  // GCC and Clang, MinGW included
 
 struct Mantissa256 {
   std::uint64_t w[4];  // most significant first; w[0]'s top bit set
@@ -59,7 +59,7 @@ struct Mantissa256 {
       w[i] = static_cast<std::uint64_t>(t);
       carry = static_cast<std::uint64_t>(t >> 64);
     }
-    const int n = std::bit_width(carry);  // 1 to 4 bits spill over the top
+    const int n = static_cast<int>(std::bit_width(carry));  // 1 to 4 bits spill over the top
     for (int i = 3; i > 0; --i) w[i] = (w[i] >> n) | (w[i - 1] << (64 - n));
     w[0] = (w[0] >> n) | (carry << (64 - n));
     exponent += n;
@@ -172,7 +172,7 @@ int FormatFifteen(double value, char* out) noexcept {
     *o++ = exponent < 0 ? '-' : '+';
     const int magnitude = exponent < 0 ? -exponent : exponent;
     if (magnitude >= 100) *o++ = static_cast<char>('0' + magnitude / 100);
-    std::memcpy(o, kPairs + 2 * (magnitude % 100), 2);
+    std::memcpy(o, kPairs + std::ptrdiff_t{2} * (magnitude % 100), 2);
     o += 2;
   } else if (exponent < 0) {
     std::memcpy(o, "0.0000", static_cast<std::size_t>(1 - exponent));
@@ -187,7 +187,7 @@ int FormatFifteen(double value, char* out) noexcept {
     *o++ = '.';
     *o++ = '0';
   } else {
-    std::memcpy(o, digits, static_cast<std::size_t>(exponent + 1));
+    std::memcpy(o, digits, static_cast<std::size_t>(exponent) + 1);
     o += exponent + 1;
     *o++ = '.';
     std::memcpy(o, digits + exponent + 1, static_cast<std::size_t>(count - exponent - 1));
@@ -215,7 +215,6 @@ int FormatGeneral(double value, char* out) noexcept {
 
 // Defined here as well, so that the library holds a copy to export: on Windows, code that takes
 // its address imports it with the class.
-constexpr int omu_PrimNumber::MaxDoubleText;
 
 const omu_PrimEnumRow* omu_PrimEnumTable<omu_PrimNumber::DataTypeEnm, 1>::Rows() noexcept {
   static constexpr omu_PrimEnumRow rows[] = {{"SCHAR", omu_PrimNumber::SCHAR},
@@ -281,7 +280,7 @@ void omu_PrimNumber::AppendText(std::string& out) const {
 cow_String omu_PrimNumber::AsString(int) const {
   std::string text;
   AppendText(text);
-  return cow_String(std::move(text));
+  return {std::move(text)};
 }
 
 bool omu_PrimNumber::operator==(const omu_Primitive& other) const {

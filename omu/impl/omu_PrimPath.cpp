@@ -12,7 +12,7 @@ cow_List<cow_String> ReadContext(const cls_ReadVisitor& reader) {
   std::vector<cow_String> components;
   components.reserve(static_cast<std::size_t>(list.Count()));
   for (int i = 0; i < list.Count(); ++i) {
-    const cow_String* text = list.Item(i).As<cow_String>();
+    const auto* text = list.Item(i).As<cow_String>();
     if (!text) list.Reader().Fail("a path component is not a text");
     components.push_back(*text);
   }

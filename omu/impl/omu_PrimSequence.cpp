@@ -5,7 +5,8 @@
 #include <omu_PrimSequence.h>
 
 omu_PrimSequence::omu_PrimSequence(const cls_ReadVisitor& reader)
-    : omu_Primitive(cls_ReadVisitor(reader, omu_Primitive::TypeId())), m_SequenceUid(reader.Uid()) {}
+    : omu_Primitive(cls_ReadVisitor(reader, omu_Primitive::TypeId())),
+      m_SequenceUid(reader.Uid()) {}
 
 void omu_PrimSequence::DBWrite(const cls_WriteVisitor& writer) const {
   writer.StartLevel<omu_Primitive>(TypeId(), m_SequenceUid, *this);

@@ -36,6 +36,7 @@ void omu_PrimString::DBWrite(const cls_WriteVisitor& writer) const {
 
 void omu_PrimString::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimString>("omu_PrimString", 800, omu_Primitive::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimString>("omu_PrimString", 800, omu_Primitive::TypeId()))
       .AddAttribute({0, "string"}, cls_KIND_STRING);
 }

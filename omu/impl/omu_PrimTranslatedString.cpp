@@ -13,8 +13,7 @@ omu_PrimTranslatedString::omu_PrimTranslatedString(const cls_ReadVisitor& reader
 cow_String omu_PrimTranslatedString::AsString(int) const { return omu_NameString(m_Text); }
 
 bool omu_PrimTranslatedString::operator==(const omu_Primitive& other) const {
-  return other.IsType('l') &&
-         static_cast<const omu_PrimTranslatedString&>(other).m_Text == m_Text;
+  return other.IsType('l') && static_cast<const omu_PrimTranslatedString&>(other).m_Text == m_Text;
 }
 
 void omu_PrimTranslatedString::DBWrite(const cls_WriteVisitor& writer) const {

@@ -11,8 +11,8 @@
 #include <omu_IndexErrorException.h>
 #include <omu_InterfaceObj.h>
 #include <omu_ListPyObjectWrapper.h>
-#include <omu_PrimArray.h>
 #include <omu_NameString.h>
+#include <omu_PrimArray.h>
 #include <omu_PrimEnumBase.h>
 #include <omu_PrimExpr.h>
 #include <omu_PrimList.h>
@@ -94,7 +94,8 @@ void omu_PrimTuple::SetHandle(int index, const omu_PrimHandle& handle) {
 }
 
 template <class Result>
-Result* omu_PrimTuple::SliceAs(int from, int to, const char* missingText, const char* source) const {
+Result* omu_PrimTuple::SliceAs(int from, int to, const char* missingText,
+                               const char* source) const {
   if (to > Size()) to = Size();
   if (to < 0) to += Size();
   if (from < 0) from += Size();
@@ -122,9 +123,11 @@ template <class Result>
 Result* omu_PrimTuple::ConcatAs(omu_PrimSequence* other, const char* missingText,
                                 const char* source) const {
   const auto* tail = dynamic_cast<const omu_PrimTuple*>(other);
-  if (other && !tail) NEX_THROW(nex_TextException("PrimTuple Concat needs a tuple or list"), source);
+  if (other && !tail)
+    NEX_THROW(nex_TextException("PrimTuple Concat needs a tuple or list"), source);
   const int tailSize = tail ? tail->Size() : 0;
-  auto result = std::make_unique<Result>(CheckedCount(static_cast<long long>(Size()) + tailSize), '(');
+  auto result =
+      std::make_unique<Result>(CheckedCount(static_cast<long long>(Size()) + tailSize), '(');
   for (int i = 0; i < result->Size(); ++i) {
     const omu_PrimTuple& from = i < Size() ? *this : *tail;
     const int at = i < Size() ? i : i - Size();
@@ -134,7 +137,8 @@ Result* omu_PrimTuple::ConcatAs(omu_PrimSequence* other, const char* missingText
   return result.release();
 }
 
-template omu_PrimList* omu_PrimTuple::SliceAs<omu_PrimList>(int, int, const char*, const char*) const;
+template omu_PrimList* omu_PrimTuple::SliceAs<omu_PrimList>(int, int, const char*,
+                                                            const char*) const;
 template omu_PrimList* omu_PrimTuple::RepeatAs<omu_PrimList>(int, const char*, const char*) const;
 template omu_PrimList* omu_PrimTuple::ConcatAs<omu_PrimList>(omu_PrimSequence*, const char*,
                                                              const char*) const;
@@ -153,7 +157,8 @@ omu_PrimSequence* omu_PrimTuple::Concat(omu_PrimSequence* other) const {
 
 // --- Text and equality --------------------------------------------------------------------
 
-void omu_PrimTuple::AppendElement(std::string& text, const omu_Primitive& element, int level) const {
+void omu_PrimTuple::AppendElement(std::string& text, const omu_Primitive& element,
+                                  int level) const {
   // Numbers and strings, the bulk of large tuples, print without a text of their own.
   if (element.IsType('f') || element.IsType('i')) {
     static_cast<const omu_PrimNumber&>(element).AppendText(text);
@@ -199,7 +204,8 @@ bool omu_PrimTuple::operator==(const omu_Primitive& other) const {
 
 void omu_PrimTuple::Store(omu_PrimHandle value) {
   if (m_Cursor >= m_Size) {
-    if (m_Cursor >= Capacity()) NEX_THROW(nex_TextException("PrimTuple Put past its size"), kSource);
+    if (m_Cursor >= Capacity())
+      NEX_THROW(nex_TextException("PrimTuple Put past its size"), kSource);
     m_Size = m_Cursor + 1;
     m_PrimVector.Resize(m_Size);
   }
@@ -396,7 +402,8 @@ void omu_PrimTuple::DBWrite(const cls_WriteVisitor& writer) const {
 
 void omu_PrimTuple::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<omu_PrimTuple>("omu_PrimTuple", 800, omu_PrimSequence::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<omu_PrimTuple>("omu_PrimTuple", 800, omu_PrimSequence::TypeId()))
       .AddAttribute({0, "primVector"}, cls_KIND_REFERENCE, cls_xcList::TypeId(), 1)
       .AddAttribute({1, "size"}, cls_KIND_INT)
       .AddAttribute({2, "cursor"}, cls_KIND_INT)

@@ -8,8 +8,8 @@
 #include <array>
 
 namespace {
-constexpr std::array<const char*, 8> kDisplayNames = {
-    "None", "Part", "Assembly", "Sketch", "Odb", "XYPlot", "Stub", "DetailPlot"};
+constexpr std::array<const char*, 8> kDisplayNames = {"None", "Part",   "Assembly", "Sketch",
+                                                      "Odb",  "XYPlot", "Stub",     "DetailPlot"};
 }
 
 omu_PrimType::omu_PrimType(const omu_InterfaceObj& object)
@@ -37,7 +37,8 @@ void omu_PrimType::DBWrite(const cls_WriteVisitor& writer) const {
 
 cow_String omu_PrimType::ConverTypeToString(const omu_ObjectToDisplayTypeEnm& type) {
   const auto index = static_cast<std::size_t>(type);
-  return type >= 0 && index < kDisplayNames.size() ? cow_String(kDisplayNames[index]) : cow_String();
+  return type >= 0 && index < kDisplayNames.size() ? cow_String(kDisplayNames[index])
+                                                   : cow_String();
 }
 
 omu_ObjectToDisplayTypeEnm omu_PrimType::ConverStringToType(const cow_String& name) {

@@ -68,5 +68,6 @@ void omu_PrimWrapper::InitializeMetadata(cls_ClassRegistrar& registrar) {
           new cls_TypeAdapter<omu_PrimWrapper>("omu_PrimWrapper", 800, omu_Primitive::TypeId()))
       .AddAttribute({0, "objType"}, cls_KIND_UINT)
       .AddAttribute({1, "objectPtr"}, cls_KIND_REFERENCE, 2, 0)
-      .AddAttribute({2, "memberDict"}, cls_KIND_REFERENCE, omu_PrimDictionary<cow_String>::TypeId());
+      .AddAttribute({2, "memberDict"}, cls_KIND_REFERENCE,
+                    omu_PrimDictionary<cow_String>::TypeId());
 }

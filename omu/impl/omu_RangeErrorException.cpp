@@ -20,8 +20,9 @@ atr_String omu_RangeErrorException::JournalMessage() const {
   const int upper = m_HigherLimitQualifier;
   utl_Catenator text;
   text << m_Keyword
-       << (m_KeywordType == 1 ? " must be an Integer " : m_KeywordType == 2 ? " must be a Float "
-                                                                              : " must be ");
+       << (m_KeywordType == 1   ? " must be an Integer "
+           : m_KeywordType == 2 ? " must be a Float "
+                                : " must be ");
   if (!IsQualifier(lower) || !IsQualifier(upper)) return text.String();
   if (lower != 0 && upper != 0) {
     text << "in the range: " << m_LowerLimitAsString << Pick(kBothSides, lower) << m_Keyword

@@ -22,7 +22,8 @@ cow_String omu_TextRepr::MaxRecursionText(const cow_String& typeName) const {
   std::string text("'");
   bool named = false;
   for (std::size_t i = 0; i < format.size(); ++i) {
-    if (format[i] == '%' && i + 1 < format.size() && (format[i + 1] == '%' || (format[i + 1] == 's' && !named))) {
+    if (format[i] == '%' && i + 1 < format.size() &&
+        (format[i + 1] == '%' || (format[i + 1] == 's' && !named))) {
       if (format[++i] == 's') {
         text.append(typeName.View());
         named = true;
@@ -34,5 +35,5 @@ cow_String omu_TextRepr::MaxRecursionText(const cow_String& typeName) const {
     }
   }
   text.push_back('\'');
-  return cow_String(std::move(text));
+  return {std::move(text)};
 }

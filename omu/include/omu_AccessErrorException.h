@@ -6,7 +6,8 @@
 /// A script used an object that has gone; the value describes it.
 #include <omu_TextErrorException.h>
 
-class CVX_EXPORT omu_AccessErrorException : public omu_TextErrorException<omu_AccessErrorException> {
+class CVX_EXPORT omu_AccessErrorException
+    : public omu_TextErrorException<omu_AccessErrorException> {
 public:
   using omu_TextErrorException::omu_TextErrorException;
 

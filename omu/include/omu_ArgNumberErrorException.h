@@ -42,8 +42,8 @@ private:
                           UTI_Field{"m_NestingStr", &E::m_NestingStr, cls_KIND_STRING}};
   }
 
-  int m_Expecting;
-  int m_Found;
+  int m_Expecting = 0;
+  int m_Found = 0;
   atr_String m_NestingStr;
 };
 

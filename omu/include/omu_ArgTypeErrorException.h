@@ -11,7 +11,8 @@
 class CVX_EXPORT omu_ArgTypeErrorException
     : public UTI_FieldError<omu_ArgTypeErrorException, omu_TypeErrorException> {
 public:
-  /// Argument argNum (1-based) is found where expecting was wanted; nesting names the enclosing argument, if any.
+  /// Argument argNum (1-based) is found where expecting was wanted; nesting names the enclosing
+  /// argument, if any.
   omu_ArgTypeErrorException(int argNum, const atr_String& expecting, const atr_String& found,
                             const atr_String& nesting = atr_String())
       : m_ArgNum(argNum), m_Expecting(expecting), m_Found(found), m_NestingStr(nesting) {}
@@ -46,7 +47,7 @@ private:
                           UTI_Field{"m_NestingStr", &E::m_NestingStr, cls_KIND_STRING}};
   }
 
-  int m_ArgNum;
+  int m_ArgNum = 0;
   atr_String m_Expecting;
   atr_String m_Found;
   atr_String m_NestingStr;

@@ -68,7 +68,7 @@ public:
   /// stored before, as the keyword dictionary's Put does), for argument lists built to be
   /// passed on.
   template <class T>
-    requires requires(const T& value) { omu_PrimOwn(value); }
+  requires requires(const T& value) { omu_PrimOwn(value); }
   void Put(const T& value, const cow_String& keyword) {
     Store(keyword, omu_PrimHandle(omu_PrimOwn(value)));
   }
@@ -79,6 +79,7 @@ public:
   /// allowed: reads the parameter again by the old keyword and gives the deprecation notice
   /// naming `other` as what replaces it.
   template <class T>
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): by value, as the binding API states it
   void DeprecatedGet(T& out, std::string_view keyword, cow_String other) {
     if (!DeprecatedAlternative(other)) return;
     Get(out, keyword);
@@ -86,7 +87,8 @@ public:
   }
   /// Whether deprecated arguments are allowed (omu_Deprecation); other names the replacement.
   bool DeprecatedCheck(cow_String other) const;
-  /// DeprecatedCheck, then Alternative: whether the failed Get may be read again by the old keyword.
+  /// DeprecatedCheck, then Alternative: whether the failed Get may be read again by the old
+  /// keyword.
   bool DeprecatedAlternative(cow_String other);
 
   /// Undoes the last Get when it failed, so that the parameter can be read again as another

@@ -43,7 +43,7 @@ private:
                           UTI_Field{"m_Attribute", &E::m_Attribute, cls_KIND_STRING}};
   }
 
-  int m_ErrorType;
+  int m_ErrorType = 0;
   atr_String m_Attribute;
 };
 

@@ -126,9 +126,7 @@ template <omu_Puttable T>
 omu_PrimOwner omu_PrimOwn(const T& value) {
   return omu_PrimMake(value);
 }
-inline omu_PrimOwner omu_PrimOwn(const omu_Primitive& value) {
-  return omu_PrimOwner(value.Copy());
-}
+inline omu_PrimOwner omu_PrimOwn(const omu_Primitive& value) { return omu_PrimOwner(value.Copy()); }
 inline omu_PrimOwner omu_PrimOwn(omu_Primitive* value) { return omu_PrimOwner(value); }
 ///@}
 
@@ -145,7 +143,7 @@ struct omu_BindingName {
   /// Takes the name literal.
   constexpr omu_BindingName(const char (&name)[N]) { std::copy_n(name, N, text); }
   /// The name, null-terminated.
-  char text[N];
+  char text[N]{};
 };
 
 /// \cond
@@ -205,7 +203,8 @@ struct omu_Binding<bool> {
     int flag = number.AsInt();
     // By position a number is read as an integer of its own data type first.
     if (rule == omu_BINDING_EXACT && number.DataType() == omu_PrimNumber::SCHAR) {
-      flag = static_cast<signed char>(flag);
+      flag =
+          static_cast<signed char>(flag);  // NOLINT(bugprone-signed-char-misuse): wraps on purpose
     } else if (rule == omu_BINDING_EXACT && number.DataType() == omu_PrimNumber::SHORT) {
       flag = static_cast<short>(flag);
     }
@@ -371,8 +370,9 @@ struct omu_Binding<omu_PrimEnumBase> {
 };
 
 template <class T>
-  requires std::derived_from<T, omu_PrimEnumBase>
-struct omu_Binding<T> : omu_Binding<omu_PrimEnumBase> {};
+requires std::derived_from<T, omu_PrimEnumBase>
+struct omu_Binding<T> : omu_Binding<omu_PrimEnumBase> {
+};
 
 /// A value of class T, lent; only got.
 template <class T, omu_BindingName Name>
@@ -386,8 +386,8 @@ struct omu_LentBinding {
 };
 
 template <>
-struct omu_Binding<const omu_PyObjectWrapper*>
-    : omu_LentBinding<omu_PyObjectWrapper, "PyObject"> {};
+struct omu_Binding<const omu_PyObjectWrapper*> : omu_LentBinding<omu_PyObjectWrapper, "PyObject"> {
+};
 template <>
 struct omu_Binding<const omu_ListPyObjectWrapper*>
     : omu_LentBinding<omu_ListPyObjectWrapper, "list"> {};
@@ -428,9 +428,8 @@ template <class T>
 struct omu_Binding<cow_List<T>> : omu_SequenceBinding {
   static omu_PrimOwner Make(const cow_List<T>& value) {
     const std::vector<T>& items = value.Vector();
-    return Tuple(value.Length(), [&items](int i) {
-      return omu_PrimMake(items[static_cast<std::size_t>(i)]);
-    });
+    return Tuple(value.Length(),
+                 [&items](int i) { return omu_PrimMake(items[static_cast<std::size_t>(i)]); });
   }
   static bool Convert(const omu_Primitive& value, cow_List<T>& out, omu_BindingRuleEnum) {
     std::vector<T> items;

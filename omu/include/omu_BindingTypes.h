@@ -28,13 +28,12 @@ using omu_BindingTypes = omu_TypeList<
     utl_FilePath, const char*, omi_complex,
     // collections
     cow_List<int>, cow_List<bool>, cow_List<float>, cow_List<double>, cow_List<cow_String>,
-    cow_List<atr_String>, cow_List<omu_PrimEnumBase>, cow_2DArray<double>,
-    cow_2DArray<cow_String>, cow_Map<cow_String, float>,
+    cow_List<atr_String>, cow_List<omu_PrimEnumBase>, cow_2DArray<double>, cow_2DArray<cow_String>,
+    cow_Map<cow_String, float>,
     // primitive classes
     omu_PrimType, omu_PrimNone, omu_PrimPath, omu_PrimExpr, omu_PrimArray, omu_PrimTuple,
-    omu_PrimDictionary<int>, omu_PrimDictionary<cow_String>, omu_PrimList,
-    omu_ListPyObjectWrapper, omu_DictPyObjectWrapper<int>, omu_DictPyObjectWrapper<cow_String>,
-    omu_PrimEnumBase,
+    omu_PrimDictionary<int>, omu_PrimDictionary<cow_String>, omu_PrimList, omu_ListPyObjectWrapper,
+    omu_DictPyObjectWrapper<int>, omu_DictPyObjectWrapper<cow_String>, omu_PrimEnumBase,
     // lent
     const omu_PyObjectWrapper*, const omu_ListPyObjectWrapper*, const omu_InterfaceObj*>;
 

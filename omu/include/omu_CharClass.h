@@ -15,7 +15,7 @@
 #include <string_view>
 
 class CVX_EXPORT omu_CharClass {
- public:
+public:
   /// pattern: an optional "^", then one bracket expression: an optional "^" negation, bytes,
   /// ranges "a-z" and backslash escapes, then "]". Anything else raises nex_TextException.
   explicit omu_CharClass(std::string_view pattern);
@@ -35,7 +35,7 @@ class CVX_EXPORT omu_CharClass {
   /// The bytes below 32.
   static omu_CharClass Controls() noexcept;
 
- private:
+private:
   omu_CharClass() = default;
   void Add(unsigned char byte) noexcept {
     m_Rows[Row(byte)] |= static_cast<std::uint8_t>(1u << (byte & 7u));

@@ -37,7 +37,7 @@ private:
     return UTI_FieldTable{UTI_Field{"m_Error", &omu_CorNameErrorException::m_Error, cls_KIND_INT}};
   }
 
-  int m_Error;
+  int m_Error = 0;
 };
 
 /// @}

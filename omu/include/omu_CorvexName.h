@@ -25,7 +25,8 @@ public:
   const cow_String& Name() const noexcept { return m_Name; }
   /// The kind it was checked as.
   omu_CorvexNameEnum Kind() const noexcept { return m_Kind; }
-  /// The kind's rule texts: the character class a name may not start with, and those it may not contain.
+  /// The kind's rule texts: the character class a name may not start with, and those it may not
+  /// contain.
   ///@{
   std::string_view LeadingPattern() const noexcept { return m_LeadingPattern; }
   std::string_view WideForbiddenPattern() const noexcept { return m_WidePattern; }

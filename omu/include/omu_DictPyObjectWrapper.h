@@ -10,7 +10,8 @@
 #include <omu_ScriptHandle.h>
 
 template <class K>
-class omu_DictPyObjectWrapper : public omu_PrimLeaf<omu_DictPyObjectWrapper<K>, omu_PrimDictionary<K>> {
+class omu_DictPyObjectWrapper
+    : public omu_PrimLeaf<omu_DictPyObjectWrapper<K>, omu_PrimDictionary<K>> {
   using Leaf = omu_PrimLeaf<omu_DictPyObjectWrapper<K>, omu_PrimDictionary<K>>;
 
 public:

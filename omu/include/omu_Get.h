@@ -41,6 +41,6 @@ CVX_EXPORT void omu_GetIrregular(omu_PrimTuple& source, cow_2DArray<T>& out);
 template <class T>
 CVX_EXPORT void omu_GetIrregular(omu_Arguments& args, cow_2DArray<T>& out,
                                  const cow_String& keyword);
-                                 ///@}
+///@}
 
 /// @}

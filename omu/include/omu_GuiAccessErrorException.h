@@ -6,7 +6,8 @@
 /// An operation that the user interface does not allow now; the value is the message.
 #include <omu_TextErrorException.h>
 
-class CVX_EXPORT omu_GuiAccessErrorException : public omu_TextErrorException<omu_GuiAccessErrorException> {
+class CVX_EXPORT omu_GuiAccessErrorException
+    : public omu_TextErrorException<omu_GuiAccessErrorException> {
 public:
   using omu_TextErrorException::omu_TextErrorException;
 

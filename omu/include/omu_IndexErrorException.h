@@ -19,7 +19,7 @@ public:
     ReadFields(reader);
   }
 
-  atr_String JournalMessage() const override { return atr_String(atr_StringBase(m_Value)); }
+  atr_String JournalMessage() const override { return {atr_StringBase(m_Value)}; }
   cow_String PythonType() const override { return "IndexError"; }
 
   /// The offending index.
@@ -36,7 +36,7 @@ private:
     return UTI_FieldTable{UTI_Field{"m_Value", &omu_IndexErrorException::m_Value, cls_KIND_INT}};
   }
 
-  int m_Value;
+  int m_Value = 0;
 };
 
 /// @}

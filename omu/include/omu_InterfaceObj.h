@@ -70,11 +70,11 @@ public:
     cow_String name;
     /// The level's tables, null-name terminated; null for none.
     ///@{
-    const methodTable* methods;
-    const memberTable* members;
-    const deprecatedMethodTable* deprecatedMethods;
-    const deprecatedMemberTable* deprecatedMembers;
-  ///@}
+    const methodTable* methods = nullptr;
+    const memberTable* members = nullptr;
+    const deprecatedMethodTable* deprecatedMethods = nullptr;
+    const deprecatedMemberTable* deprecatedMembers = nullptr;
+    ///@}
   };
   /// The most class levels one object can describe.
   static constexpr int MaxLevels = 10;
@@ -166,9 +166,9 @@ public:
   virtual int NonZero() const { return 1; }
 
   /// The repr() text; empty by default, which makes AsRepr fall back to DefaultRepr().
-  virtual cow_String FullRepr() const { return cow_String(); }
+  virtual cow_String FullRepr() const { return {}; }
   /// The variable that names the object in a journal; empty by default.
-  virtual cow_String JournalVariable() const { return cow_String(); }
+  virtual cow_String JournalVariable() const { return {}; }
   /// The path a journalled call of method is recorded under; path by default.
   virtual cow_String CommandPath(const cow_String& path, const cow_String& method,
                                  omu_Arguments& args);

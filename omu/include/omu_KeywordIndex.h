@@ -69,7 +69,7 @@ public:
 private:
   struct Entry {
     std::string_view keyword;
-    const omu_Primitive* value;
+    const omu_Primitive* value = nullptr;
   };
 
   // Lengths, then addresses, before the characters. Keywords are short names, which a loop

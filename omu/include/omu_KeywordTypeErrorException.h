@@ -11,7 +11,8 @@
 class CVX_EXPORT omu_KeywordTypeErrorException
     : public UTI_FieldError<omu_KeywordTypeErrorException, omu_TypeErrorException> {
 public:
-  /// keyword's value is found where expecting was wanted; nesting names the enclosing argument, if any.
+  /// keyword's value is found where expecting was wanted; nesting names the enclosing argument, if
+  /// any.
   omu_KeywordTypeErrorException(const atr_String& keyword, const atr_String& expecting,
                                 const atr_String& found, const atr_String& nesting = atr_String())
       : m_Keyword(keyword), m_Expecting(expecting), m_Found(found), m_NestingStr(nesting) {}

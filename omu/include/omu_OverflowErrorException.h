@@ -6,7 +6,8 @@
 /// A number too large for its kind; the value is the message.
 #include <omu_TextErrorException.h>
 
-class CVX_EXPORT omu_OverflowErrorException : public omu_TextErrorException<omu_OverflowErrorException> {
+class CVX_EXPORT omu_OverflowErrorException
+    : public omu_TextErrorException<omu_OverflowErrorException> {
 public:
   using omu_TextErrorException::omu_TextErrorException;
 

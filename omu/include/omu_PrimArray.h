@@ -99,12 +99,14 @@ public:
 
   /// Elements by as many indices as the array has dimensions (unused ones -1).
   omu_PrimNumber ConstGetItem(int i, int j = -1, int k = -1, int l = -1) const;
-  /// The element at (i, j, k, l), one index per dimension (-1 for none, up to four); a wrong number of indices or one out of range raises nex_TextException.
+  /// The element at (i, j, k, l), one index per dimension (-1 for none, up to four); a wrong number
+  /// of indices or one out of range raises nex_TextException.
   ///@{
   double ConstGetDouble(int i, int j = -1, int k = -1, int l = -1) const;
   int ConstGetInt(int i, int j = -1, int k = -1, int l = -1) const;
   ///@}
-  /// Stores value, converted to the element type, at (i, j, k, l), indexed as ConstGetDouble; every array sharing the numbers sees it.
+  /// Stores value, converted to the element type, at (i, j, k, l), indexed as ConstGetDouble; every
+  /// array sharing the numbers sees it.
   void SetItem(const omu_PrimNumber& value, int i, int j = -1, int k = -1, int l = -1);
 
   /// The class's type identifier: module and class number (cls_MakeTypeId).

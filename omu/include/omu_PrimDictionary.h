@@ -22,7 +22,8 @@
 #include <omu_PrimNone.h>
 
 template <class K>
-class CVX_EXPORT omu_PrimDictionary : public omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase> {
+class CVX_EXPORT omu_PrimDictionary
+    : public omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase> {
   using Leaf = omu_PrimLeaf<omu_PrimDictionary<K>, omu_PrimDictionaryBase>;
 
 public:
@@ -78,10 +79,8 @@ public:
   /// Stores value under key as omu_PrimOwn makes it (a pointer's primitive is taken over),
   /// replacing any entry.
   template <class T>
-    requires requires(const T& value) { omu_PrimOwn(value); }
-  void Put(const T& value, const K& key) {
-    Store(key, omu_PrimOwn(value));
-  }
+  requires requires(const T& value) { omu_PrimOwn(value); }
+  void Put(const T& value, const K& key) { Store(key, omu_PrimOwn(value)); }
   /// Removes key's entry; false when there was none.
   bool Remove(const K& key);
   /// The entries' persistence identity (see the class).

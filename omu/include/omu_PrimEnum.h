@@ -22,9 +22,10 @@ public:
   /// The value's name; a value the table lacks raises omu_ValueErrorException.
   omu_PrimEnum(E value) {
     if (!SetValue(value)) {
-      Refuse(atr_StringBase::Format("omu_PrimEnum(Enum) - Enum value not allowed: %d  Permissible: %s",
-                                    static_cast<int>(value), this->PermissibleValuesAsString().CStr()),
-             __LINE__);
+      Refuse(
+          atr_StringBase::Format("omu_PrimEnum(Enum) - Enum value not allowed: %d  Permissible: %s",
+                                 static_cast<int>(value), this->PermissibleValuesAsString().CStr()),
+          __LINE__);
     }
   }
   /// other's name, which the table must hold (else omu_ValueErrorException).
@@ -61,12 +62,14 @@ public:
 
   /// Looks the value up; the first row holding it gives the name.
   bool SetValue(E value) {
-    return Store([value](const omu_PrimEnumRow& row) { return row.value == static_cast<int>(value); });
+    return Store(
+        [value](const omu_PrimEnumRow& row) { return row.value == static_cast<int>(value); });
   }
   /// Looks the name up, whole and case-sensitive.
   bool SetValue(const char* name) override {
     const char* wanted = name ? name : "";
-    return Store([wanted](const omu_PrimEnumRow& row) { return std::strcmp(row.name, wanted) == 0; });
+    return Store(
+        [wanted](const omu_PrimEnumRow& row) { return std::strcmp(row.name, wanted) == 0; });
   }
 
   /// The native value.
@@ -79,7 +82,8 @@ public:
   cow_Map<cow_String, unsigned int> PermissibleValues() const override {
     cow_Map<cow_String, unsigned int> values;
     for (const omu_PrimEnumRow* row = Table::Rows(); row->name; ++row) {
-      if (!values.Contains(row->name)) values.Insert(row->name, static_cast<unsigned int>(row->value));
+      if (!values.Contains(row->name))
+        values.Insert(row->name, static_cast<unsigned int>(row->value));
     }
     return values;
   }

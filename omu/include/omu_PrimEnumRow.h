@@ -15,7 +15,8 @@ struct omu_PrimEnumRow {
 /// The permissible-value table of omu_PrimEnum<E, N>. Each instantiation specializes it, next
 /// to its enumeration, as
 /// \code
-///   template <> struct omu_PrimEnumTable<E, N> { static CVX_EXPORT const omu_PrimEnumRow* Rows() noexcept; };
+///   template <> struct omu_PrimEnumTable<E, N> { static CVX_EXPORT const omu_PrimEnumRow* Rows()
+///   noexcept; };
 /// \endcode
 /// and defines Rows() in a source file of the library.
 template <class E, int N>

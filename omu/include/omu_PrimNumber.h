@@ -52,7 +52,8 @@ public:
   /// True for a DOUBLE as omu_PrimNumber(double) makes it: its value is all it holds, so a
   /// sequence of such numbers is archived as one block of doubles.
   bool IsPlainDouble() const noexcept {
-    return m_DataType == DOUBLE && m_UValue == 0 && IsType('f') && m_NumberUid.IsNull() && !HasUid();
+    return m_DataType == DOUBLE && m_UValue == 0 && IsType('f') && m_NumberUid.IsNull() &&
+           !HasUid();
   }
   /// True for the integer kinds (type code 'i').
   bool IsInteger() const noexcept { return IsType('i'); }

@@ -20,7 +20,8 @@ public:
   virtual const omu_Primitive* Index(int index) const = 0;
   /// New sequences, owned by the caller.
   virtual omu_PrimSequence* Slice(int from, int to) const = 0;
-  /// The elements times times over (none for times 0 or less), as a new sequence owned by the caller.
+  /// The elements times times over (none for times 0 or less), as a new sequence owned by the
+  /// caller.
   virtual omu_PrimSequence* Repeat(int times) const = 0;
   /// This sequence's elements followed by other's, as a new sequence owned by the caller.
   virtual omu_PrimSequence* Concat(omu_PrimSequence* other) const = 0;

@@ -14,7 +14,8 @@ class CVX_EXPORT omu_PrimType : public omu_PrimLeaf<omu_PrimType, omu_Primitive>
 public:
   omu_PrimType() noexcept : omu_PrimLeaf('t') {}
   /// The kind named typeString ("Part").
-  explicit omu_PrimType(const cow_String& typeString) : omu_PrimLeaf('t'), m_TypeString(typeString) {}
+  explicit omu_PrimType(const cow_String& typeString)
+      : omu_PrimLeaf('t'), m_TypeString(typeString) {}
   /// The type of an interface object: its own type string.
   explicit omu_PrimType(const omu_InterfaceObj& object);
   /// Member-wise copy.

@@ -16,19 +16,20 @@
 
 class CVX_EXPORT omu_RangeChecker {
 public:
-  /// Raises unless value lies between lower and upper (each inclusive as flagged); name is the argument's name in the message.
+  /// Raises unless value lies between lower and upper (each inclusive as flagged); name is the
+  /// argument's name in the message.
   ///@{
   static void CheckInRange(const cow_String& name, int lower, bool lowerInclusive, int value,
                            int upper, bool upperInclusive);
-  static void CheckInRange(const cow_String& name, double lower, bool lowerInclusive,
-                           double value, double upper, bool upperInclusive);
-                           ///@}
+  static void CheckInRange(const cow_String& name, double lower, bool lowerInclusive, double value,
+                           double upper, bool upperInclusive);
+  ///@}
   /// Raises unless value is above lower (or equal, when inclusive).
   ///@{
   static void CheckGreaterThan(const cow_String& name, int lower, bool lowerInclusive, int value);
   static void CheckGreaterThan(const cow_String& name, double lower, bool lowerInclusive,
                                double value);
-                               ///@}
+  ///@}
 };
 
 /// @}

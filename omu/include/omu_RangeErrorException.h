@@ -15,9 +15,8 @@ class CVX_EXPORT omu_RangeErrorException
     : public UTI_FieldError<omu_RangeErrorException, nex_CommandException> {
 public:
   /// keyword's value is outside the limits given as text, each with its qualifier (see the class).
-  omu_RangeErrorException(const atr_String& keyword, int keywordType,
-                          const atr_String& lowerLimit, int lowerQualifier,
-                          const atr_String& higherLimit, int higherQualifier)
+  omu_RangeErrorException(const atr_String& keyword, int keywordType, const atr_String& lowerLimit,
+                          int lowerQualifier, const atr_String& higherLimit, int higherQualifier)
       : m_Keyword(keyword),
         m_KeywordType(keywordType),
         m_LowerLimitAsString(lowerLimit),
@@ -66,11 +65,11 @@ private:
   }
 
   atr_String m_Keyword;
-  int m_KeywordType;
+  int m_KeywordType = 0;
   atr_String m_LowerLimitAsString;
-  int m_LowerLimitQualifier;
+  int m_LowerLimitQualifier = 0;
   atr_String m_HigherLimitAsString;
-  int m_HigherLimitQualifier;
+  int m_HigherLimitQualifier = 0;
 };
 
 /// @}

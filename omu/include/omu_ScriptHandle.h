@@ -16,7 +16,8 @@ public:
   omu_ScriptHandle() noexcept = default;
   /// Holds object; release (null for none) runs when the last copy goes.
   omu_ScriptHandle(void* object, Release release)
-      : m_Object(object, release ? release : [](void*) {}) {}
+      : m_Object(
+            object, release ? release : [](void*) {}) {}
 
   /// The object, or null.
   void* Get() const noexcept { return m_Object.get(); }

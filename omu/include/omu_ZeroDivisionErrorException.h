@@ -6,7 +6,8 @@
 /// A division by zero; the value is the message.
 #include <omu_TextErrorException.h>
 
-class CVX_EXPORT omu_ZeroDivisionErrorException : public omu_TextErrorException<omu_ZeroDivisionErrorException> {
+class CVX_EXPORT omu_ZeroDivisionErrorException
+    : public omu_TextErrorException<omu_ZeroDivisionErrorException> {
 public:
   using omu_TextErrorException::omu_TextErrorException;
 

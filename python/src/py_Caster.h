@@ -90,7 +90,7 @@ template <>
 struct py_Caster<omi_complex> {
   static bool Accepts(PyObject* object) { return PyComplex_Check(object); }
   static omi_complex FromPython(PyObject* object) {
-    return omi_complex(PyComplex_RealAsDouble(object), PyComplex_ImagAsDouble(object));
+    return {PyComplex_RealAsDouble(object), PyComplex_ImagAsDouble(object)};
   }
   static PyObject* ToPython(const omi_complex& value) {
     return PyComplex_FromDoubles(value.Real(), value.Imag());
@@ -100,7 +100,7 @@ struct py_Caster<omi_complex> {
 template <>
 struct py_Caster<omu_PrimNone> {
   static bool Accepts(PyObject* object) { return object == Py_None; }
-  static omu_PrimNone FromPython(PyObject*) { return omu_PrimNone(); }
+  static omu_PrimNone FromPython(PyObject*) { return {}; }
   static PyObject* ToPython(const omu_PrimNone&) { return Py_NewRef(Py_None); }
 };
 

@@ -11,8 +11,7 @@ namespace py = pybind11;
 
 namespace {
 struct CommandObject {
-  PyObject_HEAD
-  vectorcallfunc vectorcall;
+  PyObject_HEAD vectorcallfunc vectorcall;
   py_Command::Handler handler;
   PyObject* name;
   PyObject* doc;
@@ -34,7 +33,7 @@ void py_Command::Add(py::module_& module, const char* name, Handler handler, con
   command->handler = handler;
   command->name = PyUnicode_FromString(name);
   command->doc = PyUnicode_FromString(doc);
-  const py::object object = py::reinterpret_steal<py::object>(reinterpret_cast<PyObject*>(command));
+  const auto object = py::reinterpret_steal<py::object>(reinterpret_cast<PyObject*>(command));
   if (!command->name || !command->doc) throw py::error_already_set();
   module.attr(name) = object;
   if (!py::hasattr(module, "Command")) module.attr("Command") = reinterpret_cast<PyObject*>(Type());

@@ -154,7 +154,7 @@ cow_2DArray<double> WithMidpoint(const cow_2DArray<double>& table, int row) {
   const std::vector<double>& source = table.Cells();
   const auto split = source.begin() + static_cast<std::ptrdiff_t>(row + 1) * columns;
   std::copy(source.begin(), split, cells.begin());
-  std::copy(split, source.end(), cells.begin() + (row + 2) * columns);
+  std::copy(split, source.end(), cells.begin() + static_cast<std::ptrdiff_t>(row + 2) * columns);
   for (int column = 0; column < columns; ++column) {
     result.Set(row + 1, column, (table(row, column) + table(row + 1, column)) / 2);
   }

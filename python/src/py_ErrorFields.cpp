@@ -16,7 +16,7 @@ py::object ValueOf(const cls_Value& value) {
   if (const auto* text = value.As<cow_String>()) {
     return py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(*text));
   }
-  return py::object();
+  return {};
 }
 
 // Every level of the record, most derived first.

@@ -9,6 +9,7 @@
 #include <map>
 #include <new>
 #include <string>
+#include <utility>
 
 namespace py = pybind11;
 
@@ -27,8 +28,7 @@ std::map<std::string, py::object, std::less<>>& Classes() {
 }
 
 void SetText(PyObject* type, const atr_StringBase& text) {
-  const py::object message =
-      py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(text));
+  const auto message = py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(text));
   PyErr_SetObject(type, message.ptr());
 }
 }  // namespace
@@ -40,7 +40,7 @@ void py_ErrorTranslator::Register(py::module_& module) {
       {"AccessError", PyExc_ReferenceError}, {"GuiAccessError", PyExc_RuntimeError}};
   for (const ModuleError& error : errors) {
     const std::string qualified = "cvxutils." + std::string(error.name);
-    py::object type = py::reinterpret_steal<py::object>(
+    auto type = py::reinterpret_steal<py::object>(
         PyErr_NewException(qualified.c_str(), error.base, nullptr));
     if (!type) throw py::error_already_set();
     module.attr(error.name) = type;
@@ -48,7 +48,7 @@ void py_ErrorTranslator::Register(py::module_& module) {
   }
   py::register_exception_translator([](std::exception_ptr failure) {
     try {
-      std::rethrow_exception(failure);
+      std::rethrow_exception(std::move(failure));
     } catch (const nex_Exception&) {
       RaiseCurrent();
     }
@@ -70,7 +70,7 @@ py::handle py_ErrorTranslator::ClassOf(const nex_CommandException& error) {
 
 void py_ErrorTranslator::RaiseScriptingError(const nex_CommandException& error) {
   const py::handle type = ClassOf(error);
-  const py::object message =
+  const auto message =
       py::reinterpret_steal<py::object>(py_Caster<cow_String>::ToPython(error.JournalMessage()));
   const py::object exception = type(message);
   py_ErrorFields::Attach(error, exception);

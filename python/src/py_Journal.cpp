@@ -22,7 +22,7 @@ const omu_Primitive* Converted(const omu_Arguments& arguments, Py_ssize_t positi
 // name(value, ..., keyword=value, ...) for count arguments; valueAt(i) gives argument i.
 template <class ValueAt>
 std::string CallText(PyObject* command, PyObject* kwnames, std::uint32_t count, ValueAt&& valueAt) {
-  std::string text = py::str(py::handle(command).attr("__name__")).cast<std::string>();
+  auto text = py::str(py::handle(command).attr("__name__")).cast<std::string>();
   text += '(';
   const auto positional =
       count - static_cast<std::uint32_t>(kwnames ? PyTuple_GET_SIZE(kwnames) : 0);
@@ -187,7 +187,7 @@ void py_Journal::Register(py::module_& module) {
       [](const py::object& source) {
         const py::dict names = ReplayNamespace();
         for (const py::handle line : ReadLines(source)) {
-          const std::string text = py::str(line).cast<std::string>();
+          const auto text = py::str(line).cast<std::string>();
           const std::size_t start = text.find_first_not_of(" \t");
           if (start == std::string::npos || text[start] == '#') continue;
           py::exec(py::str(text), names);

@@ -67,6 +67,8 @@ private:
       Py_XDECREF(Object());
       delete Snapshot();
     }
+    // The word is a tagged pointer: low bit clear, a Python object; set, a snapshot.
+    // NOLINTBEGIN(performance-no-int-to-ptr)
     PyObject* Object() const noexcept {
       return m_Word & 1 ? nullptr : reinterpret_cast<PyObject*>(m_Word);
     }
@@ -74,6 +76,7 @@ private:
       return m_Word & 1 ? reinterpret_cast<const omu_Primitive*>(m_Word & ~std::uintptr_t(1))
                         : nullptr;
     }
+    // NOLINTEND(performance-no-int-to-ptr)
 
   private:
     std::uintptr_t m_Word;

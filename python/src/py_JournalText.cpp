@@ -7,8 +7,11 @@
 #include <omu_PrimNumber.h>
 #include <pybind11/pybind11.h>
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
-#include <cstring>
+#include <cstdint>
+#include <cstdlib>
 #include <string_view>
 
 namespace py = pybind11;
@@ -32,7 +35,7 @@ void AppendFloat(std::string& out, double value) {
   const int length = omu_PrimNumber::FormatDouble(value, text);
   text[length] = '\0';
   const double back = std::strtod(text, nullptr);
-  if (std::memcmp(&back, &value, sizeof value) == 0) {
+  if (std::bit_cast<std::uint64_t>(back) == std::bit_cast<std::uint64_t>(value)) {
     out.append(text, static_cast<std::size_t>(length));
     return;
   }
@@ -44,10 +47,8 @@ void AppendFloat(std::string& out, double value) {
 
 // A control character other than newline and tab is written raw by the library's form.
 bool LibraryQuotesExactly(std::string_view text) {
-  for (const char c : text) {
-    if (static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t') return false;
-  }
-  return true;
+  return std::ranges::none_of(
+      text, [](char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\n' && c != '\t'; });
 }
 
 void AppendText(std::string& out, PyObject* value) {
@@ -83,7 +84,7 @@ void AppendDict(std::string& out, PyObject* value) {
 }
 
 void AppendArray(std::string& out, PyObject* value) {
-  const py::object array = py::reinterpret_borrow<py::object>(value);
+  const auto array = py::reinterpret_borrow<py::object>(value);
   out += "numpy.array(";
   py_JournalText::Append(out, array.attr("tolist")().ptr());
   out += ", dtype=";
@@ -130,7 +131,7 @@ void py_JournalText::Append(std::string& out, PyObject* value) {
   if (py_ArrayConverter::IsArray(value)) return AppendArray(out, value);
   if (PyLong_Check(value) && !PyBool_Check(value) && !PyLong_CheckExact(value)) {
     // An int subclass (an IntEnum) as the plain int it carries.
-    const py::object plain = py::reinterpret_steal<py::object>(PyNumber_Long(value));
+    const auto plain = py::reinterpret_steal<py::object>(PyNumber_Long(value));
     if (!plain) throw py::error_already_set();
     return AppendRepr(out, plain.ptr());
   }

@@ -25,9 +25,9 @@ py_IdentityCache<cow_String, py_KeptTexts::Seen>& Known() {
 cow_String py_KeptTexts::Text(PyObject* string) {
   if (const cow_String* known = Known().Find(string)) return *known;
   const std::string_view text = Utf8(string);
-  if (text.empty() || text.size() > ShortBytes) return cow_String(text);
+  if (text.empty() || text.size() > ShortBytes) return {text};
   cow_String kept = KeptText(string, text);
-  if (kept.IsEmpty()) return cow_String(text);
+  if (kept.IsEmpty()) return {text};
   // A subclass instance is not held: its lifetime is its script's.
   if (PyUnicode_CheckExact(string)) Known().Keep(string, kept);
   return kept;

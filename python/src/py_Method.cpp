@@ -10,8 +10,7 @@ namespace py = pybind11;
 
 namespace {
 struct MethodObject {
-  PyObject_HEAD
-  vectorcallfunc vectorcall;
+  PyObject_HEAD vectorcallfunc vectorcall;
   PyObject* owner;
   PyObject* name;
 };

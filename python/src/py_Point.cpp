@@ -15,7 +15,7 @@ constexpr float g3d_Point::*const kMembers[] = {&g3d_Point::x, &g3d_Point::y, &g
 g3d_Point FromSequence(const py::object& sequence) {
   double numbers[4] = {0.0, 0.0, 0.0, 1.0};
   py_Components::Read(sequence, numbers, 3, 4, "a Point is 3 or 4 numbers");
-  return g3d_Point(float(numbers[0]), float(numbers[1]), float(numbers[2]), float(numbers[3]));
+  return {float(numbers[0]), float(numbers[1]), float(numbers[2]), float(numbers[3])};
 }
 }  // namespace
 

@@ -127,7 +127,7 @@ py::array Checked(py::handle value) {
 
 template <typename Element>
 py::object TransformArray(const g3d_XForm& form, py::handle value, bool copy) {
-  const py::array array = Checked(value);
+  py::array array = Checked(value);
   const py::ssize_t count = array.shape(0);
   // The buffer views hold the arrays' memory in place while the GIL is released.
   if (array.dtype().equal(py::dtype::of<double>())) {

@@ -1,9 +1,9 @@
 #pragma once
 // An (N, 3) NumPy array of points or vectors through a transform in one call, the GIL
 // released for the loop, which large arrays (from 131,072 rows) share across the machine's
-// cores, as NumPy's matrix product does. Rows are taken in blocks into the library's own Point (w = 1) or
-// Vector and transformed by g3d_XForm::XForm, so every number goes through exactly the
-// float arithmetic of the native transform:
+// cores, as NumPy's matrix product does. Rows are taken in blocks into the library's own Point (w =
+// 1) or Vector and transformed by g3d_XForm::XForm, so every number goes through exactly the float
+// arithmetic of the native transform:
 //
 //   float32            transformed in place and returned (any strides), or into a new
 //                      C-contiguous float32 array when copy is true; a read-only array needs

@@ -21,6 +21,7 @@ struct Slot {
   Slot(const Slot&) = delete;
   Slot& operator=(const Slot&) = delete;
   // At thread exit: dropped under the GIL while the interpreter lives, else left alone.
+  // NOLINTNEXTLINE(bugprone-exception-escape): taking the GIL fails only without an interpreter
   ~Slot() {
     if (!target) return;
     if (!py_Library::InterpreterAlive() || !Py_IsInitialized()) {
@@ -50,7 +51,7 @@ private:
 };
 }  // namespace
 
-py::object py_ReporterSlot::Install(py::object target) {
+py::object py_ReporterSlot::Install(const py::object& target) {
   wip_WipReporter* native = nullptr;
   std::unique_ptr<py_PythonReporter> wrapper;
   if (py::isinstance<py_ConsoleReporter>(target)) {

@@ -21,7 +21,7 @@ class py_ReporterSlot {
 public:
   static void Register(pybind11::module_& module);
   // Installs target (None: no reporter) for this thread; answers the target it replaces.
-  static pybind11::object Install(pybind11::object target);
+  static pybind11::object Install(const pybind11::object& target);
   static pybind11::object Installed();
   // Null when this thread's front has a reporter; else a silent reporter, installed until it
   // is destroyed.

@@ -6,16 +6,15 @@
 
 namespace {
 template <class T>
-constexpr bool IsRow = py_Castable<T> && omu_Puttable<T> && omu_Gettable<T>;
+constexpr bool IsRow = py_Castable<T>&& omu_Puttable<T>&& omu_Gettable<T>;
 
 template <class T>
 py_ScalarTable::Row RowOf() {
-  return {omu_Binding<T>::code,
-          [](const omu_Primitive& value, omu_BindingRuleEnum rule) -> PyObject* {
-            T out{};
-            return omu_Binding<T>::Convert(value, out, rule) ? py_Caster<T>::ToPython(out)
-                                                             : nullptr;
-          }};
+  return {
+      omu_Binding<T>::code, [](const omu_Primitive& value, omu_BindingRuleEnum rule) -> PyObject* {
+        T out{};
+        return omu_Binding<T>::Convert(value, out, rule) ? py_Caster<T>::ToPython(out) : nullptr;
+      }};
 }
 }  // namespace
 

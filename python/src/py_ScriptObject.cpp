@@ -4,7 +4,7 @@
 
 omu_ScriptHandle py_ScriptObject::Hold(PyObject* object) {
   Py_INCREF(object);
-  return omu_ScriptHandle(object, &Release);
+  return {object, &Release};
 }
 
 void py_ScriptObject::Release(void* object) {

@@ -8,8 +8,7 @@ namespace {
 std::string TypeName(py::handle value) { return Py_TYPE(value.ptr())->tp_name; }
 
 float Item(py::handle sequence, Py_ssize_t index) {
-  const py::object item =
-      py::reinterpret_steal<py::object>(PySequence_GetItem(sequence.ptr(), index));
+  const auto item = py::reinterpret_steal<py::object>(PySequence_GetItem(sequence.ptr(), index));
   if (!item) throw py::error_already_set();
   const double number = PyFloat_AsDouble(item.ptr());
   if (number == -1.0 && PyErr_Occurred()) throw py::error_already_set();

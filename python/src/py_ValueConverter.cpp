@@ -71,7 +71,7 @@ omu_PrimOwner ToSequence(PyObject* value) {
       Raise(PyExc_RuntimeError, "%.200s changed size while it was converted",
             Py_TYPE(value)->tp_name);
     }
-    const py::object item = py::reinterpret_borrow<py::object>(PySequence_Fast_GET_ITEM(value, i));
+    const auto item = py::reinterpret_borrow<py::object>(PySequence_Fast_GET_ITEM(value, i));
     result->Put(py_ValueConverter::ToPrimitive(item.ptr()).release());
   }
   return result;
@@ -106,7 +106,7 @@ omu_PrimOwner ToDictionary(const py::list& items) {
 omu_PrimOwner ToDictionary(PyObject* value) {
   OpenContainer open(value);
   // A snapshot: converting a value may run Python code that changes the dictionary.
-  const py::list items = py::reinterpret_steal<py::list>(PyDict_Items(value));
+  const auto items = py::reinterpret_steal<py::list>(PyDict_Items(value));
   if (!items) throw py::error_already_set();
   bool textKeys = false;
   bool integerKeys = false;
@@ -126,7 +126,7 @@ template <class K>
 PyObject* DictionaryToPython(const omu_PrimDictionary<K>& dictionary) {
   py::dict result;
   for (const auto& [key, value] : dictionary.GetEntries()) {
-    const py::object item =
+    const auto item =
         py::reinterpret_steal<py::object>(py_ValueConverter::ToPython(value.ConstGet()));
     if constexpr (std::is_same_v<K, int>) {
       result[py::int_(key)] = item;
@@ -147,8 +147,7 @@ PyObject* DictionaryToPython(const omu_Primitive& value) {
 PyObject* SequenceToPython(const omu_PrimSequence& sequence) {
   const bool list = dynamic_cast<const omu_PrimList*>(&sequence) != nullptr;
   const Py_ssize_t size = sequence.Size();
-  py::object result =
-      py::reinterpret_steal<py::object>(list ? PyList_New(size) : PyTuple_New(size));
+  auto result = py::reinterpret_steal<py::object>(list ? PyList_New(size) : PyTuple_New(size));
   if (!result) throw py::error_already_set();
   for (Py_ssize_t i = 0; i < size; ++i) {
     PyObject* item = py_ValueConverter::ToPython(sequence.Index(static_cast<int>(i)));
@@ -204,7 +203,7 @@ omu_PrimOwner py_ValueConverter::ToPrimitive(PyObject* value) {
   if (py_ArrayConverter::IsArray(value)) return py_ArrayConverter::ToPrimitive(value);
   if (PyIndex_Check(value)) {
     // An integer of another kind (a NumPy integer): its __index__ may raise.
-    const py::object index = py::reinterpret_steal<py::object>(PyNumber_Index(value));
+    const auto index = py::reinterpret_steal<py::object>(PyNumber_Index(value));
     if (!index) throw py::error_already_set();
     return ToPrimitive(index.ptr());
   }

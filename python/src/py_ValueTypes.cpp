@@ -83,7 +83,8 @@ void RegisterConstant(py::module_& module) {
           "__eq__", [](const omu_PrimEnumBase& a, const omu_PrimEnumBase& b) { return a == b; },
           py::is_operator())
       .def(
-          "__eq__", [](const omu_PrimEnumBase& a, py::str b) { return Text(a.Name()).equal(b); },
+          "__eq__",
+          [](const omu_PrimEnumBase& a, const py::str& b) { return Text(a.Name()).equal(b); },
           py::is_operator())
       .def("__hash__",
            [](const omu_PrimEnumBase& constant) { return py::hash(Text(constant.Name())); });

@@ -14,7 +14,7 @@ constexpr float g3d_Vector::*const kMembers[] = {&g3d_Vector::x, &g3d_Vector::y,
 g3d_Vector FromSequence(const py::object& sequence) {
   double numbers[3];
   py_Components::Read(sequence, numbers, 3, 3, "a Vector is 3 numbers");
-  return g3d_Vector(float(numbers[0]), float(numbers[1]), float(numbers[2]));
+  return {float(numbers[0]), float(numbers[1]), float(numbers[2])};
 }
 
 float AngleWith(const g3d_Vector& v, const g3d_Vector& other, bool normalized,

@@ -1,5 +1,5 @@
-#include <atr_String.h>
 #include <aio_ostream.h>
+#include <atr_String.h>
 
 #include <gtest/gtest.h>
 

@@ -18,11 +18,11 @@
 
 namespace {
 class BasicLibrary : public ::testing::Environment {
- public:
+public:
   void SetUp() override { QRLCvuBasicUtils_initialize(m_Count); }
   void TearDown() override { QRLCvuBasicUtils_finalize(m_Count); }
 
- private:
+private:
   int m_Count = 0;
 };
 const auto* const g_Basic = ::testing::AddGlobalTestEnvironment(new BasicLibrary);

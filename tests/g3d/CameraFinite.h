@@ -15,9 +15,22 @@ inline const char* NotFinitePart(const g3d_Camera& camera) {
   };
   const g3d_Point &eye = camera.GetEye(), &target = camera.GetTarget();
   const g3d_Vector& up = camera.GetUp();
-  const float state[] = {eye.x, eye.y, eye.z, eye.w, target.x, target.y, target.z, target.w, up.x,
-                         up.y, up.z, camera.GetWindowWidth(), camera.GetWindowHeight(),
-                         camera.GetNear(), camera.GetFar(), camera.GetViewOffsetX(),
+  const float state[] = {eye.x,
+                         eye.y,
+                         eye.z,
+                         eye.w,
+                         target.x,
+                         target.y,
+                         target.z,
+                         target.w,
+                         up.x,
+                         up.y,
+                         up.z,
+                         camera.GetWindowWidth(),
+                         camera.GetWindowHeight(),
+                         camera.GetNear(),
+                         camera.GetFar(),
+                         camera.GetViewOffsetX(),
                          camera.GetViewOffsetY()};
   float view[4][4], projection[4][4];
   camera.GetVOM().GetM(view);

@@ -12,7 +12,7 @@
 inline cow_2DArray<double> InsertionSorted(cow_2DArray<double> table, int keys) {
   const int columns = table.Columns();
   std::vector<double>& cells = table.MutableCells();
-  const auto row = [&](int r) { return cells.begin() + r * columns; };
+  const auto row = [&](int r) { return cells.begin() + std::ptrdiff_t{r} * columns; };
   const auto greater = [&](int a, int b) {
     for (int c = columns - 1; c >= columns - keys; --c) {
       if (row(a)[c] > row(b)[c]) return true;

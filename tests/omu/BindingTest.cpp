@@ -45,8 +45,8 @@ std::string ReadAs(const omu_Primitive& value) {
   tuple.Get(out);
   EXPECT_EQ(tuple.Cursor(), 1) << Text(value);  // a refused value is passed over all the same
   EXPECT_EQ(tuple.NumGets(), 1) << Text(value);
-  std::string result = tuple.ErrorArg() ? "expecting " + tuple.TypeExpected().StdString()
-                                        : Show(out);
+  std::string result =
+      tuple.ErrorArg() ? "expecting " + tuple.TypeExpected().StdString() : Show(out);
   if (tuple.ErrorArg() && out != kept) result += " but wrote " + Show(out);
   StrDict dictionary;
   dictionary.Put(value, "v");
@@ -74,7 +74,8 @@ TEST(Binding, ATypeBoundOnlyHereGoesThroughEveryContainer) {
   cow_List<Celsius> firsts;
   list.GetValue(firsts);
   list.GetValue(second);
-  EXPECT_EQ(Read(firsts[0], second) + Outcome(list), read + "arg2; found string, expecting temperature");
+  EXPECT_EQ(Read(firsts[0], second) + Outcome(list),
+            read + "arg2; found string, expecting temperature");
 
   StrDict byName;
   byName.Put(Celsius{21.5}, "t");

@@ -29,9 +29,9 @@ TEST(CorvexName, EachKindKeepsItsOwnLengthLimitAndRules) {
     int kind;
     std::size_t longest;
     const char* error;
-  } limits[] = {{0, 80, kInvalid},      {1, 80, kInvalidJob},      {2, 80, kInvalidModel},
-                {3, 38, kInvalid},      {4, 38, kInvalidJob},      {5, 38, kInvalidModel},
-                {6, 38, kInvalid},      {7, 256, kInvalid}};
+  } limits[] = {{0, 80, kInvalid}, {1, 80, kInvalidJob}, {2, 80, kInvalidModel},
+                {3, 38, kInvalid}, {4, 38, kInvalidJob}, {5, 38, kInvalidModel},
+                {6, 38, kInvalid}, {7, 256, kInvalid}};
   for (const auto& limit : limits) {
     EXPECT_EQ(Verdict(std::string(limit.longest, 'a'), limit.kind), "ok") << limit.kind;
     EXPECT_EQ(Verdict(std::string(limit.longest + 1, 'a'), limit.kind), limit.error) << limit.kind;
@@ -43,11 +43,13 @@ TEST(CorvexName, EachKindKeepsItsOwnLengthLimitAndRules) {
     const char* name;
     const char* verdicts;  // one character per kind 0-7: '.' ok, 'x' refused
   } cases[] = {
-      {"_part", "...xxxxx"},  {"part_", "...xxxxx"},   {"1abc", "x..x..xx"},    {"-job", ".x..x..x"},
-      {"a,b", ".......x"},    {"my job", ".x..x..."},  {"Model:1", ".x..x..."}, {"a$b", ".xx.xx.."},
-      {"a.b", "xxxxxxxx"},    {"a\"b", "xxxxxxxx"},   {"a\\b", "xxxxxxxx"},    {"tab\tin", "...xxxxx"},
-      {" lead", ".x.xxxxx"},  {"trail ", ".x.xxxxx"}, {"caf\xC3\xA9", "........"}, {"\x80\xff", "........"},
-      {"a?b", ".xx.xx.."},    {"a~b", ".xx.xx.."},     {"a<b>", ".xx.xx.."},    {"a:b", ".x..x..."},
+      {"_part", "...xxxxx"},    {"part_", "...xxxxx"},  {"1abc", "x..x..xx"},
+      {"-job", ".x..x..x"},     {"a,b", ".......x"},    {"my job", ".x..x..."},
+      {"Model:1", ".x..x..."},  {"a$b", ".xx.xx.."},    {"a.b", "xxxxxxxx"},
+      {"a\"b", "xxxxxxxx"},     {"a\\b", "xxxxxxxx"},   {"tab\tin", "...xxxxx"},
+      {" lead", ".x.xxxxx"},    {"trail ", ".x.xxxxx"}, {"caf\xC3\xA9", "........"},
+      {"\x80\xff", "........"}, {"a?b", ".xx.xx.."},    {"a~b", ".xx.xx.."},
+      {"a<b>", ".xx.xx.."},     {"a:b", ".x..x..."},
   };
   for (const auto& c : cases) {
     for (int kind = 0; kind < 8; ++kind) {
@@ -116,9 +118,13 @@ TEST(CorvexName, GuiNamesRepairTowardsTheShortRulesAndQuotingOnlyWherePiecesNeed
   const struct {
     const char* in;
     const char* out;
-  } cases[] = {
-      {"", ""}, {"Part-1.my set", "Part-1.\"my set\""}, {"\"a b\".c", "\"a b\".c"},
-      {"a..b.", "a..b."}, {"a=b.c,d.it's", "\"a=b\".\"c,d\".\"it's\""},
-      {"\" \"", "\" \""}, {"\"\"", "\"\""}, {"\"a", "\"a"}};
+  } cases[] = {{"", ""},
+               {"Part-1.my set", "Part-1.\"my set\""},
+               {"\"a b\".c", "\"a b\".c"},
+               {"a..b.", "a..b."},
+               {"a=b.c,d.it's", R"("a=b"."c,d"."it's")"},
+               {"\" \"", "\" \""},
+               {"\"\"", "\"\""},
+               {"\"a", "\"a"}};
   for (const auto& c : cases) EXPECT_EQ(omu_CorvexName::QuoteIfNeeded(c.in), c.out) << c.in;
 }

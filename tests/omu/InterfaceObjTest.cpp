@@ -28,11 +28,11 @@ protected:
 TEST_F(InterfaceObj, TheChainRunsFromBaseToMostDerivedAndAnswersFromTheMostDerived) {
   EXPECT_EQ(part.BaseType(), "Feature");
   EXPECT_EQ(omu_PrimType(part).AsString(0), "PartType");  // the type string, as a script sees it
-  part.DescribeType("Part", nullptr, nullptr);  // described twice: counts once
+  part.DescribeType("Part", nullptr, nullptr);            // described twice: counts once
   EXPECT_EQ(part.TypeLevels(), 2);
-  EXPECT_EQ(Member(part, "name"), "Part-1Type");  // the part level's row
+  EXPECT_EQ(Member(part, "name"), "Part-1Type");   // the part level's row
   EXPECT_EQ(Member(part, "kind"), "FeatureType");  // inherited
-  EXPECT_EQ(Member(part, "Name"), "null");        // case matters
+  EXPECT_EQ(Member(part, "Name"), "null");         // case matters
   bool deprecated = false;
   EXPECT_TRUE(part.IsMethod("regenerate", deprecated));
   EXPECT_FALSE(part.IsMethod("name", deprecated));

@@ -33,11 +33,17 @@ std::vector<double> VariedDoubles(int count) {
     const std::uint64_t bits = random();
     double value = 0;
     switch (i % 9) {
-      case 0: std::memcpy(&value, &bits, sizeof value); break;
-      case 1: value = static_cast<double>(static_cast<std::int64_t>(bits) >> (bits % 64)); break;
-      case 2: value = std::pow(10.0, static_cast<int>(bits % 640) - 320); break;
+      case 0:
+        std::memcpy(&value, &bits, sizeof value);
+        break;
+      case 1:
+        value = static_cast<double>(static_cast<std::int64_t>(bits) >> (bits % 64));
+        break;
+      case 2:
+        value = std::pow(10.0, static_cast<int>(bits % 640) - 320);
+        break;
       case 3: {  // d.dddddddddddddd5 x 10^e: the 16th digit sits on the rounding edge
-        const double mantissa = static_cast<double>(bits % 900000000000000ull + 100000000000000ull);
+        const auto mantissa = static_cast<double>(bits % 900000000000000ull + 100000000000000ull);
         value = (mantissa * 10 + 5) * std::pow(10.0, static_cast<int>(bits % 40) - 35);
         break;
       }
@@ -46,12 +52,18 @@ std::vector<double> VariedDoubles(int count) {
         std::memcpy(&value, &subnormal, sizeof value);
         break;
       }
-      case 5: value = std::ldexp(static_cast<double>(bits >> 11), 960 + static_cast<int>(bits % 60)); break;
-      case 6: value = std::ldexp(static_cast<double>(bits >> 11), -1070 + static_cast<int>(bits % 60)); break;
+      case 5:
+        value = std::ldexp(static_cast<double>(bits >> 11), 960 + static_cast<int>(bits % 60));
+        break;
+      case 6:
+        value = std::ldexp(static_cast<double>(bits >> 11), -1070 + static_cast<int>(bits % 60));
+        break;
       case 7:  // full 53-bit mantissas between about 1e-8 and 1e12, where scaling decides
         value = std::ldexp(static_cast<double>(bits >> 11), static_cast<int>(bits % 93) - 80);
         break;
-      default: value = static_cast<double>(bits % 2000001) / 1000.0 - 1000.0; break;
+      default:
+        value = static_cast<double>(bits % 2000001) / 1000.0 - 1000.0;
+        break;
     }
     if (std::isfinite(value)) values.push_back(i % 3 == 0 ? -value : value);
   }
@@ -78,9 +90,18 @@ TEST(NumberText, MatchesPrintfOverAMillionVariedDoubles) {
 // must fit the buffer.
 TEST(NumberText, MatchesPrintfAtTheEdges) {
   using limits = std::numeric_limits<double>;
-  std::vector<double> values = {0.0, limits::infinity(), limits::quiet_NaN(), limits::max(),
-                                limits::min(), limits::denorm_min(), 1e15 - 0.5, 1e15 + 2,
-                                999999999999999.4, 999999999999999.6, 0.0001, 1e-5};
+  std::vector<double> values = {0.0,
+                                limits::infinity(),
+                                limits::quiet_NaN(),
+                                limits::max(),
+                                limits::min(),
+                                limits::denorm_min(),
+                                1e15 - 0.5,
+                                1e15 + 2,
+                                999999999999999.4,
+                                999999999999999.6,
+                                0.0001,
+                                1e-5};
   values.insert(values.end(), {1.2345678901234567e-308, 9.99999999999999e+99});
   for (int k = -323; k <= 308; ++k) {
     const double power = std::pow(10.0, k);

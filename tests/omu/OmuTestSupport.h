@@ -32,7 +32,7 @@ inline omu_PrimTuple TupleOf(std::initializer_list<omu_Primitive*> values) {
 }
 
 inline omu_PrimList ListOf(std::initializer_list<int> values) {
-  return omu_PrimList(cow_List<int>(values), '(');
+  return {cow_List<int>(values), '('};
 }
 
 inline omu_PrimString* StringOf(const char* text) { return new omu_PrimString(cow_String(text)); }

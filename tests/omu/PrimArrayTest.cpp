@@ -37,17 +37,21 @@ TEST(PrimArray, IndexingSharesTheNumbersAndFailuresHaveTheirTexts) {
   EXPECT_EQ(FailureOf([&] { delete noDims.Index(0); }), "PrimArray index out of bounds");
   EXPECT_EQ(FailureOf([&] { delete matrix.Index(-1); }), "PrimArray index out of bounds");
   EXPECT_EQ(FailureOf([&] { delete matrix.Index(2); }), "PrimArray index out of bounds");
-  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1); }), "less indices given than size of array (1<2)");
-  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1, 1, 0); }), "more indices given than size of array (3>2)");
-  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(0, 2); }), "index out of range, dimension 1 (2 >= 2)");
+  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1); }),
+            "less indices given than size of array (1<2)");
+  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(1, 1, 0); }),
+            "more indices given than size of array (3>2)");
+  EXPECT_EQ(FailureOf([&] { matrix.ConstGetItem(0, 2); }),
+            "index out of range, dimension 1 (2 >= 2)");
   const CapturedErrors errors;
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, negative, kMatrix); }), "omu_PrimArray ctor failed");
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(1, kTwoByTwo, omu_PrimNumber::SHORT, nullptr); }),
             "omu_PrimArray ctor failed");
   EXPECT_EQ(FailureOf([&] { omu_PrimArray(2, huge, kMatrix); }), "omu_PrimArray ctor failed");
-  EXPECT_EQ(errors.Text(),
-            "PrimArray negative dimensions are not allowed\nPrimArray only INT, FLOAT, DOUBLE allowed\n"
-            "PrimArray can't allocate memory for array (data)\n");
+  EXPECT_EQ(
+      errors.Text(),
+      "PrimArray negative dimensions are not allowed\nPrimArray only INT, FLOAT, DOUBLE allowed\n"
+      "PrimArray can't allocate memory for array (data)\n");
 }
 
 TEST(PrimArray, FromNestedSequencesWithTypeFittingAndRaggedOrForeignOnesRefused) {
@@ -63,13 +67,13 @@ TEST(PrimArray, FromNestedSequencesWithTypeFittingAndRaggedOrForeignOnesRefused)
   const omu_PrimArray big(TupleOf({new omu_PrimNumber(4000000000u)}));
   EXPECT_EQ(big.DataType(), omu_PrimNumber::DOUBLE);
   const omu_PrimArray fromArray(omu_PrimList(cow_List<int>{5, 6}, '('));
-  const omu_PrimArray again(fromArray);
-  EXPECT_TRUE(omu_PrimArray(static_cast<const omu_PrimSequence&>(again)) == fromArray);
+  EXPECT_TRUE(omu_PrimArray(static_cast<const omu_PrimSequence&>(fromArray)) == fromArray);
   struct Case {
     omu_PrimTuple input;
     const char* reason;
   } cases[] = {
-      {Nest({TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2)}), TupleOf({new omu_PrimNumber(3)})}),
+      {Nest({TupleOf({new omu_PrimNumber(1), new omu_PrimNumber(2)}),
+             TupleOf({new omu_PrimNumber(3)})}),
        "different dims in child. dimThis=1, j=0\n"},
       {Nest({TupleOf({new omu_PrimNumber(1)}), TupleOf({TupleOf({new omu_PrimNumber(3)}).Copy()})}),
        "different num dims in child. nd=1, ndTemp=2, i=1\n"},
@@ -77,7 +81,8 @@ TEST(PrimArray, FromNestedSequencesWithTypeFittingAndRaggedOrForeignOnesRefused)
   };
   for (const Case& c : cases) {
     const CapturedErrors errors;
-    EXPECT_EQ(FailureOf([&] { omu_PrimArray{c.input}; }), "omu_PrimArray from sequence failed - dimensions. ");
+    EXPECT_EQ(FailureOf([&] { omu_PrimArray{c.input}; }),
+              "omu_PrimArray from sequence failed - dimensions. ");
     EXPECT_EQ(errors.Text(), c.reason);
   }
 }

@@ -42,9 +42,9 @@ TEST(Primitive, TextOfEachKind) {
       {StringOf(""), "''"}, {Translated(""), "''"},
       {StringOf("say \"hi\""), "'say \"hi\"'"}, {Translated("say \"hi\""), "'say \"hi\"'"},
       {StringOf("back\\slash"), "'back\\\\slash'"}, {Translated("back\\slash"), "'back\\\\slash'"},
-      {StringOf("it's\\\n"), "\"it's\\\\\\n\""}, {Translated("it's\\\n"), "\"it's\\\\\\n\""},
+      {StringOf("it's\\\n"), R"("it's\\\n")"}, {Translated("it's\\\n"), R"("it's\\\n")"},
       {StringOf("tab\there"), "'tab\there'"}, {Translated("tab\there"), "'tab\there'"},
-      {StringOf("'\"'"), "'\\'\"\\''"}, {Translated("'\"'"), "'\\'\"\\''"},
+      {StringOf("'\"'"), R"('\'"\'')"}, {Translated("'\"'"), R"('\'"\'')"},
       {new omu_PrimString(-12), "'-12'"}, {new omu_PrimString(4000000000u), "'4000000000'"},
       {new omu_PrimString(2.0), "'2.0'"}, {new omu_PrimString(omu_OnOffConst(true)), "'ON'"},
       // A plus only before a zero or positive imaginary part.

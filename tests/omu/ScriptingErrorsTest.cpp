@@ -63,10 +63,13 @@ using Range = omu_RangeErrorException;
 // The message formats python/tests/test_errors.py does not reach, and GenericTypeError, which
 // kFieldCases lacks, for its copy and round trip.
 const Case kCases[] = {
-    {Make<omu_AttributeErrorException>(-1, "x"), "AttributeError", "Error message not implemented yet"},
+    {Make<omu_AttributeErrorException>(-1, "x"), "AttributeError",
+     "Error message not implemented yet"},
     {Make<omu_KeyErrorException>("100%s sure"), "KeyError", "100%s sure"},  // not a format
-    {Make<omu_GenericTypeErrorException>(), "TypeError", "illegal argument type for built-in operation"},
-    {Make<omu_ArgNumberErrorException>(-1, 0, ""), "TypeError", "too many arguments; expected -1, got 0"},
+    {Make<omu_GenericTypeErrorException>(), "TypeError",
+     "illegal argument type for built-in operation"},
+    {Make<omu_ArgNumberErrorException>(-1, 0, ""), "TypeError",
+     "too many arguments; expected -1, got 0"},
     {Make<omu_KeywordTypeErrorException>("it's", "int", "None", "opts"), "TypeError",
      "opts[\"it's\"]; found None, expecting int"},
     {Make<Range>("t", 7, "", 0, "", 0), "RangeError", "t must be "},
@@ -78,8 +81,8 @@ class ScriptingErrors : public ::testing::TestWithParam<Case> {};
 const char* const kArchive = "error-fields.cvxarch";
 const char* const kMetadata = "error-fields-metadata.txt";
 
-// One error of each class with fields or one text, every field away from its default and distinct from its
-// neighbours, so that a field dropped, defaulted or swapped shows; in the fixture's order.
+// One error of each class with fields or one text, every field away from its default and distinct
+// from its neighbours, so that a field dropped, defaulted or swapped shows; in the fixture's order.
 const Case kFieldCases[] = {
     {Make<omu_ArgNumberErrorException>(3, 7, "points"), "TypeError",
      "points; too many arguments; expected 3, got 7"},
@@ -91,7 +94,8 @@ const Case kFieldCases[] = {
     {Make<omu_KeywordErrorException>("colour", "opts"), "TypeError", "optskeyword error on colour"},
     {Make<omu_KeywordTypeErrorException>("size", "float", "string", "opts"), "TypeError",
      "opts['size']; found string, expecting float"},
-    {Make<Range>("x", 2, "0", 1, "10", 2), "RangeError", "x must be a Float in the range: 0 <= x < 10"},
+    {Make<Range>("x", 2, "0", 1, "10", 2), "RangeError",
+     "x must be a Float in the range: 0 <= x < 10"},
     {Make<g3d_ColorErrorException>("mauve"), "ColorError", "mauve is not a valid color name."},
     {Make<omu_AccessErrorException>("Part-1"), "AccessError", "Part-1 no longer exists"},
     {Make<omu_FontErrorException>("Hershey"), "FontError", "Hershey is not a valid font."},

@@ -37,7 +37,7 @@ private:
 
 class TestPart : public omu_PrimLeaf<TestPart, TestFeature> {
 public:
-  explicit TestPart(std::shared_ptr<TestPartData> data,
+  explicit TestPart(const std::shared_ptr<TestPartData>& data,
                     const omu_OperationRules& rules = omu_OperationRules())
       : omu_PrimLeaf(data, omu_Shortcut("mdb.models['M'].parts['" + data->name.StdString() + "']"),
                      rules) {

@@ -26,9 +26,14 @@ TEST(TextReprThreads, ValuesPrintOnSeveralThreadsAtOnce) {
 
 TEST(StringFromQString, UnquotesOnlyTheMatchingQuoteAndComplainsAboutBadQuoting) {
   const std::pair<const char*, const char*> cases[] = {
-      {"'x'", "x"}, {"\"x\"", "x"}, {"'it\\'s'", "it's"}, {"\"say \\\"hi\\\"\"", "say \"hi\""},
-      {"'a\\\\b\\n'", "a\\\\b\\n"},  // no other unescaping
-      {"'\\\"'", "\\\""}, {"''", ""}, {"", ""}};
+      {"'x'", "x"},
+      {"\"x\"", "x"},
+      {"'it\\'s'", "it's"},
+      {R"("say \"hi\"")", "say \"hi\""},
+      {R"('a\\b\n')", R"(a\\b\n)"},  // no other unescaping
+      {"'\\\"'", "\\\""},
+      {"''", ""},
+      {"", ""}};
   CapturedErrors errors;
   for (const auto& [quoted, text] : cases) EXPECT_EQ(omu_StringFromQString(quoted), text) << quoted;
   EXPECT_EQ(errors.Text(), "");
@@ -38,7 +43,8 @@ TEST(StringFromQString, UnquotesOnlyTheMatchingQuoteAndComplainsAboutBadQuoting)
   CapturedErrors shortOne;
   EXPECT_EQ(omu_StringFromQString("'"), "'");
   EXPECT_EQ(shortOne.Text(),
-            "QuotedString length < 2. '\nomu_StringFromQString(')  QuotedString does not use ' or \". '\n");
+            "QuotedString length < 2. '\nomu_StringFromQString(')  QuotedString does not use ' or "
+            "\". '\n");
 }
 
 // fuzz_quoted_text holds the other brackets, which find empty patterns where they start.
@@ -49,10 +55,9 @@ TEST(GetBracketKeyPos, FindsTheNearerQuotedBracket) {
     char bracket;
     int start;
     int at;
-  } cases[] = {
-      {path, '[', 0, 10},      {path, ']', 0, 16},      {path, '[', 11, 23},
-      {path, ']', 17, 27},     {"['a']", ']', 0, 4},    {"no keys", '[', 0, 7},
-      {"['a']", '[', 99, 5},   {"['a']", ']', -4, 4}};
+  } cases[] = {{path, '[', 0, 10},    {path, ']', 0, 16},   {path, '[', 11, 23},
+               {path, ']', 17, 27},   {"['a']", ']', 0, 4}, {"no keys", '[', 0, 7},
+               {"['a']", '[', 99, 5}, {"['a']", ']', -4, 4}};
   for (const auto& c : cases) {
     EXPECT_EQ(omu_GetBracketKeyPos(c.text, c.bracket, c.start), c.at)
         << c.text << " " << c.bracket << " from " << c.start;

@@ -18,7 +18,10 @@ TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
     const char* recorded;
   } forwardings[] = {
       {[](auto& f) { f.Error("bad mesh", wip_ERROR_SEVERE); }, "Error(bad mesh|1)"},
-      {[](auto& f) { f.ErrorList({"a", "b"}, wip_errorLevelEnm(42)); }, "ErrorList(a;b|42)"},
+      {[](auto& f) {
+         f.ErrorList({"a", "b"}, wip_errorLevelEnm(42));
+       },
+       "ErrorList(a;b|42)"},
       {[](auto& f) { f.Verbose("detail"); }, "Verbose(detail)"},
       {[](auto& f) { f.Warning("thin"); }, "Warning(thin)"},
       {[](auto& f) { f.WarningList({"x"}); }, "WarningList(x)"},
@@ -30,7 +33,10 @@ TEST(WipFront, ForwardsEachOperationUnchangedAndAssertsWithoutAReporter) {
       {[](auto& f) { f.Milestone("inc", -5); }, "Milestone(inc|-5)"},
       {[](auto& f) { EXPECT_EQ(f.Interrupted(), 7); }, "Interrupted()"},
       {[](auto& f) { f.CommandDone(); }, "CommandDone()"},
-      {[](auto& f) { omu_PrimTuple none(1); f.FacilityMessage("thin shell", 3, 1, 2, none); },
+      {[](auto& f) {
+         omu_PrimTuple none(1);
+         f.FacilityMessage("thin shell", 3, 1, 2, none);
+       },
        "Warning(thin shell)"},
       {[](auto& f) { f.InterruptedThrow(); }, "InterruptedThrow()"},
   };

@@ -19,8 +19,7 @@ inline void UTI_StartModule(unsigned int module, typ_ArchCompEntry table,
                             std::initializer_list<UTI_Registration> registrations) {
   typ_ArchCompTable::Instance().InsertEntry(static_cast<int>(module), table);
   for (const UTI_Registration& registration : registrations) {
-    cls_MetadataRegistrar::Instance().initClassMetadata(registration.function,
-                                                        registration.phase);
+    cls_MetadataRegistrar::Instance().initClassMetadata(registration.function, registration.phase);
   }
 }
 

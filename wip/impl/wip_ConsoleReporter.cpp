@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -23,7 +24,7 @@ std::string Rate(double perSecond) {
 }
 
 std::string Duration(double seconds) {
-  const long long whole = static_cast<long long>(seconds + 0.5);
+  const long long whole = std::llround(seconds);
   char text[48];
   if (whole >= 3600) {
     std::snprintf(text, sizeof text, "%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60,
@@ -36,9 +37,12 @@ std::string Duration(double seconds) {
 
 const char* ErrorPrefix(wip_errorLevelEnm level) {
   switch (level) {
-    case wip_ERROR_SEVERE: return "Severe error: ";
-    case wip_ERROR_FATAL: return "Fatal error: ";
-    default: return "Error: ";
+    case wip_ERROR_SEVERE:
+      return "Severe error: ";
+    case wip_ERROR_FATAL:
+      return "Fatal error: ";
+    default:
+      return "Error: ";
   }
 }
 }  // namespace
@@ -51,8 +55,8 @@ double wip_ConsoleReporter::Seconds() const {
   return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-void wip_ConsoleReporter::Emit(std::string text) {
-  m_Out << std::string_view(text);
+void wip_ConsoleReporter::Emit(std::string_view text) {
+  m_Out << text;
   m_Out.Flush();
 }
 
@@ -62,7 +66,7 @@ void wip_ConsoleReporter::Line(std::string_view prefix, std::string_view text) {
   if (!m_ShownBar.empty()) out.append("\r").append(m_ShownBar.size(), ' ').append("\r");
   out.append(prefix).append(text).append("\n");
   out.append(m_ShownBar);  // the bar moves below the message
-  Emit(std::move(out));
+  Emit(out);
 }
 
 void wip_ConsoleReporter::EndBar() {
@@ -109,7 +113,7 @@ void wip_ConsoleReporter::Milestone(const atr_String& task, const atr_String& un
     std::string out = "\r" + text;
     if (text.size() < m_ShownBar.size()) out.append(m_ShownBar.size() - text.size(), ' ');
     m_ShownBar = text;
-    Emit(std::move(out));
+    Emit(out);
   } else {
     const int tenth = total > 0 ? static_cast<int>(static_cast<long long>(done) * 10 / total) : 10;
     if (tenth > m_LastTenth) Emit(text + "\n");

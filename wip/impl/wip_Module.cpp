@@ -6,5 +6,9 @@ namespace {
 omi_UseCounter s_Uses;
 }
 
-void wip_initialize(int& count) { s_Uses.Initialize(count, [] {}); }
-void wip_finalize(int& count) { s_Uses.Finalize(count, [] {}); }
+void wip_initialize(int& count) {
+  s_Uses.Initialize(count, [] {});
+}
+void wip_finalize(int& count) {
+  s_Uses.Finalize(count, [] {});
+}

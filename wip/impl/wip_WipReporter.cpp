@@ -16,10 +16,19 @@ void wip_WipReporter::RouteFacilityMessage(const atr_String& text, int kind) {
     case 0:
     case 1:
     case 2:
-    case 3: Warning(text); break;
-    case 4: Milestone(text); break;
-    case 7: Landmark(text); break;
-    case 8: Verbose(text); break;
-    default: break;  // below 0, 5, 6 and above 8 are dropped
+    case 3:
+      Warning(text);
+      break;
+    case 4:
+      Milestone(text);
+      break;
+    case 7:
+      Landmark(text);
+      break;
+    case 8:
+      Verbose(text);
+      break;
+    default:
+      break;  // below 0, 5, 6 and above 8 are dropped
   }
 }

@@ -89,7 +89,7 @@ protected:
 
 private:
   void Line(std::string_view prefix, std::string_view text);
-  void Emit(std::string text);
+  void Emit(std::string_view text);
   void EndBar();
   std::string ProgressText(std::string_view task, std::string_view unit, int done, int total,
                            double elapsed) const;

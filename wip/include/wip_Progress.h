@@ -19,12 +19,13 @@
 
 class CVX_EXPORT wip_Progress {
 public:
-  /// A task of total units (negative counts as 0), reported through the calling thread's front or the front given (not owned; it must outlive the progress).
+  /// A task of total units (negative counts as 0), reported through the calling thread's front or
+  /// the front given (not owned; it must outlive the progress).
   ///@{
   wip_Progress(const atr_String& task, int total, const atr_String& unit = "items");
   wip_Progress(wip_WIPBase& front, const atr_String& task, int total,
                const atr_String& unit = "items");
-               ///@}
+  ///@}
   /// Not copyable.
   ///@{
   wip_Progress(const wip_Progress&) = delete;

@@ -16,7 +16,7 @@ public:
   atr_String(const atr_StringBase& text) : atr_StringBase(text) {}
   atr_String(const atr_StringBase& text, bool translatable)
       : atr_StringBase(text), m_Translatable(translatable) {}
-      ///@}
+  ///@}
 
   /// The translatable mark.
   ///@{

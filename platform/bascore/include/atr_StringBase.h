@@ -89,7 +89,9 @@ public:
   /// The byte at index; no bounds check.
   char operator[](int index) const noexcept { return View()[static_cast<std::size_t>(index)]; }
   /// True while another copy shares the buffer.
-  bool IsShared() const noexcept { return m_Rep && m_Rep->refs.load(std::memory_order_acquire) > 1; }
+  bool IsShared() const noexcept {
+    return m_Rep && m_Rep->refs.load(std::memory_order_acquire) > 1;
+  }
 
   /// Searches answer Length() when the text does not occur, like an end position.
   ///@{

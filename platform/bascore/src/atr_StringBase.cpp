@@ -40,28 +40,29 @@ atr_StringBase atr_StringBase::Permanent(std::string_view text) {
 }
 
 atr_StringBase::atr_StringBase(int value) {
-  std::array<char, 40> buffer;
+  std::array<char, 40> buffer{};
   *this = atr_StringBase(ToChars(buffer, value));
 }
 
 atr_StringBase::atr_StringBase(unsigned int value) {
-  std::array<char, 40> buffer;
+  std::array<char, 40> buffer{};
   *this = atr_StringBase(ToChars(buffer, value));
 }
 
 atr_StringBase::atr_StringBase(long long value) {
-  std::array<char, 40> buffer;
+  std::array<char, 40> buffer{};
   *this = atr_StringBase(ToChars(buffer, value));
 }
 
 atr_StringBase::atr_StringBase(double value) {
-  std::array<char, 40> buffer;
+  std::array<char, 40> buffer{};
   *this = atr_StringBase(ToChars(buffer, value));
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the shared-buffer test below covers it
 atr_StringBase& atr_StringBase::operator=(const atr_StringBase& other) noexcept {
-  // Already sharing the buffer (a value read again into the same variable): counting a
-  // reference up and down would only cost two atomic operations.
+  // Already sharing the buffer (a value read again into the same variable, or itself): counting
+  // a reference up and down would only cost two atomic operations.
   if (m_Rep == other.m_Rep) return *this;
   if (other.Counted()) other.m_Rep->refs.fetch_add(1, std::memory_order_relaxed);
   if (Counted()) Release();
@@ -117,7 +118,7 @@ int atr_StringBase::Find(char what, int start) const noexcept {
 atr_StringBase atr_StringBase::Substr(int start, int count) const {
   const std::string_view text = View();
   const std::size_t from = Clip(start, text.size());
-  return atr_StringBase(text.substr(from, count < 0 ? 0 : static_cast<std::size_t>(count)));
+  return {text.substr(from, count < 0 ? 0 : static_cast<std::size_t>(count))};
 }
 
 atr_StringBase& atr_StringBase::Append(std::string_view text) {
@@ -139,7 +140,7 @@ atr_StringBase& atr_StringBase::Append(char c) {
 }
 
 atr_StringBase& atr_StringBase::Erase(int start, int count) {
-  const std::size_t size = static_cast<std::size_t>(Length());
+  const auto size = static_cast<std::size_t>(Length());
   const std::size_t from = Clip(start, size);
   if (from < size && count > 0) Mutable().erase(from, static_cast<std::size_t>(count));
   return *this;
@@ -153,7 +154,7 @@ atr_StringBase& atr_StringBase::Insert(int position, std::string_view text) {
 
 atr_StringBase& atr_StringBase::Replace(int start, int count, std::string_view text) {
   const std::string copy(text);
-  const std::size_t size = static_cast<std::size_t>(Length());
+  const auto size = static_cast<std::size_t>(Length());
   Mutable().replace(Clip(start, size), count < 0 ? 0 : static_cast<std::size_t>(count), copy);
   return *this;
 }
@@ -163,7 +164,7 @@ atr_StringBase& atr_StringBase::ReplaceAll(std::string_view from, std::string_vi
   std::string result;
   const std::string_view text = View();
   std::size_t start = 0;
-  for (std::size_t at; (at = text.find(from, start)) != std::string_view::npos;
+  for (std::size_t at = 0; (at = text.find(from, start)) != std::string_view::npos;
        start = at + from.size()) {
     result.append(text.substr(start, at - start)).append(to);
   }

@@ -101,7 +101,7 @@ struct Shared {
   Arena* head = nullptr;  // arenas with room; blocks are taken from the first
   Arena* tail = nullptr;
   std::size_t arenas = 0;
-  int empty = 0;  // listed arenas with no block out
+  int empty = 0;         // listed arenas with no block out
   bool closing = false;  // the program is ending: nothing waits, an arena goes back once empty
 };
 
@@ -228,6 +228,8 @@ void Drop(Shared& shared, Arena* arena) noexcept {
 // Back to its arena, which goes back to operator delete once all of it is free, beyond the
 // few kept. The lock is held.
 void Give(Shared& shared, Block* block) noexcept {
+  // A block's page starts at its address rounded down to the page size.
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   auto* page = reinterpret_cast<Page*>(reinterpret_cast<std::uintptr_t>(block) & ~(kPage - 1));
   Arena* arena = page->arena;
   SetNext(block, arena->free);

@@ -56,7 +56,8 @@ public:
 
   /// Reading.
   int RootCount() const noexcept { return static_cast<int>(m_Roots.size()); }
-  /// Top-level record index as a value, and a reader on it; an index out of range raises nex_TextException.
+  /// Top-level record index as a value, and a reader on it; an index out of range raises
+  /// nex_TextException.
   ///@{
   const cls_Value& RootValue(int index) const;
   cls_ReadVisitor Root(int index) const;

@@ -10,7 +10,7 @@
 struct cls_AttributeName {
   /// The attribute's position among the class's attributes, and its name.
   ///@{
-  int ordinal;
+  int ordinal = 0;
   cow_String name;
   ///@}
 };
@@ -18,15 +18,15 @@ struct cls_AttributeName {
 struct cls_Attribute {
   /// The attribute's position among the class's attributes, and its name.
   ///@{
-  int ordinal;
+  int ordinal = 0;
   cow_String name;
   ///@}
   /// The kind code (cls_AttributeKind).
-  int kind;
+  int kind = 0;
   /// The kind's argument (1 for a plain value).
-  unsigned int typeArgument;
+  unsigned int typeArgument = 0;
   /// Flags, kept for the class's owner.
-  unsigned int flags;
+  unsigned int flags = 0;
 
   friend bool operator==(const cls_Attribute&, const cls_Attribute&) = default;
 };

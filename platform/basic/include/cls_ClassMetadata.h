@@ -19,7 +19,8 @@ public:
   /// Destroys an object of the class, given untyped.
   using Destructor = void (*)(void*);
 
-  /// The class name registered under typeId, its metadata word (a version) and parent; extra is kept for the owner.
+  /// The class name registered under typeId, its metadata word (a version) and parent; extra is
+  /// kept for the owner.
   cls_ClassMetadata(const cow_String& name, unsigned int typeId, unsigned int metadataWord,
                     unsigned int parentTypeId, unsigned int extra = 0);
   /// Not copyable.

@@ -14,7 +14,7 @@
 #include <cstddef>
 
 class cls_DoublesSource {
- public:
+public:
   virtual ~cls_DoublesSource() = default;
   /// The shape of the block, rows x columns, neither negative.
   ///@{

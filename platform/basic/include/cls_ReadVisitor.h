@@ -35,7 +35,8 @@ public:
   /// The field called name; a missing one raises nex_TextException.
   const cls_Value& Field(const char* name) const;
 
-  /// Reads field name into value; a missing field, or one of another kind, raises nex_TextException.
+  /// Reads field name into value; a missing field, or one of another kind, raises
+  /// nex_TextException.
   ///@{
   void Read(const char* name, bool& value) const;
   void Read(const char* name, char& value) const;
@@ -66,7 +67,8 @@ public:
   /// Builds the object held in a value through the registry; null for an empty value.
   /// The object is of the class typeId answers, which must be baseTypeId or derive from it.
   void* Construct(const cls_Value& value, unsigned int baseTypeId, unsigned int& typeId) const;
-  /// The object held in value, or in the field called name, built as Construct does; owned by the caller.
+  /// The object held in value, or in the field called name, built as Construct does; owned by the
+  /// caller.
   ///@{
   template <class T>
   std::unique_ptr<T> ReadObject(const cls_Value& value) const {

@@ -18,9 +18,7 @@ public:
     if constexpr (requires { object->FixReport(); }) object->FixReport();
     return object;
   }
-  void* Clone(const void* object) const override {
-    return new T(*static_cast<const T*>(object));
-  }
+  void* Clone(const void* object) const override { return new T(*static_cast<const T*>(object)); }
 };
 
 /// @}

@@ -22,6 +22,7 @@ public:
   constexpr bool IsNull() const noexcept { return m_Value == 0; }
   /// The number.
   constexpr std::uint64_t Value() const noexcept { return m_Value; }
+  // NOLINTNEXTLINE(modernize-use-nullptr): the defaulted comparison holds no pointer
   friend constexpr auto operator<=>(const cls_Uid&, const cls_Uid&) noexcept = default;
 
 private:

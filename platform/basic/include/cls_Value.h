@@ -50,8 +50,22 @@ public:
   /// The alternatives, in the order of Data's types (NONE is the empty value). A file stores
   /// DOUBLES_SOURCE as DOUBLES, so a value read from one is never DOUBLES_SOURCE.
   enum Kind : std::uint8_t {
-    NONE, BOOL, CHAR, INT, UINT, DOUBLE, TEXT, ENUM, LIST, MATRIX, RECORD, REF, FLOAT, INT64,
-    DOUBLES, DOUBLES_SOURCE
+    NONE,
+    BOOL,
+    CHAR,
+    INT,
+    UINT,
+    DOUBLE,
+    TEXT,
+    ENUM,
+    LIST,
+    MATRIX,
+    RECORD,
+    REF,
+    FLOAT,
+    INT64,
+    DOUBLES,
+    DOUBLES_SOURCE
   };
   /// A list value.
   using List = std::vector<cls_Value>;
@@ -60,15 +74,16 @@ public:
   /// and 8 bytes each in a file.
   using Doubles = cow_2DArray<double>;
   /// The value, one alternative per Kind.
-  using Data = std::variant<std::monostate, bool, char, std::int32_t, std::uint32_t, double,
-                            cow_String, cls_EnumName, List, cls_Matrix,
-                            std::shared_ptr<cls_Record>, cls_Ref, float, std::int64_t, Doubles,
-                            std::shared_ptr<const cls_DoublesSource>>;
+  using Data =
+      std::variant<std::monostate, bool, char, std::int32_t, std::uint32_t, double, cow_String,
+                   cls_EnumName, List, cls_Matrix, std::shared_ptr<cls_Record>, cls_Ref, float,
+                   std::int64_t, Doubles, std::shared_ptr<const cls_DoublesSource>>;
 
   cls_Value() noexcept = default;
   /// A value of any of Data's alternatives.
   template <class T>
-    requires std::is_constructible_v<Data, T&&>
+  requires std::is_constructible_v<Data, T&&>
+  // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): the constraint leaves out cls_Value
   cls_Value(T&& value) : m_Data(std::forward<T>(value)) {}
 
   /// Which alternative the value holds.
@@ -116,8 +131,10 @@ struct cls_Record {
 /// The same kind and the same contents, floating-point numbers bit for bit, nested records
 /// field by field, uids included: what decides whether one record may stand for another.
 ///@{
+// NOLINTBEGIN(bugprone-exception-escape): std::visit throws only for a valueless variant
 BASIC_EXPORT bool Identical(const cls_Value& a, const cls_Value& b) noexcept;
 BASIC_EXPORT bool Identical(const cls_Record& a, const cls_Record& b) noexcept;
+// NOLINTEND(bugprone-exception-escape)
 ///@}
 
 /// @}

@@ -70,15 +70,18 @@ public:
 
 private:
   cls_WriteVisitor(const cls_WriteVisitor& outer, cls_Value* slot, int levels) noexcept
-      : m_Archive(outer.m_Archive), m_Slot(slot), m_ExpectedTypeId(0), m_Depth(outer.m_Depth + levels) {}
+      : m_Archive(outer.m_Archive),
+        m_Slot(slot),
+        m_ExpectedTypeId(0),
+        m_Depth(outer.m_Depth + levels) {}
   cls_WriteVisitor Field(const char* name) const;
   cls_WriteVisitor Item(cls_Value::List& items) const;
   cls_Value::List& BeginList(const char* name, int count) const;
   cls_Record& Current() const;
 
   cls_Archive* m_Archive;
-  cls_Value* m_Slot;                ///< where StartWrite puts the record or the reference
-  unsigned int m_ExpectedTypeId;    ///< 0: any class
+  cls_Value* m_Slot;              ///< where StartWrite puts the record or the reference
+  unsigned int m_ExpectedTypeId;  ///< 0: any class
   int m_Depth = 0;  ///< how deep its slot lies in the archive's values, as the reader counts
   mutable cls_Record* m_Current = nullptr;
 };

@@ -15,7 +15,8 @@ public:
   /// Writes key or value i through the writer it is given.
   using ItemWriter = cls_xcList::ItemWriter;
 
-  /// For writing: count entries whose keys and values the functions write; uid is the map's identity.
+  /// For writing: count entries whose keys and values the functions write; uid is the map's
+  /// identity.
   cls_xcMap(const cls_Uid& uid, int count, ItemWriter writeKey, ItemWriter writeValue);
   /// The map held in a record; raises nex_TextException when the record is not a map or
   /// its key and value counts differ.

@@ -17,9 +17,8 @@ class cls_xo1DArrayList {
 public:
   /// Writes list as the field name, one nested record per item.
   static void Write(const cls_WriteVisitor& writer, const char* name, const cow_List<T>& list) {
-    writer.WriteObjects(name, list.Length(), [&list](int i, const cls_WriteVisitor& item) {
-      list[i].DBWrite(item);
-    });
+    writer.WriteObjects(name, list.Length(),
+                        [&list](int i, const cls_WriteVisitor& item) { list[i].DBWrite(item); });
   }
 
   /// Reads the field name back, one T per item.

@@ -58,11 +58,11 @@ struct cls_xpItem<cls_xp1DArray<T>> {
     cls_Matrix row{1, array.Length(), {}};
     row.cells.reserve(static_cast<std::size_t>(array.Length()));
     for (const T& item : array) row.cells.push_back(cls_xpItem<T>::Encode(item));
-    return cls_Value(std::move(row));
+    return {std::move(row)};
   }
   /// Sets out from a one-row matrix whose every cell decodes; false, out untouched, otherwise.
   static bool Decode(const cls_Value& value, cls_xp1DArray<T>& out) {
-    const cls_Matrix* row = value.As<cls_Matrix>();
+    const auto* row = value.As<cls_Matrix>();
     if (!row || row->rows != 1 || row->columns < 0 ||
         static_cast<std::size_t>(row->columns) != row->cells.size()) {
       return false;

@@ -24,7 +24,7 @@ struct cls_xpScalarItem {
   static cls_Value Encode(const T& value) { return cls_Value(static_cast<Stored>(value)); }
   /// Sets out from a Stored value; false, out untouched, for a value of another kind.
   static bool Decode(const cls_Value& value, T& out) {
-    const Stored* stored = value.As<Stored>();
+    const auto* stored = value.As<Stored>();
     if (stored) out = static_cast<T>(*stored);
     return stored != nullptr;
   }

@@ -30,11 +30,11 @@ struct cls_xpItem<cls_xpList<T>> {
     cls_Value::List items;
     items.reserve(static_cast<std::size_t>(list.Length()));
     for (const T& item : list) items.push_back(cls_xpItem<T>::Encode(item));
-    return cls_Value(std::move(items));
+    return {std::move(items)};
   }
   /// Sets out from a list value whose every item decodes; false, out untouched, otherwise.
   static bool Decode(const cls_Value& value, cls_xpList<T>& out) {
-    const cls_Value::List* items = value.As<cls_Value::List>();
+    const auto* items = value.As<cls_Value::List>();
     if (!items) return false;
     std::vector<T> decoded(items->size());
     for (std::size_t i = 0; i < items->size(); ++i) {

@@ -54,8 +54,8 @@ public:
   bool IsShared() const noexcept { return m_Object.IsShared(); }
 
 private:
-  using Owner = std::conditional_t<std::is_base_of_v<cow_Counted, T>, cow_CountedPtr<T>,
-                                   cow_HeldPtr<T>>;
+  using Owner =
+      std::conditional_t<std::is_base_of_v<cow_Counted, T>, cow_CountedPtr<T>, cow_HeldPtr<T>>;
   Owner m_Object;
 };
 

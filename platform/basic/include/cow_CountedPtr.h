@@ -23,6 +23,8 @@ public:
   cow_CountedPtr(const cow_CountedPtr& other) noexcept : m_Object(other.m_Object) { Retain(); }
   cow_CountedPtr(cow_CountedPtr&& other) noexcept
       : m_Object(std::exchange(other.m_Object, nullptr)) {}
+  // Retaining before releasing keeps self-assignment safe.
+  // NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
   cow_CountedPtr& operator=(const cow_CountedPtr& other) noexcept {
     other.Retain();
     Release();

@@ -47,7 +47,8 @@ public:
   explicit cow_List(std::vector<T> items) : m_Items(std::move(items)) {}
   ///@}
   /// length copies of fill; a negative length gives the empty list.
-  explicit cow_List(int length, const T& fill = T()) : m_Items(std::vector<T>(Count(length), fill)) {}
+  explicit cow_List(int length, const T& fill = T())
+      : m_Items(std::vector<T>(Count(length), fill)) {}
 
   /// The number of elements.
   int Length() const noexcept { return static_cast<int>(Items().size()); }
@@ -107,7 +108,9 @@ public:
   /// True while another copy shares the elements.
   bool IsShared() const noexcept { return m_Items.IsShared(); }
   /// True when other is a copy still sharing this list's elements.
-  bool SharesWith(const cow_List& other) const noexcept { return m_Items.SharesWith(other.m_Items); }
+  bool SharesWith(const cow_List& other) const noexcept {
+    return m_Items.SharesWith(other.m_Items);
+  }
 
   friend bool operator==(const cow_List& a, const cow_List& b) {
     if (cow_ReflexiveEquality<T>::value && a.SharesWith(b)) return true;

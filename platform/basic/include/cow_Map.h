@@ -50,7 +50,9 @@ public:
   /// Stores value under key, replacing any.
   ///@{
   void Insert(const K& key, const V& value) { m_Entries.Write().insert_or_assign(key, value); }
-  void Insert(const K& key, V&& value) { m_Entries.Write().insert_or_assign(key, std::move(value)); }
+  void Insert(const K& key, V&& value) {
+    m_Entries.Write().insert_or_assign(key, std::move(value));
+  }
   ///@}
   /// Removes key's entry; false, un-sharing nothing, when there is none.
   bool Remove(const K& key) { return Contains(key) && m_Entries.Write().erase(key) != 0; }

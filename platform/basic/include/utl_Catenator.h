@@ -16,7 +16,9 @@ public:
     m_Buffer.append(text);
     return *this;
   }
-  utl_Catenator& operator<<(const char* text) { return *this << std::string_view(text ? text : ""); }
+  utl_Catenator& operator<<(const char* text) {
+    return *this << std::string_view(text ? text : "");
+  }
   utl_Catenator& operator<<(const atr_StringBase& text) { return *this << text.View(); }
   utl_Catenator& operator<<(char c) {
     m_Buffer.push_back(c);
@@ -28,7 +30,7 @@ public:
   ///@}
 
   /// The text so far, as a new string.
-  cow_String String() const { return cow_String(std::string_view(m_Buffer)); }
+  cow_String String() const { return {std::string_view(m_Buffer)}; }
   /// The text so far, valid until the next change.
   std::string_view View() const noexcept { return m_Buffer; }
   /// In bytes.

@@ -1,9 +1,9 @@
 #include <QRLCvuBasicUtils.h>
 #include <cls_MetadataRegistrar.h>
+#include <cls_xcMap.h>
 #include <nex_AssertException.h>
 #include <nex_CommandException.h>
 #include <nex_TextException.h>
-#include <cls_xcMap.h>
 #include <omi_UseCounter.h>
 
 namespace {

@@ -1,7 +1,7 @@
 #include <cls_Archive.h>
+#include <nex_TextException.h>
 #include "cls_ArchiveCodec.h"
 #include "cls_FileSystem.h"
-#include <nex_TextException.h>
 
 namespace {
 constexpr const char* kSource = "cls/impl/cls_Archive";
@@ -13,9 +13,9 @@ std::string PathText(const std::filesystem::path& path) {
 }
 
 [[noreturn]] void FileError(const char* what, const std::filesystem::path& path) {
-  NEX_THROW(nex_TextException(atr_StringBase::Format("archive '%s': %s", PathText(path).c_str(),
-                                                     what)),
-            kSource);
+  NEX_THROW(
+      nex_TextException(atr_StringBase::Format("archive '%s': %s", PathText(path).c_str(), what)),
+      kSource);
 }
 }  // namespace
 
@@ -33,10 +33,10 @@ const cls_Value& cls_Archive::RootValue(int index) const {
 cls_ReadVisitor cls_Archive::Root(int index) const {
   const cls_Value& value = RootValue(index);
   if (const auto* record = value.As<std::shared_ptr<cls_Record>>()) {
-    return cls_ReadVisitor(*this, **record);
+    return {*this, **record};
   }
-  if (const cls_Ref* ref = value.As<cls_Ref>()) {
-    if (const cls_Record* target = FindUid(ref->uid)) return cls_ReadVisitor(*this, *target);
+  if (const auto* ref = value.As<cls_Ref>()) {
+    if (const cls_Record* target = FindUid(ref->uid)) return {*this, *target};
   }
   NEX_THROW(nex_TextException(atr_StringBase::Format("archive record %d holds no object", index)),
             kSource);

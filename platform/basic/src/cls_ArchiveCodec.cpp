@@ -123,10 +123,8 @@ private:
   void Data(bool b) { Put<std::uint8_t>(b ? 1 : 0); }
   void Data(char c) { Put(static_cast<std::uint8_t>(c)); }
   template <class N>
-    requires std::is_arithmetic_v<N>
-  void Data(N number) {
-    Put(number);
-  }
+  requires std::is_arithmetic_v<N>
+  void Data(N number) { Put(number); }
   void Data(const cow_String& text) { Text(text.View()); }
   void Data(const cls_EnumName& name) { Text(name.name.View()); }
   void Data(const cls_Value::List& items) {
@@ -138,9 +136,9 @@ private:
     // fails instead, so no file is replaced by one that cannot be read back.
     if (matrix.rows < 0 || matrix.columns < 0 ||
         matrix.cells.size() != CellCount(matrix.rows, matrix.columns)) {
-      NEX_THROW(nex_TextException(atr_StringBase::Format(
-                    "archive: an array of %d x %d cannot hold %zu cells", matrix.rows,
-                    matrix.columns, matrix.cells.size())),
+      NEX_THROW(nex_TextException(
+                    atr_StringBase::Format("archive: an array of %d x %d cannot hold %zu cells",
+                                           matrix.rows, matrix.columns, matrix.cells.size())),
                 kSource);
     }
     Put<std::int32_t>(matrix.rows);
@@ -194,9 +192,9 @@ public:
   std::uint32_t version = cls_Archive::Version;
 
   [[noreturn]] void Fail(const char* what) const {
-    NEX_THROW(nex_TextException(atr_StringBase::Format(
-                  "archive '%.*s': %s at byte %zu", static_cast<int>(m_Origin.size()),
-                  m_Origin.data(), what, m_Base + m_At)),
+    NEX_THROW(nex_TextException(atr_StringBase::Format("archive '%.*s': %s at byte %zu",
+                                                       static_cast<int>(m_Origin.size()),
+                                                       m_Origin.data(), what, m_Base + m_At)),
               kSource);
   }
 
@@ -210,12 +208,12 @@ public:
   }
   // A count of items that each take at least one byte: more than the bytes left is corrupt.
   std::size_t Count() {
-    const std::uint32_t count = Get<std::uint32_t>();
+    const auto count = Get<std::uint32_t>();
     if (count > m_Bytes.size() - m_At) Fail("a count larger than the data left");
     return count;
   }
   cow_String Text() {
-    const std::uint32_t length = Get<std::uint32_t>();
+    const auto length = Get<std::uint32_t>();
     Need(length);
     cow_String text(std::string_view(m_Bytes.data() + m_At, length));
     m_At += length;
@@ -225,20 +223,34 @@ public:
     if (depth > cls_Archive::MaxDepth) Fail("values nest too deeply");
     const auto kind = static_cast<cls_Value::Kind>(Get<std::uint8_t>());
     switch (kind) {
-      case cls_Value::NONE: return cls_Value();
-      case cls_Value::BOOL: return Bool();
-      case cls_Value::CHAR: return static_cast<char>(Get<std::uint8_t>());
-      case cls_Value::INT: return Get<std::int32_t>();
-      case cls_Value::UINT: return Get<std::uint32_t>();
-      case cls_Value::DOUBLE: return Get<double>();
-      case cls_Value::FLOAT: return Get<float>();
-      case cls_Value::INT64: return Get<std::int64_t>();
-      case cls_Value::TEXT: return Text();
-      case cls_Value::ENUM: return cls_EnumName{Text()};
-      case cls_Value::LIST: return List(depth);
-      case cls_Value::MATRIX: return Matrix(depth);
-      case cls_Value::RECORD: return Record(depth);
-      case cls_Value::REF: return cls_Ref{Fresh(Get<std::uint64_t>())};
+      case cls_Value::NONE:
+        return {};
+      case cls_Value::BOOL:
+        return Bool();
+      case cls_Value::CHAR:
+        return static_cast<char>(Get<std::uint8_t>());
+      case cls_Value::INT:
+        return Get<std::int32_t>();
+      case cls_Value::UINT:
+        return Get<std::uint32_t>();
+      case cls_Value::DOUBLE:
+        return Get<double>();
+      case cls_Value::FLOAT:
+        return Get<float>();
+      case cls_Value::INT64:
+        return Get<std::int64_t>();
+      case cls_Value::TEXT:
+        return Text();
+      case cls_Value::ENUM:
+        return cls_EnumName{Text()};
+      case cls_Value::LIST:
+        return List(depth);
+      case cls_Value::MATRIX:
+        return Matrix(depth);
+      case cls_Value::RECORD:
+        return Record(depth);
+      case cls_Value::REF:
+        return cls_Ref{Fresh(Get<std::uint64_t>())};
       case cls_Value::DOUBLES:
         if (version >= 2) return Doubles();
         break;
@@ -257,13 +269,13 @@ private:
   // The process's own identity for an identity of the file: objects that shared one in the
   // file share one again, and none collides with an object the process made itself.
   cls_Uid Fresh(std::uint64_t fileUid) {
-    if (fileUid == 0) return cls_Uid();
+    if (fileUid == 0) return {};
     const auto [at, added] = m_Fresh.try_emplace(fileUid);
     if (added) at->second = cls_Uid::AllocateUid();
     return at->second;
   }
   cls_Value Bool() {
-    const std::uint8_t b = Get<std::uint8_t>();
+    const auto b = Get<std::uint8_t>();
     if (b > 1) Fail("a bool that is neither 0 nor 1");
     return b == 1;
   }
@@ -361,10 +373,8 @@ struct DumpVisitor {
   void operator()(double d) const { out << atr_StringBase(d).View() << '\n'; }
   void operator()(float f) const { out << atr_StringBase(static_cast<double>(f)).View() << "f\n"; }
   template <class N>
-    requires std::is_integral_v<N>
-  void operator()(N n) const {
-    out << n << '\n';
-  }
+  requires std::is_integral_v<N>
+  void operator()(N n) const { out << n << '\n'; }
   void operator()(const cow_String& text) const { out << '"' << text.View() << "\"\n"; }
   void operator()(const cls_EnumName& name) const { out << name.name.View() << '\n'; }
   void operator()(const cls_Value::List& items) const {

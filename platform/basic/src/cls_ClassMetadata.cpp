@@ -3,8 +3,8 @@
 
 namespace {
 [[noreturn]] void Abstract(const cow_String& name, const char* what) {
-  NEX_THROW(nex_TextException(atr_StringBase::Format("class %s is abstract: it cannot %s",
-                                                     name.CStr(), what)),
+  NEX_THROW(nex_TextException(
+                atr_StringBase::Format("class %s is abstract: it cannot %s", name.CStr(), what)),
             "cls/impl/cls_ClassMetadata");
 }
 }  // namespace

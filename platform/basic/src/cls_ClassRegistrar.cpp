@@ -23,9 +23,9 @@ cls_ClassMetadata& cls_ClassRegistrar::AddClassMD(cls_ClassMetadata* metadata) {
 
 const cls_ClassMetadata& cls_ClassRegistrar::Get(unsigned int typeId) const {
   if (const cls_ClassMetadata* metadata = Find(typeId)) return *metadata;
-  NEX_THROW(nex_TextException(atr_StringBase::Format("no class is registered with type id 0x%x",
-                                                     typeId)),
-            "cls/impl/cls_ClassRegistrar");
+  NEX_THROW(
+      nex_TextException(atr_StringBase::Format("no class is registered with type id 0x%x", typeId)),
+      "cls/impl/cls_ClassRegistrar");
 }
 
 bool cls_ClassRegistrar::IsA(unsigned int typeId, unsigned int baseTypeId) const noexcept {

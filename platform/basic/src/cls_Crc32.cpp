@@ -33,8 +33,7 @@ const Tables& SliceTables() noexcept {
 std::uint32_t Slices(const unsigned char* at, std::size_t size, std::uint32_t crc) noexcept {
   const Tables& t = SliceTables();
   for (; size >= 8; at += 8, size -= 8) {
-    const std::uint32_t low =
-        crc ^ (at[0] | at[1] << 8 | at[2] << 16 | std::uint32_t{at[3]} << 24);
+    const std::uint32_t low = crc ^ (at[0] | at[1] << 8 | at[2] << 16 | std::uint32_t{at[3]} << 24);
     crc = t[7][low & 0xFFu] ^ t[6][(low >> 8) & 0xFFu] ^ t[5][(low >> 16) & 0xFFu] ^
           t[4][low >> 24] ^ t[3][at[4]] ^ t[2][at[5]] ^ t[1][at[6]] ^ t[0][at[7]];
   }

@@ -29,11 +29,9 @@ cls_ReadVisitor::cls_ReadVisitor(const cls_ReadVisitor& outer, unsigned int pare
 }
 
 void cls_ReadVisitor::Fail(const char* what) const {
-  NEX_THROW(nex_TextException(atr_StringBase::Format("archive record %s (uid %llu): %s",
-                                                     ClassLabel(m_Record->typeId).CStr(),
-                                                     static_cast<unsigned long long>(
-                                                         m_Record->uid.Value()),
-                                                     what)),
+  NEX_THROW(nex_TextException(atr_StringBase::Format(
+                "archive record %s (uid %llu): %s", ClassLabel(m_Record->typeId).CStr(),
+                static_cast<unsigned long long>(m_Record->uid.Value()), what)),
             "cls/impl/cls_ReadVisitor");
 }
 
@@ -89,10 +87,10 @@ const cls_Value::List& cls_ReadVisitor::ReadList(const char* name) const {
 
 cls_ReadVisitor cls_ReadVisitor::Nested(const cls_Value& value) const {
   if (const auto* record = value.As<std::shared_ptr<cls_Record>>()) {
-    return cls_ReadVisitor(*this, **record);
+    return {*this, **record};
   }
-  if (const cls_Ref* ref = value.As<cls_Ref>()) {
-    if (const cls_Record* target = m_Archive->FindUid(ref->uid)) return cls_ReadVisitor(*this, *target);
+  if (const auto* ref = value.As<cls_Ref>()) {
+    if (const cls_Record* target = m_Archive->FindUid(ref->uid)) return {*this, *target};
     Fail(atr_StringBase::Format("it refers to uid %llu, which no record has",
                                 static_cast<unsigned long long>(ref->uid.Value()))
              .CStr());

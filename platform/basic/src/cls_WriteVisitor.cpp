@@ -9,10 +9,9 @@ constexpr const char* kSource = "cls/impl/cls_WriteVisitor";
 }
 
 cls_WriteVisitor::cls_WriteVisitor(cls_Archive& archive)
-    : m_Archive(&archive), m_Slot(nullptr), m_ExpectedTypeId(0) {
-  archive.m_Roots.push_back(std::make_unique<cls_Value>());
-  m_Slot = archive.m_Roots.back().get();
-}
+    : m_Archive(&archive),
+      m_Slot(archive.m_Roots.emplace_back(std::make_unique<cls_Value>()).get()),
+      m_ExpectedTypeId(0) {}
 
 cls_WriteVisitor::cls_WriteVisitor(const cls_WriteVisitor& outer, unsigned int parentTypeId)
     : m_Archive(outer.m_Archive),

@@ -3,7 +3,10 @@
 #include <cls_xcMap.h>
 
 cls_xcMap::cls_xcMap(const cls_Uid& uid, int count, ItemWriter writeKey, ItemWriter writeValue)
-    : m_Uid(uid), m_Count(count), m_WriteKey(std::move(writeKey)), m_WriteValue(std::move(writeValue)) {}
+    : m_Uid(uid),
+      m_Count(count),
+      m_WriteKey(std::move(writeKey)),
+      m_WriteValue(std::move(writeValue)) {}
 
 cls_xcMap::cls_xcMap(const cls_ReadVisitor& reader) : m_Reader(reader) {
   if (reader.TypeId() != TypeId()) reader.Fail("a map was expected here");

@@ -5,8 +5,7 @@
 #include <nex_CommandException.h>
 
 nex_CommandException::nex_CommandException(const cls_ReadVisitor& reader)
-    : nex_Exception(cls_ReadVisitor(reader, nex_Exception::TypeId())),
-      m_CommandUid(reader.Uid()) {}
+    : nex_Exception(cls_ReadVisitor(reader, nex_Exception::TypeId())), m_CommandUid(reader.Uid()) {}
 
 atr_String nex_CommandException::AsString() const { return JournalMessage(); }
 
@@ -23,6 +22,6 @@ unsigned int nex_CommandException::TypeId() noexcept {
 }
 
 void nex_CommandException::InitializeMetadata(cls_ClassRegistrar& registrar) {
-  registrar.AddClassMD(new cls_AbsTypeAdapter<nex_CommandException>(
-      "nex_CommandException", 800, nex_Exception::TypeId()));
+  registrar.AddClassMD(new cls_AbsTypeAdapter<nex_CommandException>("nex_CommandException", 800,
+                                                                    nex_Exception::TypeId()));
 }

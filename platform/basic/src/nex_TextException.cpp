@@ -14,13 +14,11 @@ void nex_TextException::DBWrite(const cls_WriteVisitor& writer) const {
   writer.Write("text", m_Text);
 }
 
-unsigned int nex_TextException::TypeId() noexcept {
-  return cls_MakeTypeId(cls_ExceptionModule, 2);
-}
+unsigned int nex_TextException::TypeId() noexcept { return cls_MakeTypeId(cls_ExceptionModule, 2); }
 
 void nex_TextException::InitializeMetadata(cls_ClassRegistrar& registrar) {
   registrar
-      .AddClassMD(new cls_TypeAdapter<nex_TextException>("nex_TextException", 800,
-                                                         nex_Exception::TypeId()))
+      .AddClassMD(
+          new cls_TypeAdapter<nex_TextException>("nex_TextException", 800, nex_Exception::TypeId()))
       .AddAttribute({0, "text"}, cls_KIND_STRING);
 }

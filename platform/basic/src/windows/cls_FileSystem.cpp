@@ -101,8 +101,8 @@ struct Target {
 fs::path FinalPath(const Handle& file) {
   std::wstring text(MAX_PATH, L'\0');
   for (;;) {
-    const DWORD length = ::GetFinalPathNameByHandleW(file.Get(), text.data(),
-                                                     static_cast<DWORD>(text.size()), 0);
+    const DWORD length =
+        ::GetFinalPathNameByHandleW(file.Get(), text.data(), static_cast<DWORD>(text.size()), 0);
     if (length == 0) Fail("cannot be written");
     if (length < text.size()) {
       text.resize(length);
