@@ -215,6 +215,7 @@ int FormatGeneral(double value, char* out) noexcept {
 
 // Defined here as well, so that the library holds a copy to export: on Windows, code that takes
 // its address imports it with the class.
+constexpr int omu_PrimNumber::MaxDoubleText;  // NOLINT(readability-redundant-declaration)
 
 const omu_PrimEnumRow* omu_PrimEnumTable<omu_PrimNumber::DataTypeEnm, 1>::Rows() noexcept {
   static constexpr omu_PrimEnumRow rows[] = {{"SCHAR", omu_PrimNumber::SCHAR},
