@@ -6,7 +6,7 @@
 
 namespace {
 template <class T>
-constexpr bool IsRow = py_Castable<T>&& omu_Puttable<T>&& omu_Gettable<T>;
+concept IsRow = py_Castable<T> && omu_Puttable<T> && omu_Gettable<T>;
 
 template <class T>
 py_ScalarTable::Row RowOf() {

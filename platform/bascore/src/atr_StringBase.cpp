@@ -8,10 +8,13 @@
 #include <utility>
 
 namespace {
+// The number as std::to_chars writes it.
 template <class Number>
-std::string_view ToChars(std::array<char, 40>& buffer, Number value) {
-  auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  return {buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())};
+atr_StringBase NumberText(Number value) {
+  std::array<char, 40> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return atr_StringBase(
+      std::string_view(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())));
 }
 
 std::size_t Clip(int position, std::size_t size) {
@@ -39,25 +42,13 @@ atr_StringBase atr_StringBase::Permanent(std::string_view text) {
   return permanent;
 }
 
-atr_StringBase::atr_StringBase(int value) {
-  std::array<char, 40> buffer{};
-  *this = atr_StringBase(ToChars(buffer, value));
-}
+atr_StringBase::atr_StringBase(int value) : atr_StringBase(NumberText(value)) {}
 
-atr_StringBase::atr_StringBase(unsigned int value) {
-  std::array<char, 40> buffer{};
-  *this = atr_StringBase(ToChars(buffer, value));
-}
+atr_StringBase::atr_StringBase(unsigned int value) : atr_StringBase(NumberText(value)) {}
 
-atr_StringBase::atr_StringBase(long long value) {
-  std::array<char, 40> buffer{};
-  *this = atr_StringBase(ToChars(buffer, value));
-}
+atr_StringBase::atr_StringBase(long long value) : atr_StringBase(NumberText(value)) {}
 
-atr_StringBase::atr_StringBase(double value) {
-  std::array<char, 40> buffer{};
-  *this = atr_StringBase(ToChars(buffer, value));
-}
+atr_StringBase::atr_StringBase(double value) : atr_StringBase(NumberText(value)) {}
 
 // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the shared-buffer test below covers it
 atr_StringBase& atr_StringBase::operator=(const atr_StringBase& other) noexcept {
